@@ -1,0 +1,16 @@
+// Locations.
+#pragma once
+
+#include "Platform/Foundation/NSString.hpp"
+
+namespace NS {
+
+class URL : public ObjC::Class_<URL, Object, "NSURL"> {
+public:
+    using Class_::Class_;
+
+    static URL fileURLWithPath(const String& path) { return sendClass<URL, "fileURLWithPath:">(path); }
+    String path() const { return send<String, "path">(); }
+};
+
+}

@@ -1,0 +1,93 @@
+// Plain C++ functions as method implementations, and new classes made of them.
+#pragma once
+
+#include "Platform/ObjC/Encoding.hpp"
+#include "Platform/ObjC/Object.hpp"
+
+namespace ObjC {
+
+/// A value as a method hands it back: an object autoreleased, or owned by the caller.
+template <class T, bool owned>
+inline WireType<T> returned(T value)
+{
+    if constexpr (Handle<T>)
+        return owned ? value.leak() : value.autoreleased();
+    else
+        return toWire(value);
+}
+
+/// Adapts `Result function(Self, SEL, Arguments…)` to the calling convention of a method. `owned` follows the
+/// selector: the result of an initializer and the like belongs to the caller.
+template <auto function, bool owned = false>
+struct Adapter;
+
+template <class Result, class Self, class... Arguments, Result (*function)(Self, SEL, Arguments...), bool owned>
+struct Adapter<function, owned> {
+    static constexpr std::size_t arity = sizeof...(Arguments);
+    using ResultType = Result;
+
+    static WireType<Result> call(id self, SEL command, WireType<Arguments>... arguments)
+    {
+        if constexpr (std::is_void_v<Result>)
+            function(std::remove_cvref_t<Self>(self), command, fromWire<std::remove_cvref_t<Arguments>>(arguments)...);
+        else
+            return returned<Result, owned>(function(
+                std::remove_cvref_t<Self>(self), command, fromWire<std::remove_cvref_t<Arguments>>(arguments)...));
+    }
+    static IMP implementation() { return reinterpret_cast<IMP>(&call); }
+    static const char* types() { return methodEncoding<Result, Arguments...>.text.data(); }
+};
+
+/// Makes a new class. Its methods are plain functions; `build` registers it with the runtime.
+class ClassBuilder {
+public:
+    ClassBuilder(const char* name, Class superclass)
+        : class_(superclass ? objc_allocateClassPair(superclass, name, 0) : nullptr)
+    {
+    }
+
+    template <class T>
+    ClassBuilder& ivar(const char* name)
+    {
+        constexpr std::uint8_t alignment = alignof(T) == 8 ? 3 : alignof(T) == 4 ? 2 : alignof(T) == 2 ? 1 : 0;
+        if (class_)
+            class_addIvar(class_, name, sizeof(T), alignment, encodingOf<T>().data());
+        return *this;
+    }
+
+    template <FixedString name, auto function>
+    ClassBuilder& method()
+    {
+        return add<name, function>(class_);
+    }
+
+    template <FixedString name, auto function>
+    ClassBuilder& classMethod()
+    {
+        return add<name, function>(class_ ? object_getClass(reinterpret_cast<id>(class_)) : nullptr);
+    }
+
+    /// The registered class; nil if the name was taken or the superclass is missing.
+    Class build()
+    {
+        if (class_)
+            objc_registerClassPair(class_);
+        return class_;
+    }
+
+private:
+    template <FixedString name, auto function>
+    ClassBuilder& add(Class target)
+    {
+        using Method = Adapter<function, returnsOwned(name.view())>;
+        static_assert(
+            Method::arity == argumentCount(name.view()), "a selector takes one argument for each colon in its name");
+        if (target)
+            class_addMethod(target, selector<name>(), Method::implementation(), Method::types());
+        return *this;
+    }
+
+    Class class_;
+};
+
+}
