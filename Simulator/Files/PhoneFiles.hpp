@@ -1,0 +1,78 @@
+// The phone's file system: absolute phone paths mapped under one folder of the host,
+// with injected faults and a record of what the shell writes.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace Simulator {
+
+enum class FileOperation { Read, Write, Rename };
+enum class WriteMode { Direct, Atomic };
+
+/// A value, or the errno that says why there is none.
+template <typename T>
+struct FileResult {
+    T value{};
+    int error = 0;
+    explicit operator bool() const { return error == 0; }
+};
+
+class PhoneFiles {
+public:
+    /// Called for every write the shell asks for: the phone path and 0 or the errno.
+    using WriteObserver = std::function<void(const std::string& path, int error)>;
+
+    static PhoneFiles& shared();
+
+    /// The host folder that is the phone's "/". Its links are resolved once, here.
+    void setRoot(const std::string& hostPath);
+    const std::string& root() const { return _root; }
+
+    /// True for a path in one of the phone's top-level folders; false for what is the host's own (/usr, /etc, /tmp …).
+    bool isPhonePath(std::string_view path) const;
+    /// The path without links of the system, doubled slashes, "." and "..": "/User/x" is "/var/mobile/x".
+    static std::string canonicalPath(std::string_view phonePath);
+    /// Where the phone's path lies on the host; never outside the root by its text.
+    std::string hostPath(std::string_view phonePath) const;
+    /// The phone's path of a host path under the root; any other path comes back unchanged.
+    std::string phonePath(std::string_view hostPath) const;
+
+    /// As the shell process does it: faults apply, writes are recorded. Errors are errno values, 0 is success.
+    FileResult<std::string> read(std::string_view phonePath) const;
+    int write(std::string_view phonePath, std::string_view bytes, WriteMode mode);
+    /// Names in bytewise order, without "." and "..".
+    FileResult<std::vector<std::string>> list(std::string_view phonePath) const;
+    /// A folder goes with all that is in it.
+    int remove(std::string_view phonePath);
+    int rename(std::string_view from, std::string_view to);
+    int createFolder(std::string_view phonePath, bool withParents);
+    bool exists(std::string_view phonePath) const;
+    bool isFolder(std::string_view phonePath) const;
+
+    /// As a tester's hand does it: no faults, no record, parent folders are made.
+    FileResult<std::string> fetch(std::string_view phonePath) const;
+    int put(std::string_view phonePath, std::string_view bytes);
+
+    /// The operation fails with `error` at the path and below it; 0 takes the fault away.
+    void setFault(std::string_view phonePath, FileOperation, int error);
+    void clearFaults() { _faults.clear(); }
+    int fault(std::string_view phonePath, FileOperation) const;
+    void setWriteObserver(WriteObserver observer) { _observer = std::move(observer); }
+
+private:
+    /// The host path if no link on the way leads out of the root.
+    FileResult<std::string> safeHostPath(std::string_view phonePath) const;
+    int writeDirectly(const std::string& hostPath, std::string_view bytes, int fault) const;
+    int writeAtomically(const std::string& hostPath, std::string_view bytes, int writeFault, int renameFault) const;
+
+    std::string _root;
+    std::map<std::pair<std::string, FileOperation>, int> _faults;
+    WriteObserver _observer;
+};
+
+}
