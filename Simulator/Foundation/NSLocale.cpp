@@ -1,0 +1,123 @@
+// The user's locale and languages, and the phone's keys for the parts of a locale.
+#include "Platform/Foundation/NSLocale.hpp"
+#include "Platform/Foundation/NSArray.hpp"
+#include "Platform/Foundation/NSDictionary.hpp"
+#include "Simulator/Foundation/Mending.hpp"
+#include "Simulator/Foundation/PhoneLocale.hpp"
+#include "Simulator/Foundation/Registrations.hpp"
+#include "Simulator/Foundation/Texts.hpp"
+
+#include <array>
+
+namespace Simulator {
+
+namespace {
+
+struct KeyName {
+    std::string_view gnustep;
+    std::string_view phone;
+};
+constexpr std::array keyNames = {
+    KeyName{"NSLocaleIdentifier", "kCFLocaleIdentifierKey"},
+    KeyName{"NSLocaleLanguageCode", "kCFLocaleLanguageCodeKey"},
+    KeyName{"NSLocaleCountryCode", "kCFLocaleCountryCodeKey"},
+    KeyName{"NSLocaleScriptCode", "kCFLocaleScriptCodeKey"},
+    KeyName{"NSLocaleVariantCode", "kCFLocaleVariantCodeKey"},
+    KeyName{"NSLocaleCalendar", "kCFLocaleCalendarKey"},
+    KeyName{"NSLocaleCurrencyCode", "kCFLocaleCurrencyCodeKey"},
+    KeyName{"NSLocaleDecimalSeparator", "kCFLocaleDecimalSeparatorKey"},
+};
+
+IMP stockComponents = nullptr;
+IMP stockIdentifier = nullptr;
+IMP stockObjectForKey = nullptr;
+
+// Asked for at every refresh of the clock, so the object is kept as long as the user keeps the locale.
+NS::Locale NSLocale_currentLocale(Class, SEL)
+{
+    static constinit ObjC::Variable<NS::Locale> current;
+    static auto* identifier = new std::string;
+    if (!current || *identifier != PhoneLocale::shared().locale) {
+        *identifier = PhoneLocale::shared().locale;
+        current = NS::Locale::make<"initWithLocaleIdentifier:">(stringOf(*identifier));
+    }
+    return current;
+}
+
+NS::Array NSLocale_preferredLanguages(Class, SEL)
+{
+    const NS::MutableArray languages = NS::MutableArray::make();
+    for (const auto& language : PhoneLocale::shared().languages)
+        languages.addObject(stringOf(language));
+    return languages;
+}
+
+NS::Dictionary NSLocale_componentsFromLocaleIdentifier(id self, SEL command, NS::String identifier)
+{
+    const NS::MutableDictionary result = NS::MutableDictionary::make();
+    if (!identifier)
+        return result;
+    const auto stock = ObjC::callImplementation<NS::Dictionary>(stockComponents, self, command, identifier);
+    const NS::Array keys = stock.allKeys();
+    for (unsigned long index = 0; index < keys.count(); ++index) {
+        NS::String key = keys.at<NS::String>(index);
+        const NS::Object value = stock.objectForKey<NS::Object>(key);
+        for (const auto& name : keyNames) {
+            if (key.utf8() == name.gnustep)
+                key = stringOf(name.phone);
+        }
+        result.setObject(value, key);
+    }
+    return result;
+}
+
+NS::String NSLocale_localeIdentifierFromComponents(id self, SEL command, NS::Dictionary components)
+{
+    const NS::MutableDictionary stock = NS::MutableDictionary::make();
+    for (const auto& name : keyNames) {
+        for (const std::string_view key : {name.gnustep, name.phone}) {
+            if (const auto value = components.objectForKey<NS::Object>(stringOf(key)))
+                stock.setObject(value, stringOf(name.gnustep));
+        }
+    }
+    return ObjC::callImplementation<NS::String>(stockIdentifier, self, command, stock);
+}
+
+// A locale keeps its parts under the keys of componentsFromLocaleIdentifier:, and all else under GNUstep's own.
+ObjC::Object NSLocale_objectForKey(id self, SEL command, NS::String key)
+{
+    const auto stock = [&](const NS::String& name) {
+        return ObjC::callImplementation<ObjC::Object>(stockObjectForKey, self, command, name);
+    };
+    if (ObjC::Object value = key ? stock(key) : ObjC::Object())
+        return value;
+    for (const auto& name : keyNames) {
+        if (key && key.utf8() == name.phone)
+            return stock(stringOf(name.gnustep));
+        if (key && key.utf8() == name.gnustep)
+            return stock(stringOf(name.phone));
+    }
+    return nullptr;
+}
+
+IMP stockClassMethod(const char* selectorName)
+{
+    return method_getImplementation(class_getClassMethod(objc_getClass("NSLocale"), sel_registerName(selectorName)));
+}
+
+}
+
+void registerNSLocale()
+{
+    stockComponents = stockClassMethod("componentsFromLocaleIdentifier:");
+    stockIdentifier = stockClassMethod("localeIdentifierFromComponents:");
+    stockObjectForKey = class_getMethodImplementation(objc_getClass("NSLocale"), sel_registerName("objectForKey:"));
+    replaceClassMethod<NSLocale_currentLocale>("NSLocale", "currentLocale");
+    replaceClassMethod<NSLocale_currentLocale>("NSLocale", "autoupdatingCurrentLocale");
+    replaceClassMethod<NSLocale_preferredLanguages>("NSLocale", "preferredLanguages");
+    replaceClassMethod<NSLocale_componentsFromLocaleIdentifier>("NSLocale", "componentsFromLocaleIdentifier:");
+    replaceClassMethod<NSLocale_localeIdentifierFromComponents>("NSLocale", "localeIdentifierFromComponents:");
+    replaceInFamily<NSLocale_objectForKey>("NSLocale", "objectForKey:");
+}
+
+}

@@ -1,0 +1,67 @@
+// The system log: on standard error and, for what the extension says, in the activity log.
+#include "Platform/Foundation/NSLog.hpp"
+#include "Simulator/Foundation/Registrations.hpp"
+#include "Simulator/Foundation/Texts.hpp"
+#include "Simulator/Runtime/ActivityLog.hpp"
+
+#include <cstdarg>
+#include <cstdio>
+#include <string>
+
+#include <dlfcn.h>
+
+namespace Simulator {
+
+namespace {
+
+// GNUstep reports its own troubles through the same function; they are none of the phone's.
+bool isFoundationItself(void* caller)
+{
+    Dl_info info;
+    return dladdr(caller, &info) && info.dli_fname
+        && std::string_view(info.dli_fname).find("libgnustep-base") != std::string_view::npos;
+}
+
+std::string formatted(id format, va_list arguments)
+{
+    using InitWithFormat = id (*)(id, SEL, id, va_list);
+    const SEL command = ObjC::selector<"initWithFormat:arguments:">();
+    try {
+        id string = NS::String::sendClass<id, "alloc">();
+        const auto init = reinterpret_cast<InitWithFormat>(objc_msg_lookup(string, command));
+        return textOf(NS::String::adopting(init(string, command, format, arguments)));
+    } catch (...) {
+        return "a message whose arguments do not fit its format";
+    }
+}
+
+void logMessage(id format, va_list arguments, void* caller)
+{
+    if (!format)
+        return;
+    const bool own = isFoundationItself(caller);
+    const std::string text = formatted(format, arguments);
+    std::fprintf(stderr, "%s: %s\n", own ? "foundation" : "phone", text.c_str());
+    if (!own)
+        ActivityLog::shared().record("nslog", {{"text", text}});
+}
+
+}
+
+// The calls reach the functions below by their names; this one makes the linker keep them.
+void registerNSLog() { }
+
+}
+
+extern "C" void NSLog(id format, ...)
+{
+    va_list arguments;
+    va_start(arguments, format);
+    Simulator::logMessage(format, arguments, __builtin_return_address(0));
+    va_end(arguments);
+}
+
+extern "C" void NSLogv(id format, va_list arguments)
+{
+    Simulator::logMessage(format, arguments, __builtin_return_address(0));
+}

@@ -1,0 +1,22 @@
+// Numbers tell the types the phone's do.
+#include "Simulator/Foundation/Mending.hpp"
+#include "Simulator/Foundation/Registrations.hpp"
+
+namespace Simulator {
+
+namespace {
+
+// The phone's truth values are signed characters.
+const char* NSBoolNumber_objCType(id, SEL)
+{
+    return "c";
+}
+
+}
+
+void registerNSNumber()
+{
+    replaceInFamily<NSBoolNumber_objCType>("NSBoolNumber", "objCType");
+}
+
+}

@@ -1,0 +1,167 @@
+// NSTimer on the phone's loop.
+#include "Platform/Foundation/NSTimer.hpp"
+#include "Platform/Foundation/NSDate.hpp"
+#include "Simulator/Foundation/Mending.hpp"
+#include "Simulator/Foundation/Registrations.hpp"
+#include "Simulator/Loop/Loop.hpp"
+#include "Simulator/Runtime/Binder.hpp"
+
+#include <utility>
+
+namespace Simulator {
+
+namespace {
+
+// What the phone takes for a non-positive interval.
+double effectiveInterval(double interval)
+{
+    constexpr double shortestInterval = 0.0001;
+    return interval > 0 ? interval : shortestInterval;
+}
+
+class PhoneTimer : public StandIn {
+public:
+    using Root = PhoneTimer;
+
+    void initWithFireDate(const NS::Date& date, double interval, const ObjC::Object& target, SEL action,
+        const ObjC::Object& userInfo, bool repeats)
+    {
+        _fireDate = date ? date.timeIntervalSinceReferenceDate() : Loop::shared().now();
+        _interval = repeats ? effectiveInterval(interval) : 0;
+        _target = target;
+        _action = action;
+        _userInfo = userInfo;
+    }
+
+    void schedule() { scheduleAfter(_fireDate - Loop::shared().now()); }
+    // The loop holds the timer, and the timer its target, until it is invalidated.
+    void scheduleAfter(double delay)
+    {
+        if (!_valid || _work)
+            return;
+        const auto run = [timer = self()] { standIn<PhoneTimer>(timer.raw()).fireDue(); };
+        _work = _interval > 0 ? Loop::shared().scheduleRepeating(delay, _interval, run)
+                              : Loop::shared().schedule(delay, run, WorkKind::Timer);
+    }
+
+    void fire()
+    {
+        if (!_valid || _firing)
+            return;
+        const ObjC::Object keep = self();
+        const ObjC::Object target = _target;
+        _firing = true;
+        if (_action)
+            ObjC::sendMessage<void>(target.raw(), _action, keep);
+        else if (target)
+            target.send<void, "invoke">(); // an invocation
+        _firing = false;
+        if (_interval == 0)
+            invalidate();
+    }
+
+    void invalidate()
+    {
+        const ObjC::Object keep = self();
+        _valid = false;
+        Loop::shared().cancel(std::exchange(_work, 0));
+        _target = nullptr;
+        _userInfo = nullptr;
+    }
+
+    bool isValid() const { return _valid; }
+    double timeInterval() const { return _interval; }
+    ObjC::Object userInfo() const { return _userInfo; }
+
+    NS::Date fireDate() const
+    {
+        const auto due = Loop::shared().dueIn(_work);
+        return NS::Date::dateWithTimeIntervalSinceReferenceDate(due ? Loop::shared().now() + *due : _fireDate);
+    }
+
+    void setFireDate(const NS::Date& date)
+    {
+        if (!date || !_valid)
+            return;
+        _fireDate = date.timeIntervalSinceReferenceDate();
+        if (Loop::shared().cancel(std::exchange(_work, 0)))
+            schedule();
+    }
+
+    double tolerance() const { return _tolerance; }
+    void setTolerance(double tolerance) { _tolerance = tolerance; }
+
+private:
+    void fireDue()
+    {
+        if (_interval == 0)
+            _work = 0;
+        fire();
+    }
+
+    double _fireDate = 0;
+    double _interval = 0; // 0 for a timer that fires once
+    double _tolerance = 0;
+    ObjC::Object _target;
+    SEL _action = nullptr;
+    ObjC::Object _userInfo;
+    TimerId _work = 0;
+    bool _valid = true;
+    bool _firing = false;
+};
+
+NS::Timer NSTimer_timer(
+    Class self, SEL, double interval, ObjC::Object target, SEL action, ObjC::Object userInfo, bool repeats)
+{
+    const NS::Date date
+        = NS::Date::dateWithTimeIntervalSinceReferenceDate(Loop::shared().now() + effectiveInterval(interval));
+    id timer = ObjC::sendMessage<id>(reinterpret_cast<id>(self), ObjC::selector<"alloc">());
+    return NS::Timer::adopting(
+        ObjC::sendMessage<id>(timer, ObjC::selector<"initWithFireDate:interval:target:selector:userInfo:repeats:">(),
+            date, interval, target, action, userInfo, repeats));
+}
+
+NS::Timer NSTimer_scheduledTimer(
+    Class self, SEL command, double interval, ObjC::Object target, SEL action, ObjC::Object userInfo, bool repeats)
+{
+    const NS::Timer timer = NSTimer_timer(self, command, interval, target, action, userInfo, repeats);
+    // Not by way of the date, whose grain is coarser than a delay's.
+    standIn<PhoneTimer>(timer.raw()).scheduleAfter(effectiveInterval(interval));
+    return timer;
+}
+
+// The phone has one run loop, and all its modes are one.
+void NSRunLoop_addTimer(id, SEL, ObjC::Object timer, ObjC::Object)
+{
+    if (auto* phoneTimer = standInOrNull<PhoneTimer>(timer))
+        phoneTimer->schedule();
+}
+
+}
+
+void registerNSTimer()
+{
+    // GNUstep's run loop begins with a housekeeping timer of its own, which is none of the phone's.
+    classNamed("NSRunLoop").send<ObjC::Object, "mainRunLoop">();
+
+    Binder<PhoneTimer>("PhoneTimer", "NSTimer")
+        .init<"initWithFireDate:interval:target:selector:userInfo:repeats:", &PhoneTimer::initWithFireDate>()
+        .def<"fire", &PhoneTimer::fire>()
+        .def<"invalidate", &PhoneTimer::invalidate>()
+        .def<"isValid", &PhoneTimer::isValid>()
+        .def<"timeInterval", &PhoneTimer::timeInterval>()
+        .def<"userInfo", &PhoneTimer::userInfo>()
+        .def<"fireDate", &PhoneTimer::fireDate>()
+        .def<"setFireDate:", &PhoneTimer::setFireDate>()
+        .def<"tolerance", &PhoneTimer::tolerance>()
+        .def<"setTolerance:", &PhoneTimer::setTolerance>()
+        .add();
+    refuseInherited("PhoneTimer", "NSTimer");
+    allocateAs("NSTimer", "PhoneTimer");
+    replaceClassMethod<NSTimer_timer>("NSTimer", "timerWithTimeInterval:target:selector:userInfo:repeats:");
+    replaceClassMethod<NSTimer_scheduledTimer>(
+        "NSTimer", "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:");
+    replaceInFamily<NSRunLoop_addTimer>("NSRunLoop", "addTimer:forMode:");
+}
+
+}
