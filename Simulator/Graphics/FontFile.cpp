@@ -1,0 +1,175 @@
+// Reads names and metrics of font files by FreeType.
+#include "Simulator/Graphics/FontFile.hpp"
+
+#include FT_SFNT_NAMES_H
+#include FT_TRUETYPE_IDS_H
+#include FT_TRUETYPE_TABLES_H
+
+#include <algorithm>
+#include <fstream>
+
+namespace Simulator::Graphics {
+
+namespace {
+
+constexpr std::size_t fontFileLimit = 256u << 20;
+
+// Lives as long as the process: fonts may be drawn until its very end.
+FT_Library library()
+{
+    static const FT_Library instance = [] {
+        FT_Library created = nullptr;
+        return FT_Init_FreeType(&created) == 0 ? created : nullptr;
+    }();
+    return instance;
+}
+
+FacePointer accepted(FacePointer face)
+{
+    if (!face || !FT_IS_SFNT(face.get()) || !FT_IS_SCALABLE(face.get()) || face->units_per_EM == 0
+        || face->num_glyphs <= 0)
+        return nullptr;
+    return face;
+}
+
+void appendUtf8(std::string& out, unsigned codePoint)
+{
+    if (codePoint < 0x80) {
+        out += static_cast<char>(codePoint);
+    } else if (codePoint < 0x800) {
+        out += static_cast<char>(0xC0 | codePoint >> 6);
+        out += static_cast<char>(0x80 | (codePoint & 0x3F));
+    } else {
+        out += static_cast<char>(0xE0 | codePoint >> 12);
+        out += static_cast<char>(0x80 | (codePoint >> 6 & 0x3F));
+        out += static_cast<char>(0x80 | (codePoint & 0x3F));
+    }
+}
+
+// Names are stored as big-endian UTF-16; those of fonts keep to the basic plane.
+std::string fromUtf16(const FT_SfntName& name)
+{
+    std::string text;
+    for (FT_UInt i = 0; i + 1 < name.string_len; i += 2) {
+        const unsigned unit = name.string[i] << 8 | name.string[i + 1];
+        const bool isSurrogate = unit >= 0xD800 && unit < 0xE000;
+        appendUtf8(text, isSurrogate || unit == 0 ? 0xFFFD : unit);
+    }
+    return text;
+}
+
+// FreeType reduces names to ASCII; a family named in another script is read from the table itself.
+std::string unicodeFamilyName(FT_Face face)
+{
+    for (const FT_UShort wanted : {TT_NAME_ID_TYPOGRAPHIC_FAMILY, TT_NAME_ID_FONT_FAMILY}) {
+        const FT_UInt count = FT_Get_Sfnt_Name_Count(face);
+        for (FT_UInt i = 0; i < count; ++i) {
+            FT_SfntName name;
+            if (FT_Get_Sfnt_Name(face, i, &name) == 0 && name.name_id == wanted
+                && name.platform_id == TT_PLATFORM_MICROSOFT && name.string_len > 0)
+                return fromUtf16(name);
+        }
+    }
+    return {};
+}
+
+std::optional<FaceNames> namesOf(FT_Face face)
+{
+    FaceNames names;
+    if (face->family_name)
+        names.familyName = face->family_name;
+    if (names.familyName.empty() || names.familyName.find('?') != std::string::npos) {
+        if (std::string family = unicodeFamilyName(face); !family.empty())
+            names.familyName = std::move(family);
+    }
+    if (const char* name = FT_Get_Postscript_Name(face))
+        names.postScriptName = name;
+    if (names.postScriptName.empty())
+        std::copy_if(names.familyName.begin(), names.familyName.end(), std::back_inserter(names.postScriptName),
+            [](char character) { return character != ' '; });
+    if (names.familyName.empty())
+        names.familyName = names.postScriptName;
+    if (names.postScriptName.empty())
+        return std::nullopt;
+    return names;
+}
+
+}
+
+FontFile::FontFile(std::filesystem::path path, Origin origin)
+    : m_path(std::move(path))
+    , m_origin(origin)
+{
+}
+
+FontFile::FontFile(std::vector<std::byte> bytes)
+    : m_bytes(std::move(bytes))
+{
+}
+
+std::vector<std::byte> FontFile::read() const
+{
+    return m_path.empty() ? m_bytes : readFile(m_path, fontFileLimit);
+}
+
+FacePointer openFace(const FontFile& file, long faceIndex)
+{
+    if (file.path().empty())
+        return openFace(file.bytes(), faceIndex);
+    FT_Face face = nullptr;
+    if (FT_New_Face(library(), file.path().c_str(), faceIndex, &face) != 0)
+        return nullptr;
+    return accepted(FacePointer(face));
+}
+
+FacePointer openFace(std::span<const std::byte> bytes, long faceIndex)
+{
+    if (bytes.empty() || bytes.size() > fontFileLimit)
+        return nullptr;
+    FT_Face face = nullptr;
+    const auto* data = reinterpret_cast<const FT_Byte*>(bytes.data());
+    if (FT_New_Memory_Face(library(), data, static_cast<FT_Long>(bytes.size()), faceIndex, &face) != 0)
+        return nullptr;
+    return accepted(FacePointer(face));
+}
+
+std::optional<Font::Description> describe(FT_Face face)
+{
+    auto names = namesOf(face);
+    if (!names)
+        return std::nullopt;
+    Font::Description description;
+    description.names = std::move(*names);
+    description.faceIndex = face->face_index;
+    description.isItalic = face->style_flags & FT_STYLE_FLAG_ITALIC;
+    description.weight = face->style_flags & FT_STYLE_FLAG_BOLD ? 700 : 400;
+    description.unitsPerEm = face->units_per_EM;
+    description.ascender = face->ascender;
+    description.descender = std::min<double>(face->descender, 0);
+    description.lineGap = std::max(0.0, face->height - description.ascender + description.descender);
+    if (const auto* os2 = static_cast<const TT_OS2*>(FT_Get_Sfnt_Table(face, FT_SFNT_OS2));
+        os2 && os2->version != 0xFFFF) {
+        if (os2->usWeightClass >= 1 && os2->usWeightClass <= 1000)
+            description.weight = os2->usWeightClass;
+        if (os2->version >= 2 && os2->sCapHeight > 0)
+            description.capHeight = os2->sCapHeight;
+    }
+    return description;
+}
+
+std::vector<std::byte> readFile(const std::filesystem::path& path, std::size_t limit)
+{
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(path, error))
+        return {};
+    const auto size = std::filesystem::file_size(path, error);
+    if (error || size == 0 || size > limit)
+        return {};
+    std::vector<std::byte> bytes(size);
+    std::ifstream stream(path, std::ios::binary);
+    stream.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));
+    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(0, stream.gcount())));
+    return bytes;
+}
+
+}
