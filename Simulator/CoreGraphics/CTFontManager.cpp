@@ -1,0 +1,131 @@
+// Font registration: every attempt is recorded, and a failure says why as the phone's text system does.
+#include "Simulator/CoreGraphics/CTFontManager.hpp"
+
+#include "Platform/Foundation/NSURL.hpp"
+#include "Simulator/CoreGraphics/CFBase.hpp"
+#include "Simulator/CoreGraphics/CGFont.hpp"
+#include "Simulator/Files/PhoneFiles.hpp"
+#include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/UIKit/Fonts.hpp"
+
+#include <array>
+
+namespace Simulator {
+
+namespace {
+
+using Graphics::RegistrationError;
+
+struct ErrorText {
+    RegistrationError error;
+    long code;
+    const char* reason;
+};
+
+constexpr std::array errorTexts = {
+    ErrorText{RegistrationError::FileNotFound, 101, "The file does not exist"},
+    ErrorText{RegistrationError::Invalid, 104, "The data is not valid font data"},
+    ErrorText{RegistrationError::AlreadyRegistered, 105, "The font is already registered"},
+    ErrorText{RegistrationError::NotRegistered, 201, "The font is not registered"},
+};
+
+/// True for success; otherwise the error goes to the caller.
+bool concluded(const Graphics::RegistrationResult& result, const std::string& subject, id* error)
+{
+    if (result)
+        return true;
+    for (const ErrorText& text : errorTexts) {
+        if (text.error != result.error)
+            continue;
+        const std::string domain = "com.apple.CoreText.CTFontManagerErrorDomain";
+        deliverError(error,
+            makeError(NS::String::fromUTF8(domain), text.code,
+                "The operation couldn’t be completed. (" + domain + " error " + std::to_string(text.code) + " - "
+                    + text.reason + ": '" + subject + "')"));
+    }
+    return false;
+}
+
+std::string pathOf(id url)
+{
+    const ObjC::Object object(url);
+    if (!object.respondsTo<"path">())
+        return {};
+    return std::string(object.send<ObjC::Object, "path">().as<NS::String>().utf8());
+}
+
+/// Where the file lies on the host; empty if the phone cannot read it.
+std::filesystem::path hostFile(const std::string& path)
+{
+    const PhoneFiles& files = PhoneFiles::shared();
+    if (path.empty() || files.fault(path, FileOperation::Read))
+        return {};
+    return files.isPhonePath(path) ? files.hostPath(path) : path;
+}
+
+}
+
+void registerCTFontManager()
+{
+    Binder<CTFontObject>("CTFont", "NSObject").add();
+}
+
+}
+
+using namespace Simulator;
+
+extern "C" {
+
+[[gnu::visibility("default")]] bool CTFontManagerRegisterFontsForURL(id url, std::uint32_t, id* error)
+{
+    const std::string path = pathOf(url);
+    const auto result = fontCatalogue().registerFile(hostFile(path));
+    ActivityLog::shared().record("registerFont", {{"path", path}, {"ok", static_cast<bool>(result)}});
+    return concluded(result, path, error);
+}
+
+[[gnu::visibility("default")]] bool CTFontManagerUnregisterFontsForURL(id url, std::uint32_t, id* error)
+{
+    const std::string path = pathOf(url);
+    return concluded(fontCatalogue().unregisterFile(hostFile(path)), path, error);
+}
+
+[[gnu::visibility("default")]] bool CTFontManagerRegisterGraphicsFont(CGFontRef font, id* error)
+{
+    const auto* object = fontObjectOf(font);
+    const std::string name = object ? object->names.postScriptName : std::string();
+    Graphics::RegistrationResult result{RegistrationError::Invalid, {}};
+    if (object && fontCatalogue().find(name))
+        result.error = RegistrationError::AlreadyRegistered;
+    else if (object)
+        result = fontCatalogue().registerData(object->bytes());
+    ActivityLog::shared().record("registerFont", {{"name", name}, {"ok", static_cast<bool>(result)}});
+    return concluded(result, name, error);
+}
+
+[[gnu::visibility("default")]] bool CTFontManagerUnregisterGraphicsFont(CGFontRef font, id* error)
+{
+    const auto* object = fontObjectOf(font);
+    const std::string name = object ? object->names.postScriptName : std::string();
+    return concluded(fontCatalogue().unregisterFont(name), name, error);
+}
+
+[[gnu::visibility("default")]] CTFontRef CTFontCreateWithGraphicsFont(
+    CGFontRef font, CGFloat size, const CGAffineTransform*, const void*)
+{
+    const auto* source = fontObjectOf(font);
+    if (!source)
+        return nullptr;
+    ObjC::Object object = newInstance("CTFont");
+    auto& sized = standIn<CTFontObject>(object.raw());
+    sized.names = source->names;
+    sized.size = size > 0 ? size : 12;
+    return ownedReference<CTFontRef>(std::move(object));
+}
+
+[[gnu::visibility("default")]] id CTFontCopyFamilyName(CTFontRef font)
+{
+    const auto* object = standInBehind<CTFontObject>(font);
+    return object ? NS::String::fromUTF8(object->names.familyName).leak() : nullptr;
+}
+}

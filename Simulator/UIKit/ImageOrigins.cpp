@@ -1,0 +1,38 @@
+// The origins, by a digest of the bytes. A bounded number is kept; a lost one only leaves a description without a path.
+#include "Simulator/UIKit/ImageOrigins.hpp"
+
+#include <functional>
+#include <string_view>
+#include <unordered_map>
+
+namespace Simulator {
+
+static constexpr std::size_t mostOrigins = 1024;
+
+static std::unordered_map<std::size_t, std::string>& origins()
+{
+    static std::unordered_map<std::size_t, std::string> all;
+    return all;
+}
+
+static std::size_t digest(std::span<const std::byte> bytes)
+{
+    return std::hash<std::string_view>()({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+}
+
+void rememberOrigin(std::span<const std::byte> bytes, const std::string& path)
+{
+    if (path.empty())
+        return;
+    if (origins().size() >= mostOrigins)
+        origins().clear();
+    origins()[digest(bytes)] = path;
+}
+
+std::string originOf(std::span<const std::byte> bytes)
+{
+    const auto found = origins().find(digest(bytes));
+    return found == origins().end() ? std::string() : found->second;
+}
+
+}

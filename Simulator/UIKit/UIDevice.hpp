@@ -1,0 +1,38 @@
+// The device: its battery, its name.
+#pragma once
+
+#include "Platform/UIKit/UIDevice.hpp"
+#include "Simulator/Runtime/StandIn.hpp"
+
+#include <string>
+
+namespace Simulator {
+
+/// What the simulated battery says; the control protocol writes it.
+struct BatteryReading {
+    double level = 1.0;
+    UI::DeviceBatteryState state = UI::DeviceBatteryState::unplugged;
+    std::string deviceName = "iPhone";
+};
+
+BatteryReading& battery();
+
+struct UIDevice : StandIn {
+    using Root = UIDevice;
+
+    static UI::Device currentDevice();
+    /// Both are unknown while nobody watches the battery.
+    float batteryLevel() const;
+    UI::DeviceBatteryState batteryState() const;
+    NS::String name() const;
+    NS::String model() const;
+    NS::String systemName() const;
+    NS::String systemVersion() const;
+    long userInterfaceIdiom() const { return 0; }
+
+    bool batteryMonitoringEnabled = false;
+};
+
+void registerUIDevice();
+
+}

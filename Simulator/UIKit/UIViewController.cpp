@@ -1,0 +1,175 @@
+// The life of a controller and its view.
+#include "Simulator/UIKit/UIViewController.hpp"
+
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/UIKit/UIScreen.hpp"
+
+#include <algorithm>
+
+namespace Simulator {
+
+UIViewController::~UIViewController()
+{
+    if (auto* view = standInOrNull<UIView>(viewObject))
+        view->controller = nullptr;
+    for (const UI::ViewController& child : children)
+        standIn<UIViewController>(child.raw()).parent = nullptr;
+}
+
+UI::Responder UIViewController::nextResponder() const
+{
+    return viewObject.superview();
+}
+
+UI::View UIViewController::view()
+{
+    if (viewObject || isLoading)
+        return viewObject;
+    isLoading = true;
+    self().send<void, "loadView">();
+    isLoading = false;
+    if (viewObject)
+        self().send<void, "viewDidLoad">();
+    return viewObject;
+}
+
+void UIViewController::setView(const UI::View& view)
+{
+    if (auto* previous = standInOrNull<UIView>(viewObject))
+        previous->controller = nullptr;
+    auto* next = standInOrNull<UIView>(view);
+    viewObject = next ? view : UI::View();
+    if (next)
+        next->controller = this;
+}
+
+void UIViewController::loadView()
+{
+    const auto made = UI::View::make<"initWithFrame:">(CGRect{{}, screenSettings().size});
+    self<UI::ViewController>().setView(made);
+}
+
+NS::Object UIViewController::traitCollection() const
+{
+    return currentTraits();
+}
+
+void UIViewController::beginAppearanceTransition(bool isAppearing, bool animated)
+{
+    const auto controller = self();
+    appearance = isAppearing ? Appearance::appearing : Appearance::disappearing;
+    appearanceIsAnimated = animated;
+    if (isAppearing) {
+        view();
+        controller.send<void, "viewWillAppear:">(animated);
+    } else
+        controller.send<void, "viewWillDisappear:">(animated);
+    for (const UI::ViewController& child : std::vector(children)) {
+        if (standIn<UIViewController>(child.raw()).isViewInParent())
+            child.send<void, "beginAppearanceTransition:animated:">(isAppearing, animated);
+    }
+}
+
+void UIViewController::endAppearanceTransition()
+{
+    const auto controller = self();
+    if (appearance == Appearance::appearing) {
+        appearance = Appearance::appeared;
+        controller.send<void, "viewDidAppear:">(appearanceIsAnimated);
+    } else if (appearance == Appearance::disappearing) {
+        appearance = Appearance::disappeared;
+        controller.send<void, "viewDidDisappear:">(appearanceIsAnimated);
+    }
+    for (const UI::ViewController& child : std::vector(children))
+        child.send<void, "endAppearanceTransition">();
+}
+
+bool UIViewController::isViewInParent() const
+{
+    return viewObject && parent && parent->viewObject
+        && standIn<UIView>(viewObject.raw()).isOrIsInside(standIn<UIView>(parent->viewObject.raw()));
+}
+
+void UIViewController::viewMovedToWindow()
+{
+    const bool isShown = isViewInParent() && parent->appearance == Appearance::appeared
+        && standIn<UIView>(viewObject.raw()).windowReference();
+    const bool isOver = !isShown && parent && appearance == Appearance::appeared;
+    if (!isOver && !(isShown && appearance == Appearance::disappeared))
+        return;
+    const auto controller = self();
+    controller.send<void, "beginAppearanceTransition:animated:">(isShown, false);
+    controller.send<void, "endAppearanceTransition">();
+}
+
+NS::Array UIViewController::childViewControllers() const
+{
+    auto array = NS::MutableArray::make();
+    for (const UI::ViewController& child : children)
+        array.addObject(child);
+    return array;
+}
+
+UI::ViewController UIViewController::parentViewController() const
+{
+    return parent ? parent->self<UI::ViewController>() : UI::ViewController();
+}
+
+void UIViewController::addChildViewController(const UI::ViewController& child)
+{
+    auto* added = standInOrNull<UIViewController>(child);
+    for (const UIViewController* ancestor = this; ancestor; ancestor = ancestor->parent) {
+        if (ancestor == added)
+            return;
+    }
+    if (!added || added->parent == this)
+        return;
+    const auto kept = child;
+    kept.send<void, "willMoveToParentViewController:">(self());
+    added->removeFromParentViewController();
+    added->parent = this;
+    children.push_back(kept);
+}
+
+void UIViewController::removeFromParentViewController()
+{
+    if (!parent)
+        return;
+    const auto kept = self<UI::ViewController>();
+    std::erase(std::exchange(parent, nullptr)->children, kept);
+    kept.send<void, "didMoveToParentViewController:">(UI::ViewController());
+}
+
+void registerUIViewController()
+{
+    Binder<UIViewController>("UIViewController", "UIResponder")
+        .init<"init", &UIViewController::init>()
+        .def<"view", &UIViewController::view>()
+        .def<"setView:", &UIViewController::setView>()
+        .def<"viewIfLoaded", &UIViewController::viewIfLoaded>()
+        .def<"isViewLoaded", &UIViewController::isViewLoaded>()
+        .def<"loadViewIfNeeded", &UIViewController::loadViewIfNeeded>()
+        .def<"loadView", &UIViewController::loadView>()
+        .def<"viewDidLoad", &UIViewController::ignoreNotice>()
+        .def<"viewWillAppear:", &UIViewController::ignoreAnimated>()
+        .def<"viewDidAppear:", &UIViewController::ignoreAnimated>()
+        .def<"viewWillDisappear:", &UIViewController::ignoreAnimated>()
+        .def<"viewDidDisappear:", &UIViewController::ignoreAnimated>()
+        .def<"viewWillLayoutSubviews", &UIViewController::ignoreNotice>()
+        .def<"viewDidLayoutSubviews", &UIViewController::ignoreNotice>()
+        .def<"didReceiveMemoryWarning", &UIViewController::ignoreNotice>()
+        .def<"traitCollection", &UIViewController::traitCollection>()
+        .def<"traitCollectionDidChange:", &UIViewController::ignoreTraits>()
+        .def<"beginAppearanceTransition:animated:", &UIViewController::beginAppearanceTransition>()
+        .def<"endAppearanceTransition", &UIViewController::endAppearanceTransition>()
+        .def<"childViewControllers", &UIViewController::childViewControllers>()
+        .def<"parentViewController", &UIViewController::parentViewController>()
+        .def<"addChildViewController:", &UIViewController::addChildViewController>()
+        .def<"removeFromParentViewController", &UIViewController::removeFromParentViewController>()
+        .def<"willMoveToParentViewController:", &UIViewController::ignoreParent>()
+        .def<"didMoveToParentViewController:", &UIViewController::ignoreParent>()
+        .property<"title", "setTitle:", &UIViewController::title>()
+        .add();
+}
+
+}

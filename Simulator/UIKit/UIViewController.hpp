@@ -1,0 +1,57 @@
+// What owns a view and follows its life: loading, appearance, children.
+#pragma once
+
+#include "Platform/UIKit/UIViewController.hpp"
+#include "Simulator/UIKit/UIView.hpp"
+
+#include <vector>
+
+namespace Simulator {
+
+struct UIViewController : UIResponder {
+    enum class Appearance { disappeared, appearing, appeared, disappearing };
+
+    ~UIViewController() override;
+    UI::Responder nextResponder() const override;
+
+    void init() { }
+    /// The view, loaded when first asked for: `loadView`, then `viewDidLoad`, by message.
+    UI::View view();
+    UI::View viewIfLoaded() const { return viewObject; }
+    bool isViewLoaded() const { return static_cast<bool>(viewObject); }
+    void loadViewIfNeeded() { view(); }
+    void setView(const UI::View& view);
+    void loadView();
+    void ignoreNotice() { }
+    void ignoreAnimated(bool) { }
+    void ignoreParent(const UI::ViewController&) { }
+    void ignoreTraits(const NS::Object&) { }
+    NS::Object traitCollection() const;
+
+    /// How a container leads its child, and the shell its own controllers, through `viewWillAppear:` and the like.
+    void beginAppearanceTransition(bool isAppearing, bool animated);
+    void endAppearanceTransition();
+    /// A child whose view comes into or leaves the view of a container that is on the screen appears or disappears.
+    void viewMovedToWindow();
+
+    NS::Array childViewControllers() const;
+    UI::ViewController parentViewController() const;
+    void addChildViewController(const UI::ViewController& child);
+    void removeFromParentViewController();
+
+    NS::String title;
+    UIViewController* parent = nullptr;
+    std::vector<UI::ViewController> children;
+    Appearance appearance = Appearance::disappeared;
+    bool appearanceIsAnimated = false;
+
+private:
+    bool isViewInParent() const;
+
+    UI::View viewObject;
+    bool isLoading = false;
+};
+
+void registerUIViewController();
+
+}
