@@ -1,0 +1,121 @@
+// The user's calendar: the device's events by interval.
+#include "Platform/EventKit/EKEventStore.hpp"
+
+#include "Simulator/Companions/Registrations.hpp"
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/SpringBoard/DeviceState.hpp"
+
+#include <algorithm>
+
+namespace Simulator {
+
+namespace {
+
+class EventPredicate : public ObjC::Class_<EventPredicate, NS::Object, "EKEventPredicate"> {
+public:
+    using Class_::Class_;
+};
+
+constexpr double usualDuration = 3600;
+
+struct Occurrence {
+    std::string title;
+    double start;
+    double end;
+    bool allDay;
+};
+
+/// An all-day event lasts from midnight to midnight; any other one an hour. An event without a date is none.
+std::optional<Occurrence> occurrenceOf(const CalendarEvent& event)
+{
+    const auto moment = momentOfLocalTime(event.start);
+    if (!moment)
+        return std::nullopt;
+    if (event.allDay)
+        return Occurrence{event.title, startOfDay(*moment), startOfNextDay(*moment), true};
+    return Occurrence{event.title, *moment, *moment + usualDuration, false};
+}
+
+class EKEvent : public StandIn {
+public:
+    using Root = EKEvent;
+
+    static EK::Event make(const Occurrence& occurrence)
+    {
+        const auto event = EK::Event::make();
+        standIn<EKEvent>(event.raw()).occurrence_ = occurrence;
+        return event;
+    }
+    NS::String title() const { return NS::String::fromUTF8(occurrence_.title); }
+    NS::Date startDate() const { return NS::Date::dateWithTimeIntervalSinceReferenceDate(occurrence_.start); }
+    NS::Date endDate() const { return NS::Date::dateWithTimeIntervalSinceReferenceDate(occurrence_.end); }
+    bool isAllDay() const { return occurrence_.allDay; }
+
+private:
+    Occurrence occurrence_;
+};
+
+class EKEventPredicate : public StandIn {
+public:
+    using Root = EKEventPredicate;
+
+    /// An interval without length holds nothing.
+    bool matches(const Occurrence& occurrence) const
+    {
+        return start < end && occurrence.start < end && occurrence.end > start;
+    }
+
+    double start = 0;
+    double end = 0;
+};
+
+class EKEventStore : public StandIn {
+public:
+    using Root = EKEventStore;
+
+    NS::Object predicateForEvents(const NS::Date& start, const NS::Date& end, const NS::Object&)
+    {
+        const auto predicate = EventPredicate::make();
+        auto& interval = standIn<EKEventPredicate>(predicate.raw());
+        interval.start = start.timeIntervalSinceReferenceDate();
+        interval.end = end.timeIntervalSinceReferenceDate();
+        return predicate;
+    }
+
+    NS::Array eventsMatchingPredicate(const NS::Object& predicate)
+    {
+        const auto events = NS::MutableArray::make();
+        const auto* interval = standInOrNull<EKEventPredicate>(predicate);
+        if (!interval)
+            return events;
+        std::vector<Occurrence> found;
+        for (const CalendarEvent& event : DeviceState::shared().events) {
+            const auto occurrence = occurrenceOf(event);
+            if (occurrence && interval->matches(*occurrence))
+                found.push_back(*occurrence);
+        }
+        std::ranges::stable_sort(found, {}, &Occurrence::start);
+        for (const Occurrence& occurrence : found)
+            events.addObject(EKEvent::make(occurrence));
+        return events;
+    }
+};
+
+}
+
+void registerEventKit()
+{
+    Binder<EKEvent>("EKEvent", "NSObject")
+        .def<"title", &EKEvent::title>()
+        .def<"startDate", &EKEvent::startDate>()
+        .def<"endDate", &EKEvent::endDate>()
+        .def<"isAllDay", &EKEvent::isAllDay>()
+        .add();
+    Binder<EKEventPredicate>("EKEventPredicate", "NSObject").add();
+    Binder<EKEventStore>("EKEventStore", "NSObject")
+        .def<"predicateForEventsWithStartDate:endDate:calendars:", &EKEventStore::predicateForEvents>()
+        .def<"eventsMatchingPredicate:", &EKEventStore::eventsMatchingPredicate>()
+        .add();
+}
+
+}

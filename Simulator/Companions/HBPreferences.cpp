@@ -1,0 +1,236 @@
+// Bindings of HBPreferences: the domain's file is the truth, each object keeps what it last read of it.
+#include "Simulator/Companions/HBPreferences.hpp"
+
+#include "Platform/Foundation/NSNumber.hpp"
+#include "Simulator/Companions/PropertyListValues.hpp"
+#include "Simulator/Companions/Registrations.hpp"
+#include "Simulator/Files/PhoneFiles.hpp"
+#include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/Runtime/Binder.hpp"
+
+#include <algorithm>
+
+namespace Simulator {
+
+namespace {
+
+struct BoundVariable {
+    bool* boolean;
+    id* object;
+};
+
+std::vector<HBPreferences*>& living()
+{
+    static auto* objects = new std::vector<HBPreferences*>;
+    return *objects;
+}
+
+std::map<std::string, BoundVariable>& lastBound()
+{
+    static auto* variables = new std::map<std::string, BoundVariable>;
+    return *variables;
+}
+
+std::string fileOfDomain(const std::string& domain)
+{
+    return "/var/mobile/Library/Preferences/" + domain + ".plist";
+}
+
+/// What could not be written yet, by domain: the disk failed, the preferences service has it in memory.
+std::map<std::string, NS::Dictionary>& unwritten()
+{
+    static auto* domains = new std::map<std::string, NS::Dictionary>;
+    return *domains;
+}
+
+bool writeDomain(const std::string& domain, const std::string& bytes)
+{
+    PhoneFiles& files = PhoneFiles::shared();
+    const std::string path = fileOfDomain(domain);
+    return !files.fault(path, FileOperation::Write) && !files.fault(path, FileOperation::Rename)
+        && files.put(path, bytes) == 0;
+}
+
+std::string text(const NS::String& string)
+{
+    return std::string(string.utf8());
+}
+
+/// A variable owns what it is given.
+void assign(id* variable, const NS::Object& value)
+{
+    id previous = *variable;
+    if (previous == value.raw())
+        return;
+    *variable = ObjC::retain(value.raw());
+    ObjC::release(previous);
+}
+
+const char* kindOf(const nlohmann::ordered_json& value)
+{
+    return value.is_string() ? "string" : value.is_boolean() ? "bool" : value.is_number() ? "number" : "other";
+}
+
+bool replaceStored(const std::string& domain, const NS::Dictionary& values)
+{
+    const std::string bytes = xmlOfDictionary(values);
+    if (bytes.empty())
+        return false;
+    if (writeDomain(domain, bytes))
+        unwritten().erase(domain);
+    else
+        unwritten()[domain] = values;
+    const std::vector<HBPreferences*> present = living();
+    for (HBPreferences* preferences : present) {
+        if (preferences->domain() == domain)
+            preferences->mirror(values);
+    }
+    return true;
+}
+
+}
+
+HBPreferences::~HBPreferences()
+{
+    std::erase(living(), this);
+}
+
+bool HBPreferences::initWithIdentifier(const NS::String& identifier)
+{
+    if (!identifier.is<NS::String>())
+        return false;
+    domain_ = text(identifier);
+    stored_ = storedValues(domain_);
+    living().push_back(this);
+    return true;
+}
+
+NS::String HBPreferences::identifier() const
+{
+    return NS::String::fromUTF8(domain_);
+}
+
+void HBPreferences::registerBool(void* variable, bool fallback, const NS::String& key)
+{
+    bind({static_cast<bool*>(variable), nullptr, key, NS::Number::numberWithBool(fallback)});
+}
+
+void HBPreferences::registerObject(void* variable, const NS::Object& fallback, const NS::String& key)
+{
+    bind({nullptr, static_cast<id*>(variable), key, fallback});
+}
+
+void HBPreferences::bind(Binding binding)
+{
+    if (!binding.key || (!binding.boolean && !binding.object))
+        return;
+    const std::string key = text(binding.key);
+    fallbacks_[key] = binding.fallback;
+    lastBound()[key] = {binding.boolean, binding.object};
+    give(binding);
+    bindings_.push_back(std::move(binding));
+}
+
+/// A flag takes what can be read as true or false; an object variable takes whatever is stored.
+void HBPreferences::give(const Binding& binding) const
+{
+    const auto stored = stored_.objectForKey<NS::Object>(binding.key);
+    if (binding.object)
+        assign(binding.object, stored ? stored : binding.fallback);
+    else
+        *binding.boolean = (stored.respondsTo<"boolValue">() ? stored : binding.fallback).send<bool, "boolValue">();
+}
+
+void HBPreferences::mirror(const NS::Dictionary& stored)
+{
+    stored_ = stored;
+    for (const Binding& binding : bindings_)
+        give(binding);
+}
+
+NS::Object HBPreferences::objectForKey(const NS::String& key) const
+{
+    if (!key)
+        return {};
+    if (const auto stored = stored_.objectForKey<NS::Object>(key))
+        return stored;
+    const auto fallback = fallbacks_.find(text(key));
+    return fallback == fallbacks_.end() ? NS::Object() : fallback->second;
+}
+
+bool HBPreferences::boolForKey(const NS::String& key) const
+{
+    const NS::Object value = objectForKey(key);
+    return value.respondsTo<"boolValue">() && value.send<bool, "boolValue">();
+}
+
+void HBPreferences::setObject(const NS::Object& value, const NS::String& key)
+{
+    if (!key || !storeValue(domain_, text(key), value))
+        return;
+    const auto json = jsonOfValue(value);
+    ActivityLog::shared().record("setting", {{"key", text(key)}, {"value", json}, {"type", kindOf(json)}});
+}
+
+void HBPreferences::setBool(bool value, const NS::String& key)
+{
+    setObject(NS::Number::numberWithBool(value), key);
+}
+
+void HBPreferences::removeObjectForKey(const NS::String& key)
+{
+    setObject({}, key);
+}
+
+NS::Dictionary storedValues(const std::string& domain)
+{
+    const auto kept = unwritten().find(domain);
+    return kept == unwritten().end() ? dictionaryInFile(fileOfDomain(domain)) : kept->second;
+}
+
+bool storeValue(const std::string& domain, const std::string& key, const NS::Object& value)
+{
+    const NS::MutableDictionary values = storedValues(domain).mutableCopy();
+    const NS::String name = NS::String::fromUTF8(key);
+    if (!name)
+        return false;
+    if (value)
+        values.setObject(value, name);
+    else
+        values.send<void, "removeObjectForKey:">(name);
+    return replaceStored(domain, values);
+}
+
+bool storeValues(const std::string& domain, const NS::Dictionary& values)
+{
+    const NS::MutableDictionary all = storedValues(domain).mutableCopy();
+    all.send<void, "addEntriesFromDictionary:">(values);
+    return replaceStored(domain, all);
+}
+
+std::optional<BoundValue> boundValue(const std::string& key)
+{
+    const auto found = lastBound().find(key);
+    if (found == lastBound().end())
+        return std::nullopt;
+    if (found->second.boolean)
+        return BoundValue{BoundValue::Kind::Boolean, *found->second.boolean, {}};
+    return BoundValue{BoundValue::Kind::Object, false, NS::Object(*found->second.object)};
+}
+
+void registerHBPreferences()
+{
+    Binder<HBPreferences>("HBPreferences", "NSObject")
+        .init<"initWithIdentifier:", &HBPreferences::initWithIdentifier>()
+        .def<"identifier", &HBPreferences::identifier>()
+        .def<"registerBool:default:forKey:", &HBPreferences::registerBool>()
+        .def<"registerObject:default:forKey:", &HBPreferences::registerObject>()
+        .def<"objectForKey:", &HBPreferences::objectForKey>()
+        .def<"boolForKey:", &HBPreferences::boolForKey>()
+        .def<"setObject:forKey:", &HBPreferences::setObject>()
+        .def<"setBool:forKey:", &HBPreferences::setBool>()
+        .def<"removeObjectForKey:", &HBPreferences::removeObjectForKey>()
+        .add();
+}
+
+}

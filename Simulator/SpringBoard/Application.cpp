@@ -1,0 +1,122 @@
+// The shell as an application: what opens links, hears of memory running out and of the app in front.
+#include "Platform/Foundation/NSURL.hpp"
+#include "Simulator/Loop/Loop.hpp"
+#include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/SpringBoard/DeviceState.hpp"
+#include "Simulator/SpringBoard/FrontApplication.hpp"
+#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/SpringBoard/Shell.hpp"
+#include "Simulator/SpringBoard/StockParts.hpp"
+#include "Simulator/UIKit/UIResponder.hpp"
+
+#include <algorithm>
+#include <cctype>
+
+namespace Simulator {
+
+namespace {
+
+constexpr const char* browser = "com.apple.mobilesafari";
+constexpr const char* fileManager = "com.tigisoftware.Filza";
+
+std::string addressOf(const NS::URL& url)
+{
+    return std::string(url.send<NS::String, "absoluteString">().utf8());
+}
+
+/// The app that opens links of that scheme; empty if there is none.
+std::string appForAddress(const std::string& address)
+{
+    std::string scheme = address.substr(0, std::min(address.find(':'), address.size()));
+    std::ranges::transform(scheme, scheme.begin(), [](unsigned char letter) { return std::tolower(letter); });
+    if (scheme == "http" || scheme == "https")
+        return browser;
+    return scheme == "filza" && DeviceState::shared().installed.contains("Filza") ? fileManager : "";
+}
+
+/// Leaves the running callback first, as the phone's other processes do their part later.
+void later(void (Shell::*action)())
+{
+    Loop::shared().schedule(
+        0,
+        [action] {
+            if (Shell* shell = Shell::current())
+                (shell->*action)();
+        },
+        WorkKind::MainQueue);
+}
+
+struct UIApplication : UIResponder {
+    bool canOpenURL(const NS::URL& url)
+    {
+        const std::string address = addressOf(url);
+        ActivityLog::shared().record("canOpenURL", {{"url", address}});
+        return !appForAddress(address).empty();
+    }
+
+    void openURL(const NS::URL& url, const NS::Object&, void*)
+    {
+        const std::string address = addressOf(url);
+        const std::string app = appForAddress(address);
+        ActivityLog::shared().record("openURL", {{"url", address}, {"opened", !app.empty()}});
+        if (app.empty())
+            return;
+        Loop::shared().schedule(
+            0,
+            [app] {
+                if (Shell* shell = Shell::current())
+                    shell->openApp(app);
+            },
+            WorkKind::MainQueue);
+    }
+
+    void didReceiveMemoryWarning() { }
+};
+
+struct SpringBoard : UIApplication {
+    void frontDisplayDidChange(const NS::Object& application) { frontDisplay = application; }
+
+    void simulateHomeButtonPress()
+    {
+        ActivityLog::shared().record("homeButton");
+        later(&Shell::unlock);
+    }
+
+    NS::Object frontDisplay;
+};
+
+}
+
+NS::Object makeFrontApplication(const std::string& bundle)
+{
+    const NS::Object application = makeObject("SBApplication");
+    standIn<SBApplication>(application.raw()).bundle = bundle;
+    return application;
+}
+
+NS::String SBApplication::bundleIdentifier() const
+{
+    return NS::String::fromUTF8(bundle);
+}
+
+void registerApplication()
+{
+    Binder<UIApplication>("UIApplication", "UIResponder")
+        .classMethod<"sharedApplication", &sharedObject<"SpringBoard">>()
+        .def<"canOpenURL:", &UIApplication::canOpenURL>()
+        .def<"openURL:options:completionHandler:", &UIApplication::openURL>()
+        .def<"didReceiveMemoryWarning", &UIApplication::didReceiveMemoryWarning>()
+        .add();
+    Binder<SpringBoard>("SpringBoard", "UIApplication")
+        .def<"didReceiveMemoryWarning", &SpringBoard::didReceiveMemoryWarning>()
+        .def<"frontDisplayDidChange:", &SpringBoard::frontDisplayDidChange>()
+        .def<"_simulateHomeButtonPress", &SpringBoard::simulateHomeButtonPress>()
+        .readonly<"_accessibilityFrontMostApplication", &SpringBoard::frontDisplay>()
+        .add();
+    Binder<SBApplication>("SBApplication", "NSObject")
+        .def<"bundleIdentifier", &SBApplication::bundleIdentifier>()
+        .add();
+}
+
+}

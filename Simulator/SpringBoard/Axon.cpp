@@ -1,0 +1,32 @@
+// The other extension that groups notifications by app: a row of icons above the list.
+#include "Platform/Foundation/NSArray.hpp"
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/SpringBoard/StockParts.hpp"
+
+namespace Simulator {
+
+namespace {
+
+struct AXNView : UIView {
+    void initWithFrame(CGRect frame)
+    {
+        UIView::initWithFrame(frame);
+        list = NS::MutableArray::make();
+    }
+
+    /// The groups of notifications.
+    NS::Array list;
+};
+
+}
+
+void registerAxon()
+{
+    Binder<AXNView>("AXNView", "UIView")
+        .init<"initWithFrame:", &AXNView::initWithFrame>()
+        .property<"list", "setList:", &AXNView::list>()
+        .add();
+}
+
+}

@@ -1,0 +1,94 @@
+#include "Simulator/SpringBoard/BatteryView.hpp"
+
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/SpringBoard/DeviceState.hpp"
+#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/SpringBoard/StockParts.hpp"
+
+#include <algorithm>
+
+namespace Simulator {
+
+namespace {
+
+constexpr double lowCharge = 0.2;
+constexpr double terminalShare = 0.08;
+
+}
+
+void _UIBatteryView::initWithFrame(CGRect frame)
+{
+    UIView::initWithFrame(frame);
+    body = makeView("UIView");
+    fill = makeView("UIView");
+    terminal = makePlate({}, whiteWithAlpha(0.5), 1);
+    for (const UI::View& part : {body, fill, terminal})
+        addSubview(part);
+    body.layer().setBorderColor(whiteWithAlpha(0.5).CGColor());
+}
+
+void _UIBatteryView::layoutSubviews()
+{
+    const CGSize size = bounds().size;
+    const double cap = size.width * terminalShare;
+    const double line = std::max(1.0, size.height / 12);
+    const CGRect shell = CGRectMake(0, 0, size.width - cap, size.height);
+    body.setFrame(shell);
+    body.layer().setBorderWidth(line);
+    body.layer().setCornerRadius(size.height * 0.3);
+    const double room = std::max(0.0, shell.size.width - 4 * line);
+    fill.setFrame(CGRectMake(2 * line, 2 * line, room * chargePercent, std::max(0.0, size.height - 4 * line)));
+    fill.layer().setCornerRadius(size.height * 0.15);
+    fill.setBackgroundColor(fillColour());
+    terminal.setFrame(CGRectMake(size.width - cap + 1, size.height / 3, std::max(0.0, cap - 1), size.height / 3));
+}
+
+UI::Color _UIBatteryView::fillColour() const
+{
+    if (saverModeActive)
+        return UI::Color::colorWithRed(1, 0.8, 0, 1);
+    if (charging)
+        return UI::Color::colorWithRed(0.2, 0.78, 0.35, 1);
+    return chargePercent <= lowCharge ? UI::Color::colorWithRed(1, 0.23, 0.19, 1) : UI::Color::whiteColor();
+}
+
+void _UIBatteryView::setSaverModeActive(bool active)
+{
+    saverModeActive = active;
+    setNeedsLayout();
+}
+
+void _UIBatteryView::setChargePercent(double charge)
+{
+    chargePercent = charge >= 0 ? std::min(charge, 1.0) : 0;
+    setNeedsLayout();
+}
+
+void _UIBatteryView::setCharging(bool isCharging)
+{
+    charging = isCharging;
+    setNeedsLayout();
+}
+
+void showDeviceBattery(const UI::View& batteryView)
+{
+    const Battery& battery = DeviceState::shared().battery;
+    batteryView.send<void, "setChargePercent:">(battery.level);
+    batteryView.send<void, "setCharging:">(
+        battery.state == BatteryState::Charging || battery.state == BatteryState::Full);
+}
+
+void registerBatteryView()
+{
+    Binder<_UIBatteryView>("_UIBatteryView", "UIView")
+        .init<"initWithFrame:", &_UIBatteryView::initWithFrame>()
+        .def<"layoutSubviews", &_UIBatteryView::layoutSubviews>()
+        .readonly<"saverModeActive", &_UIBatteryView::saverModeActive>()
+        .def<"setSaverModeActive:", &_UIBatteryView::setSaverModeActive>()
+        .readonly<"chargePercent", &_UIBatteryView::chargePercent>()
+        .def<"setChargePercent:", &_UIBatteryView::setChargePercent>()
+        .def<"setCharging:", &_UIBatteryView::setCharging>()
+        .add();
+}
+
+}

@@ -1,0 +1,20 @@
+// The large battery that shows for a moment when the phone is plugged in.
+#pragma once
+
+#include "Simulator/UIKit/UIView.hpp"
+
+namespace Simulator {
+
+struct CSBatteryChargingView : UIView {
+    void initWithFrame(CGRect frame);
+    void layoutSubviews();
+    void setBatteryVisible(bool visible);
+    /// Takes over the device's battery.
+    void update();
+
+private:
+    UI::View battery;
+    UI::View label;
+};
+
+}

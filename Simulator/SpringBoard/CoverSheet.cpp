@@ -1,0 +1,136 @@
+#include "Simulator/SpringBoard/CoverSheet.hpp"
+
+#include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
+#include "Simulator/Loop/Loop.hpp"
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/SpringBoard/ChargingView.hpp"
+#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/SpringBoard/ScreenLayout.hpp"
+#include "Simulator/SpringBoard/StockParts.hpp"
+
+namespace Simulator {
+
+namespace {
+
+constexpr double chargingSeconds = 3;
+constexpr double chargingViewHeight = 90;
+constexpr double axonHeight = 60;
+
+}
+
+void CSCoverSheetViewController::init()
+{
+    idleTimerController = makeObject("SBDashBoardIdleTimerController");
+}
+
+void CSCoverSheetViewController::loadView()
+{
+    setView(makeView("UIView", ScreenLayout::current().bounds(), "stock.coverSheet"));
+}
+
+void CSCoverSheetViewController::viewDidLoad()
+{
+    const UI::View view = self<UI::ViewController>().view();
+    padlock = makeSymbol("lock.fill", {}, UI::Color::whiteColor());
+    padlock.setAccessibilityIdentifier("stock.padlock"_ns);
+    view.addSubview(padlock);
+    dateViewController = makeController("SBFLockScreenDateViewController");
+    combinedListController = makeController("CSCombinedListViewController");
+    quickActionsController = makeController("CSQuickActionsViewController");
+    teachableMomentsController = makeController("CSTeachableMomentsContainerViewController");
+    for (const auto& child :
+        {combinedListController, dateViewController, quickActionsController, teachableMomentsController})
+        addChild(child);
+    if (objc_getClass("AXNView")) {
+        axon = makeView("AXNView", {}, "stock.axon");
+        view.addSubview(axon);
+    }
+    self().send<UI::View, "dateView">();
+}
+
+void CSCoverSheetViewController::addChild(const UI::ViewController& child)
+{
+    const auto controller = self<UI::ViewController>();
+    controller.addChildViewController(child);
+    controller.view().addSubview(child.view());
+    child.send<void, "didMoveToParentViewController:">(controller);
+}
+
+UI::View CSCoverSheetViewController::dateView()
+{
+    return SB::FLockScreenDateViewController(dateViewController.raw()).dateView();
+}
+
+void CSCoverSheetViewController::viewDidLayoutSubviews()
+{
+    const ScreenLayout layout = ScreenLayout::current();
+    padlock.setFrame(layout.padlock());
+    // Whoever scales the clock does not change its place.
+    placeUntransformed(self().send<UI::View, "dateView">(), layout.dateView());
+    combinedListController.view().setFrame(layout.notificationList());
+    quickActionsController.view().setFrame(layout.quickActions());
+    teachableMomentsController.view().setFrame(layout.hint());
+    const CGRect list = layout.notificationList();
+    axon.setFrame(CGRectMake(list.origin.x, list.origin.y, list.size.width, axonHeight));
+    chargingView.setFrame(centred({layout.size.width, chargingViewHeight}, layout.bounds()));
+}
+
+void CSCoverSheetViewController::transitionChargingView(bool visible, bool showsBattery, bool)
+{
+    hideChargingView();
+    if (!visible)
+        return;
+    const UI::View view = self<UI::ViewController>().view();
+    chargingView = makeView("CSBatteryChargingView", {}, "stock.charging");
+    standIn<CSBatteryChargingView>(chargingView.raw()).update();
+    chargingView.send<void, "setBatteryVisible:">(showsBattery);
+    view.addSubview(chargingView);
+    view.setNeedsLayout();
+    combinedListController.view().setAlpha(0);
+    Loop::shared().schedule(chargingSeconds, [controller = self(), shown = chargingView] {
+        // A later one has a time of its own.
+        if (standIn<CSCoverSheetViewController>(controller.raw()).chargingView == shown)
+            controller.send<void, "_transitionChargingViewToVisible:showBattery:animated:">(false, false, true);
+    });
+}
+
+void CSCoverSheetViewController::hideChargingView()
+{
+    chargingView.removeFromSuperview();
+    chargingView = {};
+    combinedListController.view().setAlpha(1);
+}
+
+UI::ViewController SBCoverSheetPresentationManager::coverSheetViewController()
+{
+    if (!coverSheet)
+        coverSheet = makeController("CSCoverSheetViewController");
+    return coverSheet;
+}
+
+void registerCoverSheet()
+{
+    using Sheet = CSCoverSheetViewController;
+    Binder<Sheet>("CSCoverSheetViewController", "UIViewController")
+        .init<"init", &Sheet::init>()
+        .def<"loadView", &Sheet::loadView>()
+        .def<"viewDidLoad", &Sheet::viewDidLoad>()
+        .def<"viewWillAppear:", &Sheet::viewWillAppear>()
+        .def<"viewWillDisappear:", &Sheet::viewWillDisappear>()
+        .def<"viewDidLayoutSubviews", &Sheet::viewDidLayoutSubviews>()
+        .def<"dateView", &Sheet::dateView>()
+        .readonly<"dateViewController", &Sheet::dateViewController>()
+        .readonly<"combinedListViewController", &Sheet::combinedListController>()
+        .readonly<"quickActionsViewController", &Sheet::quickActionsController>()
+        .readonly<"teachableMomentsContainerViewController", &Sheet::teachableMomentsController>()
+        .readonly<"idleTimerController", &Sheet::idleTimerController>()
+        .def<"_transitionChargingViewToVisible:showBattery:animated:", &Sheet::transitionChargingView>()
+        .add();
+    using Manager = SBCoverSheetPresentationManager;
+    Binder<Manager>("SBCoverSheetPresentationManager", "NSObject")
+        .classMethod<"sharedInstance", &sharedObject<"SBCoverSheetPresentationManager">>()
+        .def<"coverSheetViewController", &Manager::coverSheetViewController>()
+        .add();
+}
+
+}

@@ -1,0 +1,61 @@
+// What the phone's surroundings are like: battery, weather, alarm, calendar, appearance, other extensions.
+// Plain values; whoever changes them tells the shell (Shell::deviceChanged).
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace Simulator {
+
+// The numbers are the platform's.
+enum class BatteryState { Unknown = 0, Unplugged = 1, Charging = 2, Full = 3 };
+enum class InterfaceStyle { Light = 1, Dark = 2 };
+
+struct Battery {
+    double level = 1;
+    BatteryState state = BatteryState::Unplugged;
+    bool lowPower = false;
+};
+
+/// Finished texts, as the weather library holds them. An empty one is absent.
+struct WeatherReport {
+    std::string temperature;
+    std::string high;
+    std::string low;
+    std::string conditions;
+    std::string location;
+    std::string sunrise;
+    std::string sunset;
+    /// Host path of a PNG.
+    std::string image;
+};
+
+/// Local times are "2020-11-15T21:41:00" in the phone's time zone, whichever that is when they are used.
+struct CalendarEvent {
+    std::string title;
+    std::string start;
+    bool allDay = false;
+};
+
+struct DeviceState {
+    static DeviceState& shared();
+
+    Battery battery;
+    std::optional<WeatherReport> weather;
+    /// Local time of the next alarm.
+    std::optional<std::string> alarm;
+    std::vector<CalendarEvent> events;
+    InterfaceStyle style = InterfaceStyle::Light;
+    /// Other extensions: "AFont", "LastLook", "Axon", "Filza".
+    std::set<std::string> installed;
+};
+
+/// Seconds since 2001-01-01 UTC of a local time in the phone's time zone; nothing if the text is none.
+std::optional<double> momentOfLocalTime(const std::string& text);
+/// The first moment of the day that a moment lies in, and of the day after it.
+double startOfDay(double moment);
+double startOfNextDay(double moment);
+
+}

@@ -1,0 +1,17 @@
+// The stock shell's label that stays legible on any wallpaper.
+#pragma once
+
+#include "Simulator/UIKit/UILabel.hpp"
+
+namespace Simulator {
+
+/// On the phone it is no label but a view that draws one; here the label's drawing is its own.
+struct SBUILegibilityLabel : UILabel {
+    void initWithFrame(CGRect frame);
+    void initWithString(const NS::Object& settings, double strength, const NS::String& string, const UI::Font& font);
+};
+
+/// White, centred, without text.
+UI::View makeLegibilityLabel(double fontSize, double weight, const char* identifier);
+
+}

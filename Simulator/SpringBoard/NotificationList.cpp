@@ -1,0 +1,110 @@
+#include "Simulator/SpringBoard/NotificationList.hpp"
+
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/SpringBoard/NotificationPlatter.hpp"
+#include "Simulator/SpringBoard/NotificationSection.hpp"
+#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/SpringBoard/StockParts.hpp"
+
+#include <algorithm>
+
+namespace Simulator {
+
+namespace {
+
+constexpr double spacing = 8;
+
+const Notification notifications[] = {
+    {"MESSAGES", "message.fill", 0.2, 0.78, 0.35, "Anna", "Are we still on for dinner tomorrow?"},
+    {"CALENDAR", "calendar", 1, 0.27, 0.23, "Dentist", "Tomorrow at 9:30 AM"},
+};
+
+}
+
+void NCNotificationListView::setContentInset(UIEdgeInsets inset)
+{
+    contentInset = inset;
+    setNeedsLayout();
+}
+
+void NCNotificationListView::layoutSubviews()
+{
+    const double width = std::max(0.0, bounds().size.width - contentInset.left - contentInset.right);
+    double y = contentInset.top;
+    for (const auto& [view, height] : rows) {
+        view.setFrame(CGRectMake(contentInset.left, y, width, height));
+        y += height + spacing;
+    }
+}
+
+void NCNotificationStructuredListViewController::viewDidLoad()
+{
+    list = makeView("NCNotificationListView", {}, "stock.notificationList");
+    self<UI::ViewController>().view().addSubview(list);
+    auto& rows = standIn<NCNotificationListView>(list.raw()).rows;
+    for (const Notification& notification : notifications) {
+        const UI::View platter = makeView("NCNotificationShortLookView", {}, "stock.notification");
+        standIn<NCNotificationShortLookView>(platter.raw()).show(notification);
+        rows.push_back({platter, NCNotificationShortLookView::height});
+    }
+    header = makeView("NCNotificationListSectionHeaderView", {}, "stock.notificationHeader");
+    hint = makeView("NCNotificationListSectionRevealHintView", {}, "stock.revealHint");
+    rows.push_back({header, NCNotificationListSectionHeaderView::height});
+    rows.push_back({hint, NCNotificationListSectionRevealHintView::height});
+    for (const auto& row : rows)
+        list.addSubview(row.view);
+    setHistoryRevealed(false);
+}
+
+void NCNotificationStructuredListViewController::viewDidLayoutSubviews()
+{
+    list.setFrame(self<UI::ViewController>().view().bounds());
+}
+
+void NCNotificationStructuredListViewController::setHistoryRevealed(bool revealed)
+{
+    header.setAlpha(revealed);
+    hint.setAlpha(revealed);
+}
+
+void CSCombinedListViewController::viewDidLoad()
+{
+    const auto controller = self<UI::ViewController>();
+    structuredList = makeController("NCNotificationStructuredListViewController");
+    controller.addChildViewController(structuredList);
+    controller.view().addSubview(structuredList.view());
+}
+
+void CSCombinedListViewController::viewWillAppear(bool)
+{
+    self<UI::ViewController>().view().setNeedsLayout();
+}
+
+void CSCombinedListViewController::viewDidLayoutSubviews()
+{
+    structuredList.view().setFrame(self<UI::ViewController>().view().bounds());
+    const auto insets = self().send<UIEdgeInsets, "_listViewDefaultContentInsets">();
+    structuredList.send<UI::View, "scrollView">().send<void, "setContentInset:">(insets);
+}
+
+void registerNotificationList()
+{
+    Binder<NCNotificationListView>("NCNotificationListView", "UIView")
+        .def<"layoutSubviews", &NCNotificationListView::layoutSubviews>()
+        .readonly<"contentInset", &NCNotificationListView::contentInset>()
+        .def<"setContentInset:", &NCNotificationListView::setContentInset>()
+        .add();
+    Binder<NCNotificationStructuredListViewController>("NCNotificationStructuredListViewController", "UIViewController")
+        .def<"viewDidLoad", &NCNotificationStructuredListViewController::viewDidLoad>()
+        .def<"viewDidLayoutSubviews", &NCNotificationStructuredListViewController::viewDidLayoutSubviews>()
+        .def<"scrollView", &NCNotificationStructuredListViewController::scrollView>()
+        .add();
+    Binder<CSCombinedListViewController>("CSCombinedListViewController", "UIViewController")
+        .def<"viewDidLoad", &CSCombinedListViewController::viewDidLoad>()
+        .def<"viewWillAppear:", &CSCombinedListViewController::viewWillAppear>()
+        .def<"viewDidLayoutSubviews", &CSCombinedListViewController::viewDidLayoutSubviews>()
+        .def<"_listViewDefaultContentInsets", &CSCombinedListViewController::listViewDefaultContentInsets>()
+        .add();
+}
+
+}

@@ -1,0 +1,46 @@
+// The list of notifications and the controller that places it.
+#pragma once
+
+#include "Simulator/UIKit/UIViewController.hpp"
+
+#include <vector>
+
+namespace Simulator {
+
+/// Scrolled, or moved by its insets; what lies beyond the edges shows as on the phone.
+struct NCNotificationListView : UIView {
+    void layoutSubviews();
+    void setContentInset(UIEdgeInsets inset);
+
+    UIEdgeInsets contentInset;
+    /// Rows from top to bottom, each with its height.
+    struct Row {
+        UI::View view;
+        double height;
+    };
+    std::vector<Row> rows;
+};
+
+struct NCNotificationStructuredListViewController : UIViewController {
+    void viewDidLoad();
+    void viewDidLayoutSubviews();
+    UI::View scrollView() const { return list; }
+    /// Older notifications show when the cover sheet is pulled down over the home screen.
+    void setHistoryRevealed(bool revealed);
+
+private:
+    UI::View list;
+    UI::View header;
+    UI::View hint;
+};
+
+struct CSCombinedListViewController : UIViewController {
+    void viewDidLoad();
+    void viewWillAppear(bool animated);
+    void viewDidLayoutSubviews();
+    UIEdgeInsets listViewDefaultContentInsets() const { return {}; }
+
+    UI::ViewController structuredList;
+};
+
+}

@@ -1,0 +1,36 @@
+// One notification: a rounded pane with the app's icon and name, the time, a title and a text.
+#pragma once
+
+#include "Simulator/UIKit/UIView.hpp"
+
+#include <string>
+
+namespace Simulator {
+
+struct Notification {
+    std::string app;
+    /// The white symbol on the app's icon, and the icon's colour.
+    const char* symbol;
+    CGFloat red, green, blue;
+    std::string title;
+    std::string text;
+};
+
+struct NCNotificationShortLookView : UIView {
+    static constexpr double height = 78;
+
+    void initWithFrame(CGRect frame);
+    void layoutSubviews();
+    void show(const Notification& notification);
+
+private:
+    UI::View pane;
+    UI::View icon;
+    UI::View glyph;
+    UI::View app;
+    UI::View time;
+    UI::View title;
+    UI::View text;
+};
+
+}

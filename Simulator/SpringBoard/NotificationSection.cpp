@@ -1,0 +1,58 @@
+// What stands around the older notifications: the header above them, and the hint that there are no more.
+#include "Simulator/SpringBoard/NotificationSection.hpp"
+
+#include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/SpringBoard/LegibilityLabel.hpp"
+#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/SpringBoard/StockParts.hpp"
+
+#include <algorithm>
+
+namespace Simulator {
+
+void NCNotificationListSectionHeaderView::initWithFrame(CGRect frame)
+{
+    UIView::initWithFrame(frame);
+    const UI::Label label = makeLabel("Notification Center", 22, FontWeight::semibold, UI::Color::whiteColor());
+    label.setAccessibilityIdentifier("stock.notificationHeader.title"_ns);
+    title = label;
+    addSubview(title);
+}
+
+void NCNotificationListSectionHeaderView::layoutSubviews()
+{
+    const CGSize size = bounds().size;
+    title.setFrame(CGRectMake(8, 0, std::max(0.0, size.width - 16), size.height));
+}
+
+void NCNotificationListSectionRevealHintView::initWithFrame(CGRect frame)
+{
+    UIView::initWithFrame(frame);
+    const UI::View label = makeLegibilityLabel(17, FontWeight::regular, "stock.revealHint.title");
+    label.send<void, "setString:">("No Older Notifications"_ns);
+    setIvar("_revealHintTitle", label);
+    addSubview(label);
+}
+
+void NCNotificationListSectionRevealHintView::layoutSubviews()
+{
+    ivar<UI::View>("_revealHintTitle").setFrame(bounds());
+}
+
+void registerNotificationSection()
+{
+    Binder<NCNotificationListSectionHeaderView>("NCNotificationListSectionHeaderView", "UIView")
+        .init<"initWithFrame:", &NCNotificationListSectionHeaderView::initWithFrame>()
+        .def<"layoutSubviews", &NCNotificationListSectionHeaderView::layoutSubviews>()
+        .def<"hidden", &NCNotificationListSectionHeaderView::isHidden>()
+        .add();
+    Binder<NCNotificationListSectionRevealHintView>("NCNotificationListSectionRevealHintView", "UIView")
+        .init<"initWithFrame:", &NCNotificationListSectionRevealHintView::initWithFrame>()
+        .def<"layoutSubviews", &NCNotificationListSectionRevealHintView::layoutSubviews>()
+        .def<"didMoveToWindow", &NCNotificationListSectionRevealHintView::didMoveToWindow>()
+        .ivar<"_revealHintTitle">()
+        .add();
+}
+
+}

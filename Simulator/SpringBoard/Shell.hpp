@@ -1,0 +1,98 @@
+// The stock shell of the phone: window, wallpaper, status bar, cover sheet and home screen, and what a hand does to it.
+#pragma once
+
+#include "Simulator/Loop/Loop.hpp"
+#include "Simulator/SpringBoard/DeviceState.hpp"
+#include "Simulator/UIKit/UIWindow.hpp"
+
+#include <string>
+
+namespace Simulator {
+
+/// One at a time. Needs the classes of UIKit and SpringBoard, the screen's settings, the device's state, the clock.
+class Shell {
+public:
+    Shell();
+    ~Shell();
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
+
+    /// The shell that runs; null if there is none.
+    static Shell* current();
+
+    /// Brings up the lock screen: locked, lit, loaded and appeared. What is due later has not run yet.
+    void start();
+
+    /// The side button: locks and darkens.
+    void lock();
+    /// Lights the screen.
+    void wake();
+    /// To the home screen.
+    void unlock();
+    /// Pulls the cover sheet down over what is in front.
+    void coverSheet();
+    void openApp(const std::string& bundle);
+    void memoryWarning();
+    void charge(bool charging);
+    /// What the system writes into the stock subtitle; the date again for an empty text.
+    void subtitle(const std::string& text);
+    /// Runs a timer in the subtitle; 0 stops it.
+    void timer(double seconds);
+    void setStyle(InterfaceStyle style);
+    void rotate(bool landscape);
+
+    /// The device's state was changed: battery, appearance. Weather, alarm, events and locale are read when they are
+    /// needed.
+    void deviceChanged();
+    /// The clock was set: the minute begins elsewhere now.
+    void clockChanged();
+
+    /// Lays out what needs it, as the phone does at the end of each turn of its run loop. After every operation above
+    /// this is done already; whoever runs the loop or sends messages does it afterwards.
+    void commit();
+
+    bool isLocked() const { return locked_; }
+    bool isLit() const { return lit_; }
+    bool isCoverSheetPresented() const { return presented_; }
+    UIWindow& window() const;
+    UI::ViewController coverSheetController() const { return coverSheet_; }
+    /// The shell's current object of that class, or of one derived from it; nil if there is none.
+    ObjC::Object instance(const std::string& className) const;
+
+    /// What the stock lock and backlight objects do.
+    void setLocked(bool locked);
+    void setLit(bool lit);
+
+private:
+    void buildWindow();
+    void placeViews();
+    void applyDeviceState();
+    void present(bool presented);
+    void setFrontApp(const std::string& bundle);
+    void showHomeScreen();
+    void revealHistory(bool revealed);
+    void updateVisibility();
+    void updateStatusBar();
+    void updateClock();
+    void restartMinuteTimer();
+    void tickCountdown();
+    void setSubtitle(const std::string& text);
+
+    UI::View window_;
+    UI::View wallpaper_;
+    UI::View statusBar_;
+    UI::View homeIndicator_;
+    UI::View app_;
+    UI::View darkness_;
+    UI::ViewController coverSheet_;
+    UI::ViewController homeScreen_;
+    std::string frontApp_;
+    bool locked_ = true;
+    bool lit_ = true;
+    bool presented_ = false;
+    TimerId minuteTimer_ = 0;
+    TimerId countdown_ = 0;
+    double countdownEnd_ = 0;
+};
+
+}

@@ -1,0 +1,27 @@
+// The line at the top: network, radio and battery, and the padlock where the screen has no room of its own for it.
+#pragma once
+
+#include "Simulator/UIKit/UIView.hpp"
+
+namespace Simulator {
+
+struct UIStatusBar_Modern : UIView {
+    void initWithFrame(CGRect frame);
+    void layoutSubviews();
+    /// The network's name on the lock screen, the time elsewhere.
+    void setLeadingText(const NS::String& text);
+    /// Takes over the device's battery.
+    void update();
+
+private:
+    void layOutBars(double right, double middle);
+
+    UI::View leading;
+    std::vector<UI::View> bars;
+    UI::View wifi;
+    UI::View battery;
+    /// The saver mode is told once, and again when it changes.
+    std::optional<bool> shownSaverMode;
+};
+
+}

@@ -1,0 +1,44 @@
+#include "Simulator/SpringBoard/Wallpaper.hpp"
+
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/SpringBoard/Registrations.hpp"
+
+namespace Simulator {
+
+namespace {
+
+constexpr long aspectFill = 2;
+
+}
+
+void SBFStaticWallpaperView::initWithFrame(CGRect frame)
+{
+    UIImageView::initWithFrame(frame);
+    contentMode = aspectFill;
+    setClipsToBounds(true);
+    reload();
+}
+
+Graphics::LayerContent SBFStaticWallpaperView::layerContent() const
+{
+    if (image)
+        return UIImageView::layerContent();
+    Graphics::Gradient dusk;
+    dusk.colors = {{0.09, 0.11, 0.2, 1}, {0.2, 0.17, 0.33, 1}, {0.42, 0.25, 0.36, 1}};
+    return dusk;
+}
+
+void SBFStaticWallpaperView::reload()
+{
+    self<UI::ImageView>().setImage(
+        UI::Image::imageWithContentsOfFile("/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"_ns));
+}
+
+void registerWallpaper()
+{
+    Binder<SBFStaticWallpaperView>("SBFStaticWallpaperView", "UIImageView")
+        .init<"initWithFrame:", &SBFStaticWallpaperView::initWithFrame>()
+        .add();
+}
+
+}
