@@ -1,0 +1,90 @@
+// Counts the colours in a flat table and takes the winners by single walks over the colours that remain.
+#include "WKSPalette/PalettePick.hpp"
+
+#include <algorithm>
+#include <bit>
+#include <vector>
+
+namespace LYR {
+
+namespace {
+
+constexpr WKSColor black{0, 0, 0, 255};
+constexpr WKSColor white{255, 255, 255, 255};
+
+struct Candidate {
+    WKSColor color;
+    std::uint32_t count;
+};
+
+constexpr bool ranksAbove(const Candidate& left, const Candidate& right)
+{
+    if (left.count != right.count)
+        return left.count > right.count;
+    return left.color.packed() < right.color.packed();
+}
+
+/// Every colour once, with the number of its pixels, in the order of appearance. Open addressing at most half
+/// full: the slots hold one more than the index of a candidate.
+std::vector<Candidate> countColors(std::span<const WKSColor> pixels)
+{
+    std::vector<Candidate> candidates;
+    candidates.reserve(pixels.size());
+    std::vector<std::uint32_t> slots(std::bit_ceil(std::max<std::size_t>(pixels.size() * 2, 2)));
+    const std::size_t mask = slots.size() - 1;
+    const int shift = 64 - std::countr_zero(slots.size());
+
+    for (WKSColor color : pixels) {
+        std::size_t slot = (color.packed() * 0x9E3779B97F4A7C15u) >> shift;
+        while (slots[slot] && candidates[slots[slot] - 1].color != color)
+            slot = (slot + 1) & mask;
+        if (slots[slot])
+            ++candidates[slots[slot] - 1].count;
+        else {
+            candidates.push_back({color, 1});
+            slots[slot] = static_cast<std::uint32_t>(candidates.size());
+        }
+    }
+    return candidates;
+}
+
+template <class Test>
+const Candidate* mostFrequent(const std::vector<Candidate>& candidates, Test test)
+{
+    const Candidate* best = nullptr;
+    for (const Candidate& candidate : candidates)
+        if ((!best || ranksAbove(candidate, *best)) && test(candidate.color))
+            best = &candidate;
+    return best;
+}
+
+WKSColor pickBackground(const std::vector<Candidate>& candidates)
+{
+    const Candidate* best = mostFrequent(candidates, [](WKSColor color) { return !color.isBlackOrWhite(); });
+    if (!best)
+        best = mostFrequent(candidates, [](WKSColor) { return true; });
+    return best ? best->color : black;
+}
+
+}
+
+PickedColors pickPalette(std::span<const WKSColor> pixels)
+{
+    std::vector<Candidate> candidates = countColors(pixels);
+    WKSColor background = pickBackground(candidates);
+    bool textIsDark = !background.isDark();
+
+    // Text colours are judged as the picture shows them: their saturation is not raised first.
+    auto next = [&](auto isDistinctFromPicked) {
+        const Candidate* best = mostFrequent(candidates, [&](WKSColor color) {
+            return color.isDark() == textIsDark && color.isContrasting(background) && isDistinctFromPicked(color);
+        });
+        return best ? best->color : textIsDark ? black : white;
+    };
+    WKSColor primary = next([](WKSColor) { return true; });
+    WKSColor secondary = next([&](WKSColor color) { return color.isDistinct(primary); });
+    WKSColor detail = next([&](WKSColor color) { return color.isDistinct(primary) && color.isDistinct(secondary); });
+    return {background, primary, secondary, detail};
+}
+
+}

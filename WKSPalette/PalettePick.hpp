@@ -1,0 +1,25 @@
+// Chooses a background and three text colours from the pixels of a picture, by how often each colour occurs.
+#pragma once
+
+#include "WKSPalette/WKSColor.hpp"
+
+#include <span>
+
+namespace LYR {
+
+struct PickedColors {
+    WKSColor background;
+    WKSColor primary;
+    WKSColor secondary;
+    WKSColor detail;
+
+    constexpr bool operator==(const PickedColors&) const = default;
+};
+
+/// The background is the most frequent colour that is not black or white, else the most frequent one. The text
+/// colours are the most frequent of the opposite darkness that contrast with the background and are distinct from
+/// one another; where there is none left, white stands on a dark background and black on a light one. Of colours
+/// that are equally frequent the one with the smaller packed value wins. No pixels at all count as black.
+PickedColors pickPalette(std::span<const WKSColor> pixels);
+
+}
