@@ -1,0 +1,41 @@
+// Both entries are written at every start, so that switching the setting off undoes them.
+#include "Tweak/AFont.hpp"
+
+#include "Platform/Foundation/NSFileManager.hpp"
+#include "Platform/Foundation/NSNumber.hpp"
+#include "Tweak/Settings.hpp"
+
+#include <dlfcn.h>
+
+namespace LYR {
+
+constinit ObjC::Variable<NS::MutableDictionary> _prefsAFont;
+
+static constexpr const char library[] = "/Library/MobileSubstrate/DynamicLibraries/AFont.dylib";
+
+void loadAFont()
+{
+    dlopen(library, RTLD_NOW);
+}
+
+void updateAFontBlacklist()
+{
+    auto files = NS::FileManager::defaultManager();
+    auto settingsFile = "/var/mobile/Library/Preferences/com.rpgfarm.afontprefs.plist"_ns;
+    if (!files.fileExistsAtPath(NS::String::fromUTF8(library)))
+        return;
+
+    auto settings = NS::MutableDictionary::dictionaryWithContentsOfFile(settingsFile);
+    if (!settings)
+        settings = NS::MutableDictionary::dictionary();
+    auto stored = settings.objectForKey<NS::Dictionary>("blacklist"_ns);
+    auto blacklist = stored ? stored.mutableCopy() : NS::MutableDictionary::dictionary();
+    auto excluded = NS::Number::numberWithBool(_disableAFont);
+    blacklist.setObject(excluded, "com.apple.springboard"_ns);
+    blacklist.setObject(excluded, "com.apple.Preferences"_ns);
+    settings.setObject(blacklist, "blacklist"_ns);
+    _prefsAFont = settings;
+    settings.copy().writeToFile(settingsFile, true);
+}
+
+}

@@ -1,0 +1,105 @@
+// Creation, placement and visibility of the clock's labels.
+#include "Tweak/Clock/ClockLabels.hpp"
+
+#include "Tweak/Clock/ScreenWidth.hpp"
+#include "Tweak/Settings.hpp"
+#include "Tweak/Views.hpp"
+
+namespace LYR {
+
+namespace {
+
+constexpr CGFloat inset = 7;
+constexpr CGFloat margins = 30;
+constexpr CGFloat timeHeight = 180;
+constexpr CGFloat dateHeight = 40;
+/// Far enough above the screen that nothing shows.
+constexpr CGFloat outOfSight = 3000;
+
+CGRect timeFrame(const ScreenLayout& layout)
+{
+    return CGRectMake(_XtimeLabel.doubleValue() + inset, _YtimeLabel.doubleValue(), layout.width - margins, timeHeight);
+}
+
+CGRect dateFrame(const ScreenLayout& layout)
+{
+    return CGRectMake(_XdateLabel.doubleValue() + inset, _YdateLabel.doubleValue(), layout.width - margins, dateHeight);
+}
+
+void createBorderView(ObjC::Variable<UI::View>& variable, const NS::String& name, const UI::View& parent)
+{
+    auto border = UI::View::make();
+    parent.addSubview(border);
+    border.setBackgroundColor(UI::Color::clearColor());
+    border.setHidden(true);
+    keepView(variable, border, name);
+}
+
+}
+
+void createClockLabels(const SB::FLockScreenDateViewController& controller)
+{
+    auto view = controller.view();
+    auto time = UI::Label::make();
+    time.setNumberOfLines(2);
+    time.setAdjustsFontSizeToFitWidth(true);
+    view.addSubview(time);
+    keepView(_timeLabel, time, "_timeLabel"_ns);
+
+    auto date = UI::Label::make();
+    date.setNumberOfLines(1);
+    date.setAdjustsFontSizeToFitWidth(false);
+    date.setLineBreakMode(UI::LineBreakMode::truncatingTail);
+    date.setTextColor(UI::Color::whiteColor());
+    view.addSubview(date);
+    keepView(_dateLabel, date, "_dateLabel"_ns);
+
+    auto timer = UI::Label::make();
+    timer.setNumberOfLines(1);
+    timer.setAdjustsFontSizeToFitWidth(true);
+    timer.setTextColor(UI::Color::whiteColor());
+    timer.setHidden(true);
+    view.addSubview(timer);
+    keepView(_timerLabel, timer, "_timerLabel"_ns);
+
+    createBorderView(_dateBorderView, "_dateBorderView"_ns, view);
+    createBorderView(_timeBorderView, "_timeBorderView"_ns, view);
+    _timeBorderView->layer().setCornerRadius(15);
+}
+
+void placeClockLabels(const SB::FLockScreenDateViewController& controller)
+{
+    auto layout = screenLayout();
+    if (!layout)
+        return;
+    _timeLabel->setFrame(timeFrame(*layout));
+    _dateLabel->setFrame(dateFrame(*layout));
+    _timerLabel->setFrame(dateFrame(*layout));
+    controller.view().setTransform(CGAffineTransformMakeScale(layout->scale, layout->scale));
+}
+
+void placeDateLabel()
+{
+    auto layout = screenLayout();
+    if (!layout)
+        return;
+    CGRect frame = dateFrame(*layout);
+    if (isTimerRunning)
+        frame.origin.y -= outOfSight;
+    _dateLabel->setFrame(frame);
+}
+
+void settleTimerAndDate()
+{
+    if (!isTimerRunning)
+        _timerLabel->setText("Timer Off"_ns);
+    placeDateLabel();
+}
+
+void applyClockVisibility()
+{
+    _timeLabel->setHidden(!_enableTime);
+    _dateLabel->setHidden(!_enableDate);
+}
+
+}

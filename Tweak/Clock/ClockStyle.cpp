@@ -1,0 +1,138 @@
+// How the clock's labels look, step by step as each full refresh applies it.
+#include "Tweak/Clock/ClockLabels.hpp"
+
+#include "Platform/UIKit/UIImage.hpp"
+#include "Tweak/Clock/ScreenWidth.hpp"
+#include "Tweak/Fonts.hpp"
+#include "Tweak/Settings.hpp"
+#include "Tweak/Views.hpp"
+#include "WKSPalette/WKSColorUtils.hpp"
+
+namespace LYR {
+
+namespace {
+
+void applyAlpha()
+{
+    _timeLabel->setAlpha(_alphaTime.doubleValue());
+    _dateLabel->setAlpha(_alphaDate.doubleValue());
+}
+
+/// The outlines are a little wider than the labels. The one of the date gets no vertical margin, unlike the other.
+void placeBorderViews()
+{
+    _timeBorderView->setFrame(CGRectMake(
+        _XtimeLabel.doubleValue() + 2.5, _YtimeLabel.doubleValue() + 40, _timeLabel->bounds().size.width + 10, 100));
+    _dateBorderView->setFrame(CGRectMake(
+        _XdateLabel.doubleValue() + 2.5, _YdateLabel.doubleValue(), _dateLabel->bounds().size.width + 10, 40));
+}
+
+UI::Font fontNamed(const NS::String& name, const ObjectSetting& size)
+{
+    return name ? UI::Font::fontWithName(name, size.intValue()) : UI::Font();
+}
+
+/// A font that the user picked from the list of all installed ones.
+NS::String pickedFont(const NS::String& key)
+{
+    return _preferences->objectForKey(key).as<NS::String>();
+}
+
+void applyTimeFont()
+{
+    const ObjC::Variable<NS::String>* const builtIn[] = {&_font1, &_font2, &_font3, &_font4};
+    int choice = _customFont.intValue();
+    if (choice >= 1 && choice <= 4)
+        _timeLabel->setFont(fontNamed(builtIn[choice - 1]->get(), _sizeTimeLabel));
+    else if (choice == 5)
+        _timeLabel->setFont(fontNamed(pickedFont("customFontPickerTime"_ns), _sizeTimeLabel));
+}
+
+void applyDateFont()
+{
+    auto name = _useCustomFont2 ? pickedFont("customFontPicker"_ns) : _font5.get();
+    auto font = fontNamed(name, _sizeDateLabel);
+    _dateLabel->setFont(font);
+    _timerLabel->setFont(font);
+}
+
+/// 1, 2, 3 are left, centre, right.
+void applyAlignment(const ObjectSetting& setting, std::initializer_list<const UI::Label*> labels)
+{
+    int alignment = setting.intValue();
+    if (alignment < 1 || alignment > 3)
+        return;
+    for (const UI::Label* label : labels)
+        label->setTextAlignment(static_cast<UI::TextAlignment>(alignment - 1));
+}
+
+void takeWallpaperColours()
+{
+    auto wallpaper
+        = UI::Image::imageWithContentsOfFile("/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"_ns);
+    auto palette = WKSColorUtils::averageColors(wallpaper, 1.0);
+    _bgWallColor = WKSColorUtils::colorWithMinimumSaturation(palette.background(), -0.1);
+    _primaryWallColor = WKSColorUtils::colorWithMinimumSaturation(palette.primary(), 0.1);
+    _secondaryWallColor = WKSColorUtils::colorWithMinimumSaturation(palette.detail(), 0.35);
+}
+
+/// Colours the label from the source that the code names; a code that names none leaves it as it is.
+void applyColour(const UI::Label& label, const ObjectSetting& source, const UI::Color& stored)
+{
+    switch (source.intValue()) {
+    case 1:
+        return label.setTextColor(_bgWallColor);
+    case 2:
+        return label.setTextColor(_primaryWallColor);
+    case 3:
+        return label.setTextColor(_secondaryWallColor);
+    case 4:
+        return label.setTextColor(stored);
+    }
+}
+
+void applyColours()
+{
+    loadColours();
+    auto time = storedColour("colourTime"_ns);
+    auto date = storedColour("colourDate"_ns);
+    _dateLabel->setTextColor(date);
+    takeWallpaperColours();
+    applyColour(_timeLabel.reference(), _colorTime, time);
+    applyColour(_dateLabel.reference(), _colorDate, date);
+}
+
+void applyShadow(const UI::Label& label, const UI::Color& colour, CGFloat radius, CGSize offset)
+{
+    auto layer = label.layer();
+    layer.setShadowOpacity(0.7f);
+    layer.setShadowColor(colour.CGColor());
+    layer.setShadowRadius(radius);
+    layer.setShadowOffset(offset);
+}
+
+/// Without a shadow its geometry is set all the same, in a clear colour.
+void applyShadows()
+{
+    auto colour = _shadowText ? storedColour("colourShadow"_ns) : UI::Color::clearColor();
+    applyShadow(_timeLabel.reference(), colour, 2.5, {1.0, 1.0});
+    applyShadow(_dateLabel.reference(), colour, 1.5, {0.4, 0.4});
+}
+
+}
+
+void styleClockLabels(const SB::FLockScreenDateViewController& controller)
+{
+    loadBuiltInFonts();
+    applyAlpha();
+    placeBorderViews();
+    placeClockLabels(controller);
+    applyTimeFont();
+    applyDateFont();
+    applyAlignment(_alignTime, {&_timeLabel.reference()});
+    applyAlignment(_alignDate, {&_dateLabel.reference(), &_timerLabel.reference()});
+    applyColours();
+    applyShadows();
+}
+
+}

@@ -1,0 +1,15 @@
+// The texts of the clock: the time, and the date with one item that may follow it.
+#pragma once
+
+#include "Platform/Foundation/NSDate.hpp"
+#include "Platform/Foundation/NSString.hpp"
+
+namespace LYR {
+
+/// The time as `timeFormat` or, with `twentyFourTime`, "H:mm" has it.
+NS::String timeText(const NS::Date& moment);
+
+/// Sets the date line. Settings that name no style or no option leave it as it is.
+void updateDateLine(const NS::Date& moment);
+
+}

@@ -1,0 +1,21 @@
+#include "Tweak/Clock/DateLineIcon.hpp"
+
+#include "Tweak/Settings.hpp"
+#include "Tweak/Views.hpp"
+
+#include <cmath>
+
+namespace LYR {
+
+NS::AttributedString dateLineIcon(const UI::Image& image)
+{
+    CGFloat side = 1.5 * _sizeDateLabel.intValue();
+    // The halving is done in single precision, and whole points keep the icon's edges sharp.
+    CGFloat y = std::trunc(static_cast<float>(_dateLabel->font().capHeight() - side) / 2.0f);
+    auto attachment = NS::TextAttachment::make();
+    attachment.setBounds(CGRectMake(0, y, side, side));
+    attachment.setImage(image);
+    return NS::AttributedString::attributedStringWithAttachment(attachment);
+}
+
+}

@@ -1,0 +1,104 @@
+#include "Tweak/CoverSheet/AdjustmentHooks.hpp"
+
+#include "Platform/ObjC/Hook.hpp"
+#include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
+#include "Tweak/Settings.hpp"
+
+namespace LYR {
+
+constinit ObjC::Variable<NC::StructuredListViewController> _notifVC;
+constinit ObjC::Variable<CS::CoverSheetViewController> coverView;
+constinit bool _isLPM = false;
+constinit bool _axonVisible = false;
+
+void NCNotificationStructuredListViewController_viewDidLoad(NC::StructuredListViewController self, SEL cmd)
+{
+    stock<NCNotificationStructuredListViewController_viewDidLoad>(self, cmd);
+    _notifVC = self;
+}
+
+// The list makes room for the clock above it.
+UIEdgeInsets CSCombinedListViewController_listViewDefaultContentInsets(UI::ViewController self, SEL cmd)
+{
+    auto insets = stock<CSCombinedListViewController_listViewDefaultContentInsets>(self, cmd);
+    insets.top += _yNC.doubleValue();
+    return insets;
+}
+
+UI::View CSCoverSheetViewController_dateView(CS::CoverSheetViewController self, SEL cmd)
+{
+    auto view = stock<CSCoverSheetViewController_dateView>(self, cmd);
+    coverView = self;
+    return view;
+}
+
+void CSCoverSheetViewController_transitionChargingView(
+    CS::CoverSheetViewController self, SEL cmd, bool visible, bool showBattery, bool animated)
+{
+    const bool allowed = !_chargeAnim;
+    stock<CSCoverSheetViewController_transitionChargingView>(
+        self, cmd, visible && allowed, showBattery && allowed, animated && allowed);
+}
+
+bool CSQuickActionsViewController_hasFlashlight(UI::ViewController, SEL)
+{
+    return !_hiddenFlashlight;
+}
+
+bool CSQuickActionsViewController_hasCamera(UI::ViewController, SEL)
+{
+    return !_hiddenCamera;
+}
+
+void NCNotificationListSectionRevealHintView_didMoveToWindow(UI::View self, SEL cmd)
+{
+    stock<NCNotificationListSectionRevealHintView_didMoveToWindow>(self, cmd);
+    if (!_enabledCT2)
+        return;
+    auto title = self.ivar<SB::UILegibilityLabel>("_revealHintTitle");
+    auto text = _ctNoOlder.stringValue();
+    title.setTextAlignment(UI::TextAlignment::center);
+    if (text.length() > 0)
+        title.setString(text);
+}
+
+void UIBatteryView_setSaverModeActive(UI::View self, SEL cmd, bool active)
+{
+    stock<UIBatteryView_setSaverModeActive>(self, cmd, active);
+    _isLPM = active;
+}
+
+void CSTeachableMomentsContainerViewController_updateText(UI::ViewController self, SEL cmd, NS::String text)
+{
+    stock<CSTeachableMomentsContainerViewController_updateText>(
+        self, cmd, _enabledCT ? _customText.stringValue() : text);
+}
+
+// The stock layout is not run: what never shows needs none.
+void NCNotificationListSectionHeaderView_layoutSubviews(UI::View self, SEL)
+{
+    self.setHidden(true);
+}
+
+CGRect NCNotificationListSectionHeaderView_frame(UI::View, SEL)
+{
+    return {};
+}
+
+bool NCNotificationListSectionHeaderView_hidden(UI::View, SEL)
+{
+    return true;
+}
+
+AXN::View AXNView_initWithFrame(AXN::View self, SEL cmd, CGRect frame)
+{
+    NS::Timer::scheduled(1.0, self, ObjC::selector<"axonCheck:">(), true);
+    return stockInitializer<AXNView_initWithFrame>(self, cmd, frame);
+}
+
+void AXNView_axonCheck(AXN::View self, SEL, NS::Timer)
+{
+    _axonVisible = self.list().count() != 0;
+}
+
+}

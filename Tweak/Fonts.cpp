@@ -1,0 +1,137 @@
+// Registration of font files with the text system. A file that is no font is logged and left alone.
+#include "Tweak/Fonts.hpp"
+
+#include "Platform/CoreText/CTFontManager.hpp"
+#include "Platform/Foundation/CFBase.hpp"
+#include "Platform/Foundation/NSData.hpp"
+#include "Platform/Foundation/NSFileManager.hpp"
+#include "Platform/Foundation/NSLog.hpp"
+#include "Platform/Foundation/NSURL.hpp"
+#include "Platform/UIKit/UIFont.hpp"
+
+namespace LYR {
+
+constinit ObjC::Variable<NS::Dictionary> matchDict;
+constinit ObjC::Variable<NS::String> _font1, _font2, _font3, _font4, _font5;
+constinit ObjC::Variable<NS::MutableArray> availableFonts;
+
+namespace {
+
+using GraphicsFont = CF::Owned<CGFontRef, CGFontRelease>;
+using DataProvider = CF::Owned<CGDataProviderRef, CGDataProviderRelease>;
+
+struct TextFontRelease {
+    static void release(CTFontRef font) { CFRelease(font); }
+};
+using TextFont = CF::Owned<CTFontRef, TextFontRelease::release>;
+
+struct BuiltInFont {
+    NS::String (*path)();
+    ObjC::Variable<NS::String>* name;
+};
+
+// In the order of loading.
+const BuiltInFont builtInFonts[] = {
+    {[] { return "/Library/Application Support/lyr.bundle/time1.ttf"_ns; }, &_font1},
+    {[] { return "/Library/Application Support/lyr.bundle/time2.ttf"_ns; }, &_font2},
+    {[] { return "/Library/Application Support/lyr.bundle/time3.ttf"_ns; }, &_font3},
+    {[] { return "/Library/Application Support/lyr.bundle/time4.ttf"_ns; }, &_font4},
+    {[] { return "/Library/Application Support/lyr.bundle/date.ttf"_ns; }, &_font5},
+};
+
+void logFailure(const NS::String& prefix, id error)
+{
+    auto description = error ? NS::String::adopting(CFErrorCopyDescription(error)) : NS::String();
+    NS::log(prefix.stringByAppendingString(description ? description : "(null)"_ns));
+    ObjC::release(error);
+}
+
+GraphicsFont graphicsFontFrom(const NS::Data& data)
+{
+    if (!data)
+        return GraphicsFont();
+    DataProvider provider(CGDataProviderCreateWithCFData(data.raw()));
+    return GraphicsFont(provider ? CGFontCreateWithDataProvider(provider.get()) : nullptr);
+}
+
+NS::String familyNameOf(const GraphicsFont& font)
+{
+    if (!font)
+        return {};
+    TextFont textFont(CTFontCreateWithGraphicsFont(font.get(), 36, nullptr, nullptr));
+    return textFont ? NS::String::adopting(CTFontCopyFamilyName(textFont.get())) : NS::String();
+}
+
+/// Reads and registers the font in a file; answers its PostScript name, or nil if the file holds no font.
+NS::String registerGraphicsFont(const NS::String& path)
+{
+    auto data = NS::Data::dataWithContentsOfFile(path);
+    NS::log("Font path: "_ns.stringByAppendingString(path));
+    GraphicsFont font = graphicsFontFrom(data);
+    id error = nullptr;
+    if (!font || !CTFontManagerRegisterGraphicsFont(font.get(), &error))
+        logFailure("Failed to load font: "_ns, error);
+    return font ? NS::String::adopting(CGFontCopyPostScriptName(font.get())) : NS::String();
+}
+
+void registerFile(const NS::String& path)
+{
+    auto url = NS::URL::fileURLWithPath(path);
+    CTFontManagerUnregisterFontsForURL(url.raw(), 0, nullptr);
+    id error = nullptr;
+    if (!CTFontManagerRegisterFontsForURL(url.raw(), 0, &error))
+        logFailure("[LYRFont] Failed to load font: "_ns, error);
+}
+
+void enter(const NS::MutableDictionary& table, const NS::String& name, const NS::String& path)
+{
+    if (name)
+        table.setObject(path, name);
+}
+
+}
+
+void registerUserFonts()
+{
+    auto folder = "/Library/Application Support/LYRFont/"_ns;
+    auto table = NS::MutableDictionary::dictionary();
+    auto names = NS::FileManager::defaultManager().contentsOfDirectoryAtPath(folder);
+    // The text system gathers its own fonts before it is given more.
+    UI::Font::familyNames();
+    for (unsigned long i = 0; i < names.count(); ++i) {
+        ObjC::AutoreleasePool pool;
+        auto path = folder.stringByAppendingString(names.at<NS::String>(i));
+        registerFile(path);
+        enter(table, familyNameOf(graphicsFontFrom(NS::Data::dataWithContentsOfFile(path))), path);
+        enter(table, registerGraphicsFont(path), path);
+    }
+    matchDict = table.copy();
+}
+
+void loadBuiltInFonts()
+{
+    auto files = NS::FileManager::defaultManager();
+    for (const BuiltInFont& font : builtInFonts) {
+        auto path = font.path();
+        if (!files.fileExistsAtPath(path))
+            continue;
+        if (auto name = registerGraphicsFont(path))
+            *font.name = name;
+    }
+}
+
+unsigned long rebuildAvailableFonts()
+{
+    auto fonts = NS::MutableArray::make();
+    auto families = UI::Font::familyNames();
+    for (unsigned long i = 0; i < families.count(); ++i) {
+        auto names = UI::Font::fontNamesForFamilyName(families.at<NS::String>(i));
+        for (unsigned long j = 0; j < names.count(); ++j)
+            fonts.addObject(names.at<NS::String>(j));
+    }
+    fonts.sortUsingSelector<"localizedCaseInsensitiveCompare:">();
+    availableFonts = fonts.mutableCopy();
+    return availableFonts->count();
+}
+
+}

@@ -1,0 +1,163 @@
+// The order of the rows is the order of installation.
+#include "Tweak/Hooks.hpp"
+
+#include "Platform/CoreGraphics/CGGeometry.hpp"
+#include "Tweak/Clock/ClockHooks.hpp"
+#include "Tweak/Clock/SubtitleHooks.hpp"
+#include "Tweak/CoverSheet/AdjustmentHooks.hpp"
+#include "Tweak/CoverSheet/CoverSheetHooks.hpp"
+#include "Tweak/Editor/Pickers.hpp"
+
+namespace LYR {
+
+namespace {
+
+using ObjC::added;
+using ObjC::FixedString;
+using ObjC::hooked;
+using ObjC::HookRow;
+using ObjC::Object;
+
+/// An interception that changes nothing yet: the stock method runs as it is.
+template <FixedString className, FixedString selectorName, class Result, class... Arguments>
+Result forward(Object self, SEL cmd, Arguments... arguments)
+{
+    constexpr auto* function = &forward<className, selectorName, Result, Arguments...>;
+    return ObjC::stock<function>(self, cmd, arguments...);
+}
+
+template <FixedString className, FixedString selectorName, class Result, class... Arguments>
+HookRow forwarded()
+{
+    return hooked<className, selectorName, &forward<className, selectorName, Result, Arguments...>>();
+}
+
+/// An added method that does nothing yet. The name keeps one function apart from the other.
+template <FixedString selectorName, class Result, class... Arguments>
+Result silent(Object, SEL, Arguments...)
+{
+    return Result();
+}
+
+template <FixedString className, FixedString selectorName, class Result, class... Arguments>
+HookRow reserved()
+{
+    return added<className, selectorName, &silent<selectorName, Result, Arguments...>>();
+}
+
+/// An action that a control sends to the cover sheet.
+template <FixedString selectorName>
+HookRow coverSheetAction()
+{
+    return reserved<"CSCoverSheetViewController", selectorName, void, Object>();
+}
+
+}
+
+std::span<const HookRow> mainHooks()
+{
+    static const HookRow rows[] = {
+        hooked<"NCNotificationStructuredListViewController", "viewDidLoad",
+            NCNotificationStructuredListViewController_viewDidLoad>(),
+        hooked<"CSCombinedListViewController", "_listViewDefaultContentInsets",
+            CSCombinedListViewController_listViewDefaultContentInsets>(),
+        hooked<"CSCoverSheetViewController", "dateView", CSCoverSheetViewController_dateView>(),
+        hooked<"CSCoverSheetViewController", "_transitionChargingViewToVisible:showBattery:animated:",
+            CSCoverSheetViewController_transitionChargingView>(),
+        hooked<"CSCoverSheetViewController", "viewWillAppear:", CSCoverSheetViewController_viewWillAppear>(),
+        forwarded<"CSCoverSheetViewController", "viewWillDisappear:", void, bool>(),
+        added<"CSCoverSheetViewController", "requestUpdateWidget", CSCoverSheetViewController_requestUpdateWidget>(),
+        forwarded<"CSCoverSheetViewController", "viewDidLoad", void>(),
+        coverSheetAction<"didPressButtonCL:">(),
+        coverSheetAction<"didPressButtonCL2:">(),
+        coverSheetAction<"showLongPress:">(),
+        coverSheetAction<"doneButton:">(),
+        coverSheetAction<"timePressButton:">(),
+        coverSheetAction<"datePressButton:">(),
+        coverSheetAction<"widgetPressButton:">(),
+        reserved<"CSCoverSheetViewController", "updateButtonAppearance", void>(),
+        coverSheetAction<"showAlert:">(),
+        coverSheetAction<"closeAlert:">(),
+        coverSheetAction<"openFolderButton:">(),
+        reserved<"CSCoverSheetViewController", "linkTapped", void>(),
+        coverSheetAction<"sliderValueChangedAlpha:">(),
+        coverSheetAction<"sliderValueChangedX:">(),
+        coverSheetAction<"sliderValueChangedY:">(),
+        coverSheetAction<"SegmentChangeViewValueChanged:">(),
+        coverSheetAction<"alignValueChanged:">(),
+        coverSheetAction<"styleValueChanged:">(),
+        coverSheetAction<"altValueChanged:">(),
+        coverSheetAction<"widget1ValueChanged:">(),
+        coverSheetAction<"widget2ValueChanged:">(),
+        coverSheetAction<"widget3ValueChanged:">(),
+        coverSheetAction<"wellButton1:">(),
+        coverSheetAction<"wellButton2:">(),
+        coverSheetAction<"wellButton3:">(),
+        coverSheetAction<"wellButton4:">(),
+        coverSheetAction<"wellButton5:">(),
+        coverSheetAction<"showWellButton:">(),
+        reserved<"CSCoverSheetViewController", "pickerShow", void>(),
+        added<"CSCoverSheetViewController",
+            "numberOfComponentsInPickerView:", CSCoverSheetViewController_numberOfComponentsInPickerView>(),
+        added<"CSCoverSheetViewController",
+            "pickerView:numberOfRowsInComponent:", CSCoverSheetViewController_pickerView_numberOfRowsInComponent>(),
+        reserved<"CSCoverSheetViewController", "pickerView:viewForRow:forComponent:reusingView:", Object, Object, long,
+            long, Object>(),
+        reserved<"CSCoverSheetViewController", "pickerView:didSelectRow:inComponent:", void, Object, long, long>(),
+        coverSheetAction<"valueChange:">(),
+        coverSheetAction<"stepperUpdate:">(),
+        hooked<"CSQuickActionsViewController", "hasFlashlight", CSQuickActionsViewController_hasFlashlight>(),
+        hooked<"CSQuickActionsViewController", "hasCamera", CSQuickActionsViewController_hasCamera>(),
+        hooked<"NCNotificationListSectionRevealHintView", "didMoveToWindow",
+            NCNotificationListSectionRevealHintView_didMoveToWindow>(),
+        hooked<"_UIBatteryView", "setSaverModeActive:", UIBatteryView_setSaverModeActive>(),
+        hooked<"CSTeachableMomentsContainerViewController",
+            "_updateText:", CSTeachableMomentsContainerViewController_updateText>(),
+        hooked<"SBFLockScreenDateView", "initWithFrame:", SBFLockScreenDateView_initWithFrame>(),
+        hooked<"SBFLockScreenDateView", "_updateLabels", SBFLockScreenDateView_updateLabels>(),
+        hooked<"SBFLockScreenDateView", "layoutSubviews", SBFLockScreenDateView_layoutSubviews>(),
+        hooked<"SBFLockScreenDateViewController", "dateView", SBFLockScreenDateViewController_dateView>(),
+        hooked<"SBFLockScreenDateViewController", "viewDidLoad", SBFLockScreenDateViewController_viewDidLoad>(),
+        added<"SBFLockScreenDateViewController", "updateTime", SBFLockScreenDateViewController_updateTime>(),
+        hooked<"SBFLockScreenDateViewController", "viewWillAppear:", SBFLockScreenDateViewController_viewWillAppear>(),
+        hooked<"SBFLockScreenDateViewController",
+            "viewWillDisappear:", SBFLockScreenDateViewController_viewWillDisappear>(),
+        added<"SBFLockScreenDateViewController", "requestUpdateTime",
+            SBFLockScreenDateViewController_requestUpdateTime>(),
+        forwarded<"SBHomeScreenViewController", "viewWillAppear:", void, bool>(),
+        forwarded<"SpringBoard", "didReceiveMemoryWarning", void>(),
+        forwarded<"SpringBoard", "frontDisplayDidChange:", void, Object>(),
+        hooked<"SBFLockScreenDateSubtitleView", "didMoveToWindow", SBFLockScreenDateSubtitleView_didMoveToWindow>(),
+        hooked<"SBFLockScreenDateSubtitleView", "setString:", SBFLockScreenDateSubtitleView_setString>(),
+        hooked<"SBFLockScreenDateSubtitleDateView", "didMoveToWindow",
+            SBFLockScreenDateSubtitleDateView_didMoveToWindow>(),
+        forwarded<"SBLockScreenTimerDialView", "didMoveToWindow", void>(),
+        forwarded<"SBLockScreenManager", "lockUIFromSource:withOptions:", void, int, Object>(),
+        reserved<"SBLockScreenManager", "requestUpdateWidget", void>(),
+        forwarded<"SBBacklightController", "turnOnScreenFullyWithBacklightSource:", void, long>(),
+        reserved<"SBBacklightController", "requestUpdateWidget", void>(),
+    };
+    return rows;
+}
+
+std::span<const HookRow> notificationHeaderHooks()
+{
+    static const HookRow rows[] = {
+        hooked<"NCNotificationListSectionHeaderView", "layoutSubviews",
+            NCNotificationListSectionHeaderView_layoutSubviews>(),
+        hooked<"NCNotificationListSectionHeaderView", "frame", NCNotificationListSectionHeaderView_frame>(),
+        hooked<"NCNotificationListSectionHeaderView", "hidden", NCNotificationListSectionHeaderView_hidden>(),
+    };
+    return rows;
+}
+
+std::span<const HookRow> axonHooks()
+{
+    static const HookRow rows[] = {
+        hooked<"AXNView", "initWithFrame:", AXNView_initWithFrame>(),
+        added<"AXNView", "axonCheck:", AXNView_axonCheck>(),
+    };
+    return rows;
+}
+
+}

@@ -1,0 +1,12 @@
+#include "Tweak/Respring.hpp"
+
+#include "Platform/SpringBoard/FBSystemService.hpp"
+
+namespace LYR {
+
+void respring(CFNotificationCenterRef, void*, id, const void*, id)
+{
+    FB::SystemService::sharedInstance().exitAndRelaunch(true);
+}
+
+}

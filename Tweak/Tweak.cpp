@@ -1,0 +1,55 @@
+// Start-up: runs once when the shell loads the library, before its user interface exists.
+#include "Platform/Foundation/CFNotificationCenter.hpp"
+#include "Tweak/AFont.hpp"
+#include "Tweak/Fonts.hpp"
+#include "Tweak/Hooks.hpp"
+#include "Tweak/Respring.hpp"
+#include "Tweak/Settings.hpp"
+#include "WKSPalette/WKSColorUtils.hpp"
+
+#include <dlfcn.h>
+
+namespace LYR {
+
+namespace {
+
+void reloadPrefs(CFNotificationCenterRef, void*, id, const void*, id)
+{
+    loadPrefs();
+}
+
+void observeNotifications()
+{
+    auto center = CFNotificationCenterGetDarwinNotifyCenter();
+    CFNotificationCenterAddObserver(center, nullptr, reloadPrefs, "com.ostrel.lyrprefs/ReloadPrefs"_ns.raw(), nullptr,
+        CFNotificationSuspensionBehavior::coalesce);
+    CFNotificationCenterAddObserver(center, nullptr, respring, "com.ostrel.lyr/respring"_ns.raw(), nullptr,
+        CFNotificationSuspensionBehavior::deliverImmediately);
+}
+
+void installHooks()
+{
+    if (_enabled)
+        ObjC::install(mainHooks());
+    if (hideNotifHeader)
+        ObjC::install(notificationHeaderHooks());
+    ObjC::install(axonHooks());
+}
+
+__attribute__((constructor)) void start()
+{
+    ObjC::AutoreleasePool pool;
+    registerWKSPalette();
+    loadAFont();
+    // Brings the weather classes into the process.
+    dlopen("/System/Library/PrivateFrameworks/Weather.framework/Weather", RTLD_LAZY);
+    loadPrefs();
+    observeNotifications();
+    registerUserFonts();
+    updateAFontBlacklist();
+    installHooks();
+}
+
+}
+
+}
