@@ -1,0 +1,181 @@
+// Reads the command line and runs what it asks for.
+#include "Simulator/App/CommandLine.hpp"
+
+#include "Simulator/App/Render.hpp"
+#include "Simulator/App/Serve.hpp"
+#include "Simulator/Control/Methods.hpp"
+#include "Simulator/Control/ShellProcess.hpp"
+#include "Simulator/Control/Types.hpp"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <unistd.h>
+
+namespace Simulator::App {
+
+using namespace Control;
+
+namespace {
+
+constexpr int failed = 1;
+constexpr int badUsage = 2;
+
+// An option with one value that is checked as the protocol does it.
+CLI::Option* takes(CLI::Option* option, const Type& type, const char* form)
+{
+    return option->type_name(form)->check([type](const std::string& text) {
+        return type.accepts(text) ? "" : "takes " + type.takes + ", not " + quote(text);
+    });
+}
+
+// "375x812@3"
+std::optional<Json> screenOf(const std::string& text)
+{
+    double width = 0, height = 0, scale = 0;
+    char end = 0;
+    if (std::sscanf(text.c_str(), "%lfx%lf@%lf%c", &width, &height, &scale, &end) != 3)
+        return std::nullopt;
+    const Json screen{{"width", width}, {"height", height}, {"scale", scale}};
+    return complaint("screen", screenType(), screen) ? std::nullopt : std::optional(screen);
+}
+
+// The commands' options as they are filled in by the parser.
+struct Values {
+    RenderOptions render;
+    std::map<std::string, std::string> start; // single values of `phone.start`
+    std::vector<std::string> languages;
+    bool stdio = false;
+    int socket = -1;
+};
+
+void addStartOptions(CLI::App& command, Values& values)
+{
+    const auto add
+        = [&](const char* flag, const char* parameter, const Type& type, const char* form, const char* help) {
+              takes(command.add_option(flag, values.start[parameter], help), type, form);
+          };
+    add("--time", "time", localTime(), "TIME", "Local time on the phone, 2020-11-15T21:41:00 (default: now)");
+    add("--time-zone", "timeZone", timeZone(), "ZONE", "Time zone, Asia/Jerusalem (default: UTC)");
+    add("--locale", "locale", locale(), "LOCALE", "Region and formats, he_IL (default: en_US)");
+    add("--style", "style", oneOf({"light", "dark"}), "STYLE", "light or dark (default: light)");
+    takes(command.add_option("--language", values.languages, "Preferred language; may be repeated (default: en)"),
+        locale(), "LANGUAGE")
+        ->expected(1)
+        ->take_all();
+}
+
+void addRender(CLI::App& app, Values& values)
+{
+    CLI::App& command = *app.add_subcommand("render", "Draw a picture of the lock screen");
+    RenderOptions& options = values.render;
+    command.add_option("-o,--output", options.output, "PNG file to write")->required()->type_name("FILE");
+    command.add_option("--settings", options.settings, "Settings: a property list (XML or binary) or JSON")
+        ->type_name("FILE");
+    command.add_option("--colours", options.colours, "Colours: a property list (XML or binary) or JSON")
+        ->type_name("FILE");
+    command.add_option("--wallpaper", options.wallpaper, "Wallpaper (default: the built-in one)")->type_name("JPEG");
+    command.add_option("--device", options.device, "Battery, weather, alarm and events, as device.set takes them")
+        ->type_name("JSON");
+    command.add_option("--font", options.fonts, "Font file for the user font folder; may be repeated")
+        ->type_name("FILE")
+        ->expected(1)
+        ->take_all();
+    command.add_option("--screen", values.start["screen"], "Screen in points and its scale (default: 375x812@3)")
+        ->type_name("WxH@S")
+        ->check([](const std::string& text) {
+            return screenOf(text)
+                ? ""
+                : "takes width x height @ scale such as 375x812@3, at most 2048x2048@4, not " + quote(text);
+        });
+    addStartOptions(command, values);
+}
+
+void addServe(CLI::App& app, Values& values)
+{
+    CLI::App& command = *app.add_subcommand("serve", "Serve the control protocol to scripts and tests");
+    command.add_flag("--stdio", values.stdio, "One JSON-RPC request a line in, one reply a line out")->required();
+}
+
+// How the program runs itself; nothing for users.
+void addShell(CLI::App& app, Values& values)
+{
+    app.add_subcommand("shell")->group("")->add_option("--fd", values.socket)->required();
+}
+
+void describe(CLI::App& app, Values& values)
+{
+    app.set_help_flag();
+    app.set_help_all_flag("-h,--help", "Say all of this and exit");
+    app.set_version_flag("--version", std::string("lyr ") + LYR_VERSION, "Say the version and exit");
+    app.require_subcommand(0, 1);
+    addRender(app, values);
+    addServe(app, values);
+    addShell(app, values);
+}
+
+Json startParameters(const Values& values)
+{
+    Json start = Json::object();
+    for (const auto& [parameter, text] : values.start) {
+        if (!text.empty())
+            start[parameter] = parameter == "screen" ? *screenOf(text) : Json(text);
+    }
+    if (!values.languages.empty())
+        start["languages"] = values.languages;
+    return start;
+}
+
+void logLine(const std::string& line)
+{
+    std::cerr << "lyr: " << line << std::endl;
+}
+
+int runShell(const Values& values, const PhoneKind& kind)
+{
+    const auto shell = kind.make();
+    return ShellProcess(*shell, Descriptor(values.socket)).run();
+}
+
+int runCommand(const CLI::App& app, Values& values, const PhoneKind& kind)
+{
+    if (app.got_subcommand("shell"))
+        return runShell(values, kind);
+    Supervisor::Options options;
+    options.shellCommand = {"/proc/self/exe", "shell"};
+    options.methods = kind.methods;
+    options.log = logLine;
+    if (app.got_subcommand("serve"))
+        return serve(std::move(options));
+    values.render.start = startParameters(values);
+    return render(values.render, std::move(options));
+}
+
+std::string firstLine(const std::string& text)
+{
+    return text.substr(0, text.find('\n'));
+}
+
+}
+
+int run(int argumentCount, char** arguments, const PhoneKind& kind)
+{
+    CLI::App app("LYR Pro: the lock screen of a simulated phone.", "lyr");
+    Values values;
+    describe(app, values);
+    try {
+        app.parse(argumentCount, arguments);
+        if (app.get_subcommands().empty())
+            throw CLI::RequiredError("a command, render or serve,");
+        return runCommand(app, values, kind);
+    } catch (const CLI::Success& wish) {
+        return app.exit(wish);
+    } catch (const CLI::ParseError& error) {
+        logLine(firstLine(error.what()) + "; lyr --help says what there is");
+        return badUsage;
+    } catch (const std::exception& error) {
+        logLine(firstLine(error.what()));
+        return failed;
+    }
+}
+
+}

@@ -1,0 +1,19 @@
+// The command line of `lyr`.
+#pragma once
+
+#include "Simulator/Control/Shell.hpp"
+
+#include <memory>
+
+namespace Simulator::App {
+
+// The simulated phone that a shell process runs, and the methods it has.
+struct PhoneKind {
+    std::unique_ptr<Control::Shell> (*make)();
+    const std::vector<Control::Method>& methods;
+};
+
+// Answers the exit status: 0, 1 for a failure, 2 for bad usage.
+int run(int argumentCount, char** arguments, const PhoneKind&);
+
+}

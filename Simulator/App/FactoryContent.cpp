@@ -1,0 +1,68 @@
+#include "Simulator/App/FactoryContent.hpp"
+
+#include "Simulator/Control/RootFolder.hpp"
+#include "Simulator/Loader/ExtensionLoader.hpp"
+
+#include <algorithm>
+#include <fstream>
+
+namespace Simulator::App {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// share/lyr beside the folder of the program, from wherever it is run.
+fs::path shareFolder()
+{
+    return fs::read_symlink("/proc/self/exe").parent_path().parent_path() / "share/lyr";
+}
+
+/// A path of the phone under a folder of the host.
+fs::path under(const fs::path& folder, std::string_view phonePath)
+{
+    return folder / phonePath.substr(1);
+}
+
+void copyMissing(const fs::path& from, const fs::path& to)
+{
+    fs::create_directories(to);
+    fs::copy(from, to, fs::copy_options::recursive | fs::copy_options::skip_existing);
+}
+
+/// Other extensions are only looked for by name, so a file of that name is all there is of them.
+void placeOtherExtension(const fs::path& root, const std::string& name, bool isInstalled)
+{
+    fs::path library = under(root, std::string(ExtensionLoader::folder) + name + ".dylib");
+    if (!isInstalled)
+        fs::remove(library);
+    else if (!fs::exists(library))
+        std::ofstream(library) << name << '\n';
+}
+
+}
+
+void installFactoryContent(const Control::ShellStart& start)
+{
+    const fs::path system = shareFolder() / "System";
+    const fs::path root = start.root;
+    if (start.isFirst) {
+        const bool hasWallpaper = fs::exists(under(root, Control::wallpaperPath));
+        copyMissing(system, root);
+        const auto wallpaper = start.parameters.find("wallpaper");
+        if (!hasWallpaper && wallpaper != start.parameters.end() && wallpaper->is_null())
+            fs::remove(under(root, Control::wallpaperPath));
+    }
+    fs::copy(under(system, ExtensionLoader::folder), under(root, ExtensionLoader::folder),
+        fs::copy_options::overwrite_existing);
+    const auto installed = start.parameters.value("installed", std::vector<std::string>());
+    for (const std::string name : {"AFont", "LastLook"})
+        placeOtherExtension(root, name, std::count(installed.begin(), installed.end(), name) > 0);
+}
+
+fs::path symbolFolder()
+{
+    return shareFolder() / "Symbols";
+}
+
+}

@@ -1,0 +1,43 @@
+// What a long-running command lives by: it ends on a signal, and when nobody is left who could read its replies.
+#pragma once
+
+#include "Simulator/Control/Channel.hpp"
+
+#include <chrono>
+
+namespace Simulator::App {
+
+// Thrown out of a wait that must not go on; no std::exception, so that no handler of a request takes it for a failure.
+struct Interrupted {
+    int signal = 0; // 0 when nobody listens any more
+};
+
+class Lifeline {
+public:
+    // From here on SIGTERM, SIGINT and SIGHUP arrive at `check` and `wait` only.
+    Lifeline();
+
+    // Input and output of a command that serves; a request in hand when the input ends has a minute left.
+    void watchStreams(int input, int output);
+
+    // Waits for one of the descriptors to be readable; negative ones are left out.
+    void waitForInput(std::initializer_list<int> descriptors) const;
+    // Waits until the shell process says or takes something. Throws Interrupted.
+    void wait(int descriptor, short events);
+
+private:
+    using Clock = std::chrono::steady_clock;
+
+    int timeLeft() const;
+    void throwIfSignalled() const;
+
+    Control::Descriptor _signals;
+    int _input = -1;
+    int _output = -1;
+    std::optional<Clock::time_point> _end;
+};
+
+// Ends the process by the signal, as if it had not been caught.
+[[noreturn]] void dieOf(int signal);
+
+}

@@ -1,0 +1,139 @@
+// Boots in the order of a real phone: disk, clock and region, frameworks, extensions, lock screen.
+#include "Simulator/App/SimulatedPhone.hpp"
+
+#include "Simulator/App/FactoryContent.hpp"
+#include "Simulator/Companions/Companions.hpp"
+#include "Simulator/Control/Domains/LocalTime.hpp"
+#include "Simulator/Control/Domains/PhoneContext.hpp"
+#include "Simulator/Files/PhoneFiles.hpp"
+#include "Simulator/Foundation/Foundation.hpp"
+#include "Simulator/Foundation/PhoneLocale.hpp"
+#include "Simulator/Loader/ExtensionLoader.hpp"
+#include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/SpringBoard/Shell.hpp"
+#include "Simulator/SpringBoard/SpringBoard.hpp"
+#include "Simulator/UIKit/Fonts.hpp"
+#include "Simulator/UIKit/Registration.hpp"
+#include "Simulator/UIKit/UIScreen.hpp"
+
+#include <chrono>
+
+namespace Simulator::App {
+
+using Control::Json;
+
+namespace {
+
+constexpr double referenceDateSinceEpoch = 978307200;
+
+double hostNow()
+{
+    using namespace std::chrono;
+    return duration<double>(system_clock::now().time_since_epoch()).count() - referenceDateSinceEpoch;
+}
+
+class SimulatedPhone : public Control::Shell {
+public:
+    void addMethods(Control::Dispatcher& dispatcher) override
+    {
+        _context = std::make_unique<Control::PhoneContext>(_shell, dispatcher);
+        for (auto add : {Control::addPhoneMethods, Control::addClockMethods, Control::addDeviceMethods,
+                 Control::addSettingsMethods, Control::addFileMethods, Control::addViewMethods,
+                 Control::addRuntimeMethods, Control::addLogMethods, Control::addScreenMethods})
+            add(*_context);
+    }
+
+    void start(const Control::ShellStart& start) override
+    {
+        ObjC::AutoreleasePool pool;
+        PhoneFiles::shared().setRoot(start.root);
+        installFactoryContent(start);
+        setUpDevice(start);
+        setUpClock(start);
+        registerClasses();
+        relaunchRequested() = [this] { _wantsRelaunch = true; };
+        if (!start.isSafeMode && start.parameters.value("extension", true))
+            ExtensionLoader::shared().loadAll();
+        _shell.start();
+        _shell.commit();
+    }
+
+    Json state() const override
+    {
+        Json state{{"now", Loop::shared().now()}, {"uptime", uptime()}, {"device", Control::describeDevice()}};
+        if (_wantsRelaunch)
+            state["log"] = ActivityLog::shared().take();
+        return state;
+    }
+
+    bool wantsRelaunch() const override { return _wantsRelaunch; }
+    std::optional<double> nextDue() const override
+    {
+        return Loop::shared().clockKind() == ClockKind::Real ? Loop::shared().nextDue() : std::nullopt;
+    }
+
+    void runDue() override
+    {
+        ObjC::AutoreleasePool pool;
+        Loop::shared().runDue();
+        _shell.commit();
+    }
+
+private:
+    double uptime() const { return _earlierUptime + Loop::shared().uptime(); }
+
+    void setUpDevice(const Control::ShellStart& start)
+    {
+        Control::applyDevice(start.parameters);
+        if (start.state.is_object())
+            Control::applyDevice(start.state.at("device"));
+        DeviceState& device = DeviceState::shared();
+        device.installed = start.parameters.value("installed", std::set<std::string>());
+        ScreenSettings& screen = screenSettings();
+        screen.style = static_cast<UserInterfaceStyle>(device.style);
+        if (start.parameters.contains("screen")) {
+            const Json& given = start.parameters.at("screen");
+            screen.size = {given.at("width"), given.at("height")};
+            screen.scale = given.at("scale");
+        }
+    }
+
+    /// A new phone starts at the given time, or now; a restarted shell goes on where the last one ended.
+    void setUpClock(const Control::ShellStart& start)
+    {
+        double now = hostNow();
+        if (start.parameters.contains("time"))
+            now = momentOfLocalTime(start.parameters.at("time")).value_or(now);
+        if (start.state.is_object()) {
+            now = start.state.at("now");
+            _earlierUptime = start.state.at("uptime");
+            for (const Json& record : start.state.value("log", Json::array()))
+                ActivityLog::shared().restore(record);
+        }
+        Loop::shared().reset(now, start.parameters.at("clock") == "real" ? ClockKind::Real : ClockKind::Virtual);
+        ActivityLog::shared().setClock([this] { return uptime(); });
+    }
+
+    void registerClasses()
+    {
+        setUpSymbols(symbolFolder());
+        registerFoundation();
+        registerUIKit();
+        registerSpringBoard();
+        registerCompanions();
+    }
+
+    Simulator::Shell _shell;
+    std::unique_ptr<Control::PhoneContext> _context;
+    double _earlierUptime = 0;
+    bool _wantsRelaunch = false;
+};
+
+}
+
+std::unique_ptr<Control::Shell> makeSimulatedPhone()
+{
+    return std::make_unique<SimulatedPhone>();
+}
+
+}

@@ -1,0 +1,100 @@
+// Sends and receives documents over a socket.
+#include "Simulator/Control/Channel.hpp"
+
+#include <array>
+#include <cerrno>
+#include <poll.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace Simulator::Control {
+
+namespace {
+
+// Both ends are ours; a picture in base64 is the longest thing that is said.
+constexpr std::size_t longestDocument = std::size_t(1) << 30;
+
+bool mustWait()
+{
+    return errno == EAGAIN || errno == EWOULDBLOCK;
+}
+
+}
+
+void waitForever(int descriptor, short events)
+{
+    pollfd entry{descriptor, events, 0};
+    while (poll(&entry, 1, -1) < 0 && errno == EINTR) { }
+}
+
+void Descriptor::close()
+{
+    if (_number >= 0)
+        ::close(std::exchange(_number, -1));
+}
+
+Channel::Channel(Descriptor descriptor, Wait wait)
+    : _descriptor(std::move(descriptor))
+    , _wait(std::move(wait))
+    , _lines(longestDocument)
+{
+}
+
+bool Channel::send(const Json& document)
+{
+    const std::string line = toLine(document) + '\n';
+    std::size_t sent = 0;
+    while (sent < line.size()) {
+        const auto count = ::send(descriptor(), line.data() + sent, line.size() - sent, MSG_NOSIGNAL | MSG_DONTWAIT);
+        if (count >= 0)
+            sent += static_cast<std::size_t>(count);
+        else if (mustWait())
+            _wait(descriptor(), POLLOUT);
+        else if (errno != EINTR)
+            return false;
+    }
+    return true;
+}
+
+std::optional<Json> Channel::receive()
+{
+    for (;;) {
+        if (auto document = receiveArrived())
+            return document;
+        if (!_isOpen)
+            return std::nullopt;
+        _wait(descriptor(), POLLIN);
+    }
+}
+
+std::optional<Json> Channel::receiveArrived()
+{
+    if (auto document = nextDocument())
+        return document;
+    readArrived();
+    return nextDocument();
+}
+
+void Channel::readArrived()
+{
+    std::array<char, 65536> bytes;
+    while (_isOpen) {
+        const auto count = ::recv(descriptor(), bytes.data(), bytes.size(), MSG_DONTWAIT);
+        if (count > 0)
+            _lines.feed({bytes.data(), static_cast<std::size_t>(count)});
+        else if (count < 0 && mustWait())
+            return;
+        else if (count == 0 || errno != EINTR)
+            _isOpen = false;
+    }
+}
+
+std::optional<Json> Channel::nextDocument()
+{
+    const auto line = _lines.next();
+    if (!line)
+        return std::nullopt;
+    return parseDocument(line->text);
+}
+
+}

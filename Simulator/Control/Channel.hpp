@@ -1,0 +1,63 @@
+// One end of the socket between the supervisor and its shell process: a JSON document a line, both ways.
+#pragma once
+
+#include "Simulator/Control/Envelope.hpp"
+#include "Simulator/Control/LineReader.hpp"
+
+namespace Simulator::Control {
+
+// Blocks until the descriptor is ready for the poll events; may throw to give up.
+using Wait = std::function<void(int descriptor, short events)>;
+void waitForever(int descriptor, short events);
+
+// A file descriptor that is closed with its owner.
+class Descriptor {
+public:
+    explicit Descriptor(int number = -1)
+        : _number(number)
+    {
+    }
+    Descriptor(Descriptor&& other) noexcept
+        : _number(std::exchange(other._number, -1))
+    {
+    }
+    Descriptor& operator=(Descriptor&& other) noexcept
+    {
+        std::swap(_number, other._number);
+        return *this;
+    }
+    ~Descriptor() { close(); }
+
+    int number() const { return _number; }
+    void close();
+
+private:
+    int _number;
+};
+
+class Channel {
+public:
+    explicit Channel(Descriptor, Wait = waitForever);
+
+    int descriptor() const { return _descriptor.number(); }
+    void close() { _descriptor.close(); }
+
+    // False when the other end is gone.
+    bool send(const Json&);
+    // Waits for a document; nothing when the other end is gone. Throws a ProtocolError for a line that is no document.
+    std::optional<Json> receive();
+    // A document that has arrived already. `isOpen` tells an empty channel from one whose other end is gone.
+    std::optional<Json> receiveArrived();
+    bool isOpen() const { return _isOpen; }
+
+private:
+    void readArrived();
+    std::optional<Json> nextDocument();
+
+    Descriptor _descriptor;
+    Wait _wait;
+    LineReader _lines;
+    bool _isOpen = true;
+};
+
+}

@@ -1,0 +1,36 @@
+// Runs methods by name.
+#include "Simulator/Control/Dispatcher.hpp"
+
+#include "Simulator/Control/Methods.hpp"
+
+#include <algorithm>
+
+namespace Simulator::Control {
+
+void Dispatcher::add(const Method& method, Handler handler)
+{
+    const bool isNew = _entries.emplace(method.name, Entry{method, std::move(handler)}).second;
+    if (!isNew)
+        throw std::logic_error("the method " + method.name + " is added twice");
+}
+
+void Dispatcher::add(const std::string& protocolMethod, Handler handler)
+{
+    const auto& methods = protocolMethods();
+    const auto found = std::find_if(
+        methods.begin(), methods.end(), [&](const Method& method) { return method.name == protocolMethod; });
+    if (found == methods.end())
+        throw std::logic_error("the protocol has no method " + protocolMethod);
+    add(*found, std::move(handler));
+}
+
+Json Dispatcher::call(const std::string& method, const Json& parameters) const
+{
+    const auto entry = _entries.find(method);
+    if (entry == _entries.end())
+        throw ProtocolError(ErrorCode::NoSuchMethod, "no such method: " + quote(method));
+    checkParameters(entry->second.method, parameters);
+    return entry->second.handler(parameters);
+}
+
+}

@@ -1,0 +1,139 @@
+// device.*: battery, weather, alarm, calendar, appearance, language.
+#include "Simulator/Control/Domains/PhoneContext.hpp"
+
+#include "Simulator/Foundation/PhoneLocale.hpp"
+
+#include <array>
+
+namespace Simulator::Control {
+
+namespace {
+
+struct BatteryStateName {
+    const char* name;
+    BatteryState state;
+};
+constexpr std::array batteryStates{BatteryStateName{"unknown", BatteryState::Unknown},
+    BatteryStateName{"unplugged", BatteryState::Unplugged}, BatteryStateName{"charging", BatteryState::Charging},
+    BatteryStateName{"full", BatteryState::Full}};
+
+struct WeatherText {
+    const char* name;
+    std::string WeatherReport::*text;
+};
+constexpr std::array weatherTexts{WeatherText{"temperature", &WeatherReport::temperature},
+    WeatherText{"high", &WeatherReport::high}, WeatherText{"low", &WeatherReport::low},
+    WeatherText{"conditions", &WeatherReport::conditions}, WeatherText{"location", &WeatherReport::location},
+    WeatherText{"sunrise", &WeatherReport::sunrise}, WeatherText{"sunset", &WeatherReport::sunset},
+    WeatherText{"image", &WeatherReport::image}};
+
+void applyBattery(const Json& json)
+{
+    Battery& battery = DeviceState::shared().battery;
+    battery.level = json.value("level", battery.level);
+    battery.lowPower = json.value("lowPower", battery.lowPower);
+    for (const auto& [name, state] : batteryStates)
+        if (json.contains("state") && json.at("state") == name)
+            battery.state = state;
+}
+
+Json describeBattery()
+{
+    const Battery& battery = DeviceState::shared().battery;
+    Json json{{"level", battery.level}, {"lowPower", battery.lowPower}};
+    for (const auto& [name, state] : batteryStates)
+        if (state == battery.state)
+            json["state"] = name;
+    return json;
+}
+
+void applyWeather(const Json& json)
+{
+    DeviceState::shared().weather.reset();
+    if (json.is_null())
+        return;
+    WeatherReport report;
+    for (const auto& [name, text] : weatherTexts)
+        report.*text = json.value(name, "");
+    DeviceState::shared().weather = report;
+}
+
+Json describeWeather()
+{
+    const auto& weather = DeviceState::shared().weather;
+    if (!weather)
+        return nullptr;
+    Json json = Json::object();
+    for (const auto& [name, text] : weatherTexts)
+        if (!((*weather).*text).empty())
+            json[name] = (*weather).*text;
+    return json;
+}
+
+void applyEvents(const Json& json)
+{
+    auto& events = DeviceState::shared().events;
+    events.clear();
+    for (const Json& event : json)
+        events.push_back({event.at("title"), event.at("start"), event.value("allDay", false)});
+}
+
+Json describeEvents()
+{
+    Json json = Json::array();
+    for (const CalendarEvent& event : DeviceState::shared().events)
+        json.push_back({{"title", event.title}, {"start", event.start}, {"allDay", event.allDay}});
+    return json;
+}
+
+void applyAlarm(const Json& json)
+{
+    auto& alarm = DeviceState::shared().alarm;
+    alarm = json.is_null() ? std::nullopt : std::optional(json.get<std::string>());
+}
+
+}
+
+void applyDevice(const Json& parameters)
+{
+    using Apply = void (*)(const Json&);
+    const std::pair<const char*, Apply> members[] = {
+        {"battery", applyBattery},
+        {"weather", applyWeather},
+        {"events", applyEvents},
+        {"alarm", applyAlarm},
+        {"style",
+            [](const Json& json) {
+                DeviceState::shared().style = json == "dark" ? InterfaceStyle::Dark : InterfaceStyle::Light;
+            }},
+        {"locale", [](const Json& json) { PhoneLocale::shared().locale = json; }},
+        {"timeZone", [](const Json& json) { PhoneLocale::shared().timeZone = json; }},
+        {"languages", [](const Json& json) { PhoneLocale::shared().languages = json.get<std::vector<std::string>>(); }},
+    };
+    for (const auto& [name, apply] : members)
+        if (parameters.contains(name))
+            apply(parameters.at(name));
+}
+
+Json describeDevice()
+{
+    const DeviceState& device = DeviceState::shared();
+    const PhoneLocale& locale = PhoneLocale::shared();
+    return {{"battery", describeBattery()}, {"weather", describeWeather()}, {"events", describeEvents()},
+        {"alarm", device.alarm ? Json(*device.alarm) : Json()},
+        {"style", device.style == InterfaceStyle::Dark ? "dark" : "light"}, {"locale", locale.locale},
+        {"timeZone", locale.timeZone}, {"languages", locale.languages}};
+}
+
+void addDeviceMethods(PhoneContext& context)
+{
+    context.add("device.set", [&context](const Json& parameters) {
+        applyDevice(parameters);
+        if (parameters.contains("style"))
+            context.shell.setStyle(DeviceState::shared().style);
+        context.shell.deviceChanged();
+        return Json::object();
+    });
+}
+
+}

@@ -1,0 +1,101 @@
+// file.*: the phone's files, by a tester's hand.
+#include "Simulator/Control/Domains/PhoneContext.hpp"
+
+#include "Platform/Foundation/NSData.hpp"
+#include "Simulator/Companions/PropertyListValues.hpp"
+#include "Simulator/Control/PropertyList.hpp"
+#include "Simulator/Files/PhoneFiles.hpp"
+
+#include <array>
+#include <cerrno>
+#include <cstring>
+
+namespace Simulator::Control {
+
+namespace {
+
+struct FaultName {
+    const char* name;
+    int error;
+};
+constexpr std::array faults{FaultName{"EACCES", EACCES}, FaultName{"ENOSPC", ENOSPC}, FaultName{"EIO", EIO}};
+
+[[noreturn]] void fail(const std::string& path, int error)
+{
+    const std::string message = path + ": " + strerror(error);
+    if (error == ENOENT || error == ENOTDIR)
+        throwNotFound(message);
+    throw ProtocolError(ErrorCode::Internal, message);
+}
+
+std::string toBase64(const std::string& bytes)
+{
+    auto data = NS::Data::dataWithBytes(bytes.data(), bytes.size());
+    return std::string(data.send<NS::String, "base64EncodedStringWithOptions:">(0UL).utf8());
+}
+
+std::string fromBase64(const std::string& text)
+{
+    auto data = NS::Data::make<"initWithBase64EncodedString:options:">(NS::String::fromUTF8(text), 0UL);
+    return std::string(static_cast<const char*>(data.bytes()), data.length());
+}
+
+Json readFile(const std::string& path)
+{
+    auto content = PhoneFiles::shared().fetch(path);
+    if (!content)
+        fail(path, content.error);
+    Json result{{"base64", toBase64(content.value)}};
+    if (isPropertyListDictionary(content.value))
+        result["plist"] = jsonOfValue(dictionaryInFile(path));
+    Json parsed = Json::parse(content.value, nullptr, false);
+    if (!parsed.is_discarded())
+        result["json"] = parsed;
+    return result;
+}
+
+void setFault(const Json& parameters)
+{
+    const std::string operation = parameters.at("operation");
+    int error = 0;
+    for (const auto& fault : faults)
+        if (parameters.at("error") == fault.name)
+            error = fault.error;
+    PhoneFiles::shared().setFault(parameters.at("path").get<std::string>(),
+        operation == "read"        ? FileOperation::Read
+            : operation == "write" ? FileOperation::Write
+                                   : FileOperation::Rename,
+        error);
+}
+
+}
+
+void addFileMethods(PhoneContext& context)
+{
+    context.add("file.read", [](const Json& parameters) { return readFile(parameters.at("path")); });
+    context.add("file.write", [](const Json& parameters) {
+        const std::string path = parameters.at("path");
+        if (int error = PhoneFiles::shared().put(path, fromBase64(parameters.at("base64"))))
+            fail(path, error);
+        return Json::object();
+    });
+    context.add("file.list", [](const Json& parameters) {
+        const std::string path = parameters.at("path");
+        auto names = PhoneFiles::shared().list(path);
+        if (!names)
+            fail(path, names.error);
+        return Json{{"names", names.value}};
+    });
+    context.add("file.remove", [](const Json& parameters) {
+        const std::string path = parameters.at("path");
+        if (int error = PhoneFiles::shared().remove(path))
+            fail(path, error);
+        return Json::object();
+    });
+    context.add("file.fault", [](const Json& parameters) {
+        setFault(parameters);
+        return Json::object();
+    });
+}
+
+}

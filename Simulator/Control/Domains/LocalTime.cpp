@@ -1,0 +1,15 @@
+#include "Simulator/Control/Domains/LocalTime.hpp"
+
+#include "Simulator/Foundation/DateText.hpp"
+#include "Simulator/Foundation/PhoneLocale.hpp"
+
+namespace Simulator::Control {
+
+std::string localTimeText(double moment)
+{
+    std::u16string text
+        = formatDate(moment, {u"yyyy-MM-dd'T'HH:mm:ss", "en_US_POSIX", "gregorian", PhoneLocale::shared().timeZone});
+    return std::string(text.begin(), text.end());
+}
+
+}

@@ -1,0 +1,20 @@
+#include "Simulator/Control/Domains/PhoneContext.hpp"
+
+namespace Simulator::Control {
+
+void PhoneContext::add(const std::string& method, Dispatcher::Handler handler)
+{
+    _dispatcher.add(method, [this, handler = std::move(handler)](const Json& parameters) {
+        ObjC::AutoreleasePool pool;
+        Json result = handler(parameters);
+        shell.commit();
+        return result;
+    });
+}
+
+void throwNotFound(const std::string& message)
+{
+    throw ProtocolError(ErrorCode::NotFound, message);
+}
+
+}

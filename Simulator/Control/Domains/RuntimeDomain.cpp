@@ -1,0 +1,132 @@
+// objc.*, global.*: the classes and variables behind it all.
+#include "Simulator/Control/Domains/Invocation.hpp"
+#include "Simulator/Control/Domains/PhoneContext.hpp"
+#include "Simulator/Control/Domains/RuntimeValues.hpp"
+
+#include "Simulator/Companions/HBPreferences.hpp"
+#include "Simulator/Loader/ExtensionLoader.hpp"
+#include "Simulator/Loader/HookRecord.hpp"
+#include "Simulator/UIKit/ViewDescription.hpp"
+
+#include <set>
+
+namespace Simulator::Control {
+
+namespace {
+
+/// Variables of the extension that hold no object.
+const std::set<std::string> flags = {"isTimerRunning", "_isLPM", "_axonVisible"};
+const std::set<std::string> numbers = {"_startTime"};
+
+id classNamed(const std::string& name)
+{
+    Class found = objc_lookUpClass(name.c_str());
+    if (!found)
+        throwNotFound("no class " + quote(name));
+    return reinterpret_cast<id>(found);
+}
+
+NS::Object instanceOf(PhoneContext& context, const std::string& className)
+{
+    auto object = context.shell.instance(className);
+    if (!object)
+        throwNotFound("the shell has no object of the class " + quote(className));
+    return object;
+}
+
+NS::Object viewNamed(PhoneContext& context, const std::string& identifier)
+{
+    UIView* view = findView(context.shell.window(), identifier);
+    if (!view)
+        throwNotFound("no view has the id " + quote(identifier));
+    return NS::Object(view->object());
+}
+
+NS::Object keptObject(PhoneContext& context, const std::string& name)
+{
+    auto found = context.named.find(name);
+    if (found == context.named.end())
+        throwNotFound("no object is kept as " + quote(name));
+    return found->second;
+}
+
+/// Whether the value names an object: one member, one of the four ways.
+bool isReference(const Json& json)
+{
+    return json.is_object() && json.size() == 1 && json.begin()->is_string()
+        && (json.contains("class") || json.contains("instance") || json.contains("id") || json.contains("named"));
+}
+
+NS::Object referenced(PhoneContext& context, const Json& reference)
+{
+    if (reference.contains("class"))
+        return NS::Object(classNamed(reference.at("class")));
+    if (reference.contains("instance"))
+        return instanceOf(context, reference.at("instance"));
+    if (reference.contains("id"))
+        return viewNamed(context, reference.at("id"));
+    return keptObject(context, reference.at("named"));
+}
+
+Json sendMessageByHand(PhoneContext& context, const Json& parameters)
+{
+    auto target = referenced(context, parameters.at("target"));
+    auto readObject
+        = [&context](const Json& json) { return isReference(json) ? referenced(context, json) : objectOfJson(json); };
+    return {{"value",
+        invoke(target.raw(), parameters.at("selector"), parameters.value("args", Json::array()),
+            parameters.value("super", false), readObject)}};
+}
+
+void keepNewObject(PhoneContext& context, const Json& parameters)
+{
+    id type = classNamed(parameters.at("class"));
+    id object = ObjC::sendMessage<id>(ObjC::sendMessage<id>(type, ObjC::selector<"alloc">()), ObjC::selector<"init">());
+    context.named[parameters.at("name")] = ObjC::Object::adopting(object);
+}
+
+Json describeHooks()
+{
+    Json hooks = Json::array();
+    for (const HookRecord& record : hookRecords())
+        hooks.push_back({{"class", record.resolved() ? Json(record.className) : Json()},
+            {"selector", record.selectorName}, {"kind", record.kind == HookRecord::Kind::hook ? "hook" : "added"},
+            {"types", record.types}, {"resolved", record.resolved()}});
+    return hooks;
+}
+
+/// Settings are variables too; those that were bound as truth values are not objects.
+bool isFlag(const std::string& name)
+{
+    auto bound = boundValue(name.starts_with('_') ? name.substr(1) : name);
+    return flags.contains(name) || (bound && bound->kind == BoundValue::Kind::Boolean);
+}
+
+Json globalValue(const std::string& name)
+{
+    void* address = ExtensionLoader::shared().variable(name);
+    if (!address)
+        throwNotFound("the extension has no variable " + quote(name));
+    if (isFlag(name))
+        return *static_cast<bool*>(address);
+    if (numbers.contains(name))
+        return *static_cast<double*>(address);
+    return jsonOfObject(NS::Object(*static_cast<id*>(address)));
+}
+
+}
+
+void addRuntimeMethods(PhoneContext& context)
+{
+    context.add("objc.send", [&context](const Json& parameters) { return sendMessageByHand(context, parameters); });
+    context.add("objc.new", [&context](const Json& parameters) {
+        keepNewObject(context, parameters);
+        return Json::object();
+    });
+    context.add("objc.hooks", [](const Json&) { return Json{{"hooks", describeHooks()}}; });
+    context.add("global.get", [](const Json& parameters) {
+        return Json{{"value", globalValue(parameters.at("name"))}};
+    });
+}
+
+}

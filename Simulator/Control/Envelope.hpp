@@ -1,0 +1,60 @@
+// JSON-RPC 2.0: reading requests, answering them, and the error codes of the control protocol.
+// One document a line, always valid UTF-8.
+#pragma once
+
+#include <functional>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace Simulator::Control {
+
+using Json = nlohmann::json;
+
+enum class ErrorCode {
+    BadJson = -32700,
+    NotARequest = -32600,
+    NoSuchMethod = -32601,
+    BadParameters = -32602,
+    Internal = -32603,
+    NoPhone = -32001,
+    NotFound = -32002,
+    ShellEnded = -32003,
+};
+
+class ProtocolError : public std::runtime_error {
+public:
+    ProtocolError(ErrorCode code, const std::string& message)
+        : std::runtime_error(message)
+        , _code(code)
+    {
+    }
+    ErrorCode code() const { return _code; }
+
+private:
+    ErrorCode _code;
+};
+
+// What a method does with its parameters, which are always an object.
+using Call = std::function<Json(const std::string& method, const Json& parameters)>;
+
+// Throws a ProtocolError for anything that is not one JSON document of bearable depth.
+Json parseDocument(std::string_view text);
+
+// One line without its newline; what is not UTF-8 is replaced.
+std::string toLine(const Json&);
+
+Json requestDocument(std::uint64_t id, const std::string& method, const Json& parameters);
+Json resultDocument(const Json& id, const Json& result);
+Json errorDocument(const Json& id, const ProtocolError&);
+
+// The reply to a request or a batch of them; nothing when there were notifications only.
+std::optional<Json> answerDocument(const Json& document, const Call&);
+std::optional<std::string> answerLine(std::string_view line, const Call&);
+
+// A value as an error message quotes it: on one line and short.
+std::string quote(const Json&);
+
+}

@@ -1,0 +1,59 @@
+// Property lists made from JSON.
+#include "Simulator/Control/PropertyList.hpp"
+
+#include "Simulator/Foundation/PropertyList.hpp"
+
+#include <limits>
+
+namespace Simulator::Control {
+
+namespace {
+
+PropertyList listOf(const Json& value)
+{
+    switch (value.type()) {
+    case Json::value_t::object: {
+        PropertyListDictionary dictionary;
+        for (const auto& [key, member] : value.items())
+            dictionary.emplace(key, listOf(member));
+        return {std::move(dictionary)};
+    }
+    case Json::value_t::array: {
+        PropertyListArray array;
+        for (const Json& element : value)
+            array.push_back(listOf(element));
+        return {std::move(array)};
+    }
+    case Json::value_t::string:
+        return {value.get<std::string>()};
+    case Json::value_t::boolean:
+        return {value.get<bool>()};
+    case Json::value_t::number_integer:
+        return {value.get<std::int64_t>()};
+    case Json::value_t::number_unsigned:
+        if (value.get<std::uint64_t>() <= std::numeric_limits<std::int64_t>::max())
+            return {value.get<std::int64_t>()};
+        [[fallthrough]];
+    case Json::value_t::number_float:
+        return {value.get<double>()};
+    default:
+        throw ProtocolError(ErrorCode::BadParameters, "a property list cannot hold " + quote(value));
+    }
+}
+
+}
+
+std::string propertyListXml(const Json& value)
+{
+    return writeXmlPropertyList(listOf(value));
+}
+
+bool isPropertyListDictionary(std::string_view bytes)
+{
+    auto list = readXmlPropertyList(bytes);
+    if (!list)
+        list = readBinaryPropertyList(bytes);
+    return list && std::holds_alternative<PropertyListDictionary>(list->value);
+}
+
+}

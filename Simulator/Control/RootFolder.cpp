@@ -1,0 +1,95 @@
+// Makes, fills and removes the phone's root folder.
+#include "Simulator/Control/RootFolder.hpp"
+
+#include "Simulator/Control/PropertyList.hpp"
+
+#include <cstdlib>
+#include <fstream>
+#include <sstream>
+#include <system_error>
+
+namespace Simulator::Control {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string makeTemporaryFolder()
+{
+    std::string name = (fs::temp_directory_path() / "lyr-phone-XXXXXX").string();
+    if (!mkdtemp(name.data()))
+        throw std::system_error(errno, std::generic_category(), "cannot make the folder " + name);
+    return name;
+}
+
+std::string bytesOf(const fs::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream bytes;
+    bytes << file.rdbuf();
+    if (!file)
+        throw std::runtime_error("cannot read " + path.string());
+    return bytes.str();
+}
+
+}
+
+RootFolder::RootFolder()
+    : _isTemporary(true)
+{
+    _files.setRoot(makeTemporaryFolder());
+}
+
+RootFolder::RootFolder(const std::string& given)
+    : _isTemporary(false)
+{
+    _files.setRoot(given);
+}
+
+RootFolder::~RootFolder()
+{
+    std::error_code ignored;
+    if (_isTemporary)
+        fs::remove_all(path(), ignored);
+}
+
+void RootFolder::fill(const Json& parameters)
+{
+    const Json files = parameters.value("files", Json::object());
+    for (const auto& [phonePath, from] : files.items())
+        copy(from.get<std::string>(), phonePath);
+    if (const auto settings = parameters.find("settings"); settings != parameters.end())
+        put(settingsPath, propertyListXml(*settings));
+    if (const auto colours = parameters.find("colours"); colours != parameters.end())
+        put(coloursPath, propertyListXml(*colours));
+    if (const auto wallpaper = parameters.find("wallpaper"); wallpaper != parameters.end()) {
+        if (wallpaper->is_null())
+            _files.remove(wallpaperPath);
+        else
+            copy(wallpaper->get<std::string>(), std::string(wallpaperPath));
+    }
+    for (const Json& font : parameters.value("fonts", Json::array())) {
+        const fs::path from = font.get<std::string>();
+        copy(from, std::string(userFontFolder) + from.filename().string());
+    }
+}
+
+void RootFolder::put(std::string_view phonePath, const std::string& bytes)
+{
+    if (const int error = _files.put(phonePath, bytes))
+        throw std::system_error(error, std::generic_category(), "cannot write the phone's " + std::string(phonePath));
+}
+
+void RootFolder::copy(const fs::path& from, const std::string& phonePath)
+{
+    if (!fs::is_directory(from)) {
+        put(phonePath, bytesOf(from));
+        return;
+    }
+    if (const int error = _files.createFolder(phonePath, true); error && !_files.isFolder(phonePath))
+        throw std::system_error(error, std::generic_category(), "cannot make the phone's folder " + phonePath);
+    for (const auto& entry : fs::directory_iterator(from))
+        copy(entry.path(), phonePath + "/" + entry.path().filename().string());
+}
+
+}

@@ -1,0 +1,39 @@
+// The host folder that is the phone's `/`: a given one, or a temporary one that goes with its owner.
+#pragma once
+
+#include "Simulator/Control/Envelope.hpp"
+#include "Simulator/Files/PhoneFiles.hpp"
+
+#include <filesystem>
+
+namespace Simulator::Control {
+
+// Where the phone keeps what `phone.start` puts there.
+inline constexpr std::string_view settingsPath = "/var/mobile/Library/Preferences/com.ostrel.lyrprefs.plist";
+inline constexpr std::string_view coloursPath = "/var/mobile/Library/Preferences/com.ostrel.colorslyr.plist";
+inline constexpr std::string_view wallpaperPath = "/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg";
+inline constexpr std::string_view userFontFolder = "/Library/Application Support/LYRFont/";
+
+class RootFolder {
+public:
+    // Makes a temporary folder.
+    RootFolder();
+    explicit RootFolder(const std::string& given);
+    ~RootFolder();
+    RootFolder(const RootFolder&) = delete;
+    RootFolder& operator=(const RootFolder&) = delete;
+
+    const std::string& path() const { return _files.root(); }
+
+    // Puts the files, settings, colours, wallpaper and fonts of `phone.start` into the folder.
+    void fill(const Json& startParameters);
+
+private:
+    void put(std::string_view phonePath, const std::string& bytes);
+    void copy(const std::filesystem::path& from, const std::string& phonePath);
+
+    PhoneFiles _files;
+    bool _isTemporary;
+};
+
+}

@@ -1,0 +1,26 @@
+// The shell process's side of the socket: serves requests and keeps the real clock's work going between them.
+#pragma once
+
+#include "Simulator/Control/Channel.hpp"
+#include "Simulator/Control/Shell.hpp"
+
+namespace Simulator::Control {
+
+class ShellProcess {
+public:
+    ShellProcess(Shell&, Descriptor socket);
+
+    // Until the supervisor goes or the shell wants a relaunch. Answers the exit status.
+    int run();
+
+private:
+    void serve(const Json& document);
+    void sayState();
+    void waitForWork();
+
+    Shell& _shell;
+    Channel _channel;
+    Dispatcher _dispatcher;
+};
+
+}

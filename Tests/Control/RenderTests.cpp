@@ -1,0 +1,132 @@
+// `lyr render` up to the phone: the fake phone's picture says what it was started with.
+#include "Simulator/Control/PropertyList.hpp"
+#include "Tests/Support/Program.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
+
+#include <algorithm>
+#include <gtest/gtest.h>
+
+using namespace Support;
+using Simulator::Control::propertyListXml;
+
+namespace {
+
+const std::string jpegStart = "\xFF\xD8\xFF\xE0";
+const std::string settingsOnPhone = "/var/mobile/Library/Preferences/com.ostrel.lyrprefs.plist";
+const std::string coloursOnPhone = "/var/mobile/Library/Preferences/com.ostrel.colorslyr.plist";
+
+class Render : public testing::Test {
+protected:
+    Finished render(std::vector<std::string> options)
+    {
+        std::vector<std::string> arguments{"render", "-o", folder.at("lock.png")};
+        arguments.insert(arguments.end(), options.begin(), options.end());
+        return runProgram(arguments);
+    }
+
+    // The parameters of `phone.start` that the options lead to.
+    Json startedWith(std::vector<std::string> options)
+    {
+        const Finished finished = render(std::move(options));
+        EXPECT_EQ(finished.status, 0) << finished.errors;
+        EXPECT_EQ(finished.output, folder.at("lock.png") + "\n");
+        EXPECT_EQ(finished.errors, "");
+        return Json::parse(folder.read("lock.png"))["parameters"];
+    }
+
+    void expectFailure(std::vector<std::string> options, const std::string& message)
+    {
+        const Finished finished = render(std::move(options));
+        EXPECT_EQ(finished.status, 1);
+        EXPECT_EQ(finished.output, "");
+        EXPECT_EQ(finished.errors, "lyr: " + message + "\n");
+        EXPECT_FALSE(folder.has("lock.png"));
+    }
+
+    TemporaryFolder folder;
+};
+
+}
+
+TEST_F(Render, StartsAPhoneWithWhatTheOptionsSay)
+{
+    EXPECT_EQ(startedWith({"--screen", "414x896@2", "--time", "2020-11-15T21:41:00", "--time-zone", "Asia/Jerusalem",
+                  "--locale", "he_IL", "--language", "he", "--language", "en", "--style", "dark"}),
+        Json::parse(R"({"clock":"virtual","screen":{"width":414,"height":896,"scale":2},"time":"2020-11-15T21:41:00",
+            "timeZone":"Asia/Jerusalem","locale":"he_IL","languages":["he","en"],"style":"dark"})"));
+}
+
+TEST_F(Render, StartsAPhoneWithoutOptions)
+{
+    EXPECT_EQ(startedWith({}), Json::parse(R"({"clock":"virtual"})"));
+}
+
+TEST_F(Render, PutsPropertyListsOnThePhoneAsTheyAre)
+{
+    const std::string settings = folder.put("s.plist", propertyListXml({{"a", Json::array({1})}}));
+    const std::string colours = folder.put("c.plist", propertyListXml({{"colourTime", "#fff"}}));
+    EXPECT_EQ(startedWith({"--settings", settings, "--colours", colours})["files"],
+        Json({{settingsOnPhone, settings}, {coloursOnPhone, colours}}));
+}
+
+TEST_F(Render, TakesSettingsInJson)
+{
+    const std::string settings = folder.put("s.json", "\n {\"enabled\": true, \"list\": [1, {\"a\": \"b\"}]}");
+    EXPECT_TRUE(startedWith({"--settings", settings})["files"].contains(settingsOnPhone));
+}
+
+TEST_F(Render, PassesOnWallpaperFontsAndDevice)
+{
+    const std::string wallpaper = folder.put("w.jpg", jpegStart);
+    const std::string font = folder.put("f.ttf", "font");
+    const std::string other = folder.put("g.ttf", "font");
+    const std::string device = folder.put("d.json", R"({"battery":{"level":0.5},"alarm":null,"style":"light"})");
+    EXPECT_EQ(
+        startedWith({"--wallpaper", wallpaper, "--font", font, "--font", other, "--device", device, "--style", "dark"}),
+        Json({{"clock", "virtual"}, {"wallpaper", wallpaper}, {"fonts", {font, other}}, {"battery", {{"level", 0.5}}},
+            {"alarm", nullptr}, {"style", "dark"}}));
+}
+
+TEST_F(Render, LeavesNothingBesideThePicture)
+{
+    startedWith({});
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.path()), {}), 1);
+}
+
+TEST_F(Render, RefusesSettingsThatAreNeitherPropertyListNorJson)
+{
+    const std::string path = folder.put("s.txt", "enabled = yes");
+    expectFailure({"--settings", path},
+        path + ": neither a property list (XML or binary) with a dictionary nor JSON with an object");
+}
+
+TEST_F(Render, NamesWhatIsWrongWithAFile)
+{
+    const std::string null = folder.put("null.json", R"({"a": null})");
+    expectFailure({"--settings", null},
+        null + ": parameter \"settings.a\" takes a value without null and without NUL in a text, not null");
+    const std::string device = folder.put("d.json", R"({"battery": {"level": 5}})");
+    expectFailure(
+        {"--device", device}, device + ": parameter \"device.battery.level\" takes a number from -1 to 1, not 5");
+    const std::string png = folder.put("w.png", "\x89PNG");
+    expectFailure({"--wallpaper", png}, png + ": not a JPEG");
+    expectFailure(
+        {"--colours", "/none.plist"}, "/none.plist: cannot be read; an existing file that is not empty is needed");
+    expectFailure({"--font", "/none.ttf"},
+        "parameter \"fonts[0]\" takes the host path of a font file that exists, not \"/none.ttf\"");
+}
+
+TEST_F(Render, KeepsAnOldPictureWhenItFails)
+{
+    folder.put("lock.png", "old");
+    EXPECT_EQ(render({"--font", "/none.ttf"}).status, 1);
+    EXPECT_EQ(folder.read("lock.png"), "old");
+}
+
+TEST(RenderOutput, NeedsAFolder)
+{
+    const Finished finished = runProgram({"render", "-o", "/none/lock.png"});
+    EXPECT_EQ(finished.status, 1);
+    EXPECT_EQ(finished.errors,
+        "lyr: /none/lock.png: a picture needs a file name in a folder that exists and can be written\n");
+}

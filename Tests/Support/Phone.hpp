@@ -1,0 +1,103 @@
+// A simulated phone for end-to-end tests:
+//     auto phone = Phone::at("2020-11-15T21:41:00").settings({{"enabled", true}}).start();
+#pragma once
+
+#include "Tests/Support/Program.hpp"
+#include "Tests/Support/Views.hpp"
+
+#include <memory>
+
+namespace Support {
+
+class Phone;
+
+// Every parameter of `phone.start`, one call each.
+class PhoneStart {
+public:
+    PhoneStart& screen(double width, double height, double scale);
+    PhoneStart& time(const std::string& localTime) { return with("time", localTime); }
+    PhoneStart& timeZone(const std::string& name) { return with("timeZone", name); }
+    PhoneStart& locale(const std::string& name) { return with("locale", name); }
+    PhoneStart& languages(const std::vector<std::string>& names) { return with("languages", names); }
+    PhoneStart& clock(const std::string& kind) { return with("clock", kind); }
+    PhoneStart& style(const std::string& name) { return with("style", name); }
+    PhoneStart& root(const std::string& hostFolder) { return with("root", hostFolder); }
+    PhoneStart& file(const std::string& phonePath, const std::string& hostPath);
+    PhoneStart& settings(const Json& values) { return with("settings", values); }
+    PhoneStart& colours(const Json& values) { return with("colours", values); }
+    PhoneStart& wallpaper(const std::string& hostPath) { return with("wallpaper", hostPath); }
+    PhoneStart& withoutWallpaper() { return with("wallpaper", nullptr); }
+    PhoneStart& fonts(const std::vector<std::string>& hostPaths) { return with("fonts", hostPaths); }
+    PhoneStart& installed(const std::vector<std::string>& names) { return with("installed", names); }
+    PhoneStart& battery(const Json& values) { return with("battery", values); }
+    PhoneStart& weather(const Json& values) { return with("weather", values); }
+    PhoneStart& alarm(const std::string& localTime) { return with("alarm", localTime); }
+    PhoneStart& events(const Json& list) { return with("events", list); }
+    PhoneStart& withoutExtension() { return with("extension", false); }
+    PhoneStart& with(const std::string& parameter, const Json& value);
+
+    const Json& parameters() const { return _parameters; }
+    Phone start() const;
+
+private:
+    Json _parameters = Json::object();
+};
+
+class Phone {
+public:
+    static PhoneStart at(const std::string& localTime) { return PhoneStart().time(localTime); }
+    // A program that serves, and no phone in it yet.
+    static Phone notStarted() { return Phone(); }
+
+    // A method of the control protocol; throws a ControlError.
+    Json call(const std::string& method, const Json& parameters = Json::object());
+    // The code of the error that the call ends in; 0 if it succeeds.
+    int errorCode(const std::string& method, const Json& parameters = Json::object());
+    Program& program() { return *_program; }
+
+    void start(const PhoneStart& start) { call("phone.start", start.parameters()); }
+    Json info() { return call("phone.info"); }
+    void settle(double seconds = 10) { call("clock.settle", {{"seconds", seconds}}); }
+    void advance(double seconds) { call("clock.advance", {{"seconds", seconds}}); }
+
+    View tree() { return View(call("view.tree")); }
+    bool has(const std::string& id) { return errorCode("view.get", {{"id", id}}) == 0; }
+    View view(const std::string& id) { return View(get(id)); }
+    Label label(const std::string& id) { return Label(get(id)); }
+    Range range(const std::string& id) { return Range(get(id)); }
+    Segments segments(const std::string& id) { return Segments(get(id)); }
+    Button button(const std::string& id) { return Button(get(id)); }
+    Json get(const std::string& id) { return call("view.get", {{"id", id}}); }
+
+    // What is stored, and what the extension's variable holds of it.
+    Json settings() { return call("settings.get").at("values"); }
+    void set(const Json& values) { call("settings.set", {{"values", values}}); }
+    Json bound(const std::string& key) { return call("settings.bound", {{"key", key}}).at("value"); }
+    Json colours() { return call("colours.get").at("values"); }
+    void setColours(const Json& values) { call("colours.set", {{"values", values}}); }
+
+    Json global(const std::string& name) { return call("global.get", {{"name", name}}).at("value"); }
+    Json send(const Json& target, const std::string& selector, const Json& arguments = Json::array());
+    // Records of a kind, or all; what is read is taken.
+    std::vector<Json> takeLog(const std::string& kind = "");
+
+    std::string readFile(const std::string& path);
+    void writeFile(const std::string& path, const std::string& bytes);
+    // A PNG.
+    std::string capture();
+
+    // Ends the program; answers its exit status.
+    int end() { return _program->end(); }
+
+private:
+    Phone()
+        : _program(std::make_unique<Program>())
+    {
+    }
+
+    std::unique_ptr<Program> _program;
+};
+
+}
+
+using Support::Phone;
