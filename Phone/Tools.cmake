@@ -1,0 +1,16 @@
+# The programs and headers of the phone build; what is missing is named with the package that brings it.
+function(require_phone_tool package)
+  find_program(found NAMES ${ARGN} NO_CACHE)
+  if(NOT found)
+    message(FATAL_ERROR "The phone build needs ${ARGN}: install the package ${package}.")
+  endif()
+endfunction()
+
+require_phone_tool(clang-19 clang++-19)
+require_phone_tool(lld-19 ld64.lld-19)
+require_phone_tool(llvm-19 llvm-nm-19)
+require_phone_tool(llvm-19 llvm-objdump-19)
+require_phone_tool(llvm-19 llvm-otool-19)
+if(NOT EXISTS /usr/lib/llvm-19/include/c++/v1/__config)
+  message(FATAL_ERROR "The phone build needs the headers of the C++ library: install the package libc++-19-dev.")
+endif()
