@@ -1,0 +1,42 @@
+// What the end-to-end tests share: the evening they play on, and a phone whose lock screen has settled.
+#pragma once
+
+#include "Tests/Support/Phone.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
+
+#include <gtest/gtest.h>
+
+using Support::Json;
+using Support::Rectangle;
+
+inline constexpr const char* evening = "2020-11-15T21:41:00";
+
+inline Support::PhoneStart eveningPhone(const Json& settings = Json::object())
+{
+    return Phone::at(evening).settings(settings);
+}
+
+/// The phone after its first full refresh.
+inline Phone settled(const Support::PhoneStart& start)
+{
+    auto phone = start.start();
+    phone.settle();
+    return phone;
+}
+
+inline Phone settledWith(const Json& settings = Json::object())
+{
+    return settled(eveningPhone(settings));
+}
+
+/// A full refresh now, as each refresh of the lock screen ends in one.
+inline void refresh(Phone& phone)
+{
+    phone.send({{"instance", "SBFLockScreenDateViewController"}}, "updateTime");
+    phone.settle(1);
+}
+
+inline void postReload(Phone& phone)
+{
+    phone.call("notify.post", {{"name", "com.ostrel.lyrprefs/ReloadPrefs"}});
+}

@@ -1,0 +1,89 @@
+// The stock subtitle is taken off the screen, and a running timer takes the date's place.
+#include "Tests/EndToEnd/Scenario.hpp"
+
+namespace {
+
+void writeSubtitle(Phone& phone, const std::string& text)
+{
+    phone.send({{"instance", "SBFLockScreenDateSubtitleView"}}, "setString:", {{{"text", text}}});
+}
+
+constexpr const char* attachment = "\xEF\xBF\xBC";
+
+}
+
+TEST(Subtitle, ItsLabelsNeverShow)
+{
+    auto phone = settledWith();
+    EXPECT_FALSE(phone.has("stock.subtitle.label"));
+    EXPECT_FALSE(phone.has("stock.subtitle.alternate"));
+    EXPECT_TRUE(phone.has("stock.subtitle"));
+}
+
+TEST(Subtitle, ATextWithAColonIsARunningTimer)
+{
+    auto phone = settledWith();
+    writeSubtitle(phone, "12:34");
+    EXPECT_EQ(phone.global("isTimerRunning"), true);
+    EXPECT_EQ(phone.label("_timerLabel").text, std::string(attachment) + "12:34");
+    EXPECT_FALSE(phone.label("_timerLabel").hidden);
+    EXPECT_TRUE(phone.label("_dateLabel").hidden);
+    EXPECT_EQ(phone.label("_dateLabel").frame, (Rectangle{7, -3000, 345, 40}));
+}
+
+TEST(Subtitle, ADateGivesTheDateItsPlaceBack)
+{
+    auto phone = settledWith();
+    writeSubtitle(phone, "12:34");
+    writeSubtitle(phone, "Sunday, 15 November");
+    EXPECT_EQ(phone.global("isTimerRunning"), false);
+    EXPECT_TRUE(phone.label("_timerLabel").hidden);
+    EXPECT_FALSE(phone.label("_dateLabel").hidden);
+    EXPECT_EQ(phone.label("_dateLabel").frame, (Rectangle{7, 0, 345, 40}));
+}
+
+TEST(Subtitle, ATextWithAPointAndAColonStandsThereTwice)
+{
+    auto phone = settledWith();
+    writeSubtitle(phone, "1.5 12:00");
+    EXPECT_EQ(phone.label("_timerLabel").text, std::string(attachment) + "1.5 12:001.5 12:00");
+    EXPECT_EQ(phone.global("isTimerRunning"), true);
+}
+
+TEST(Subtitle, APointAloneIsNoTimerInTheEnd)
+{
+    auto phone = settledWith();
+    writeSubtitle(phone, "Sun. 15 Nov");
+    EXPECT_EQ(phone.global("isTimerRunning"), false);
+    EXPECT_FALSE(phone.label("_dateLabel").hidden);
+}
+
+TEST(Subtitle, NoTextAtAllIsNoTimer)
+{
+    auto phone = settledWith();
+    writeSubtitle(phone, "12:34");
+    phone.send({{"instance", "SBFLockScreenDateSubtitleView"}}, "setString:", {nullptr});
+    EXPECT_EQ(phone.global("isTimerRunning"), false);
+}
+
+TEST(Subtitle, WhileATimerRunsARefreshKeepsTheDateAboveTheScreen)
+{
+    auto phone = settledWith({{"YdateLabel", "12"}, {"dateOption", "0"}});
+    writeSubtitle(phone, "12:34");
+    refresh(phone);
+    EXPECT_EQ(phone.label("_dateLabel").frame[1], -2988);
+    EXPECT_EQ(phone.label("_dateLabel").text, "Sun,Nov 15") << "it is composed as usual";
+    EXPECT_EQ(phone.label("_timerLabel").text, std::string(attachment) + "12:34");
+}
+
+TEST(Subtitle, AScreenOfFiveHundredPointsChangesNoFrame)
+{
+    for (double width : {500, 501}) {
+        auto phone = settled(eveningPhone().screen(width, 900, 1));
+        auto frame = phone.label("_dateLabel").frame;
+        writeSubtitle(phone, "12:34");
+        EXPECT_EQ(phone.label("_dateLabel").frame, frame);
+        EXPECT_TRUE(phone.label("_dateLabel").hidden);
+        EXPECT_FALSE(phone.label("_timerLabel").hidden);
+    }
+}
