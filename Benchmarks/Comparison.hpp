@@ -1,0 +1,99 @@
+// Measures a piece of work beside its floor: the same result from the bare libraries. Both take turns in one run, on
+// the thread's own time, so that a busy machine slows both alike; the ratio of their medians is what counts.
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <ctime>
+#include <optional>
+#include <vector>
+
+namespace Benchmarks {
+
+/// The time that the calls take the thread.
+template <class Call>
+inline double seconds(Call& call, int repetitions = 1)
+{
+    auto now = [] {
+        std::timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) * 1e-9;
+    };
+    double start = now();
+    for (int i = 0; i < repetitions; ++i)
+        call();
+    return now() - start;
+}
+
+class Comparison {
+public:
+    /// The aim is the ratio that the work should not exceed.
+    explicit Comparison(benchmark::State& state, std::optional<double> aim = std::nullopt)
+        : state_(state)
+        , aim_(aim)
+    {
+    }
+
+    /// Runs work and floor in turn, each so many times in a row, until the time is up. `tidyUp` runs in between and
+    /// does not count.
+    template <class Work, class Floor, class TidyUp = void (*)()>
+    void run(
+        Work work, Floor floor, int repetitions = 1, TidyUp tidyUp = [] {})
+    {
+        bool workFirst = true;
+        for (auto unused : state_) {
+            (void)unused;
+            double first = workFirst ? seconds(work, repetitions) : seconds(floor, repetitions);
+            double second = workFirst ? seconds(floor, repetitions) : seconds(work, repetitions);
+            state_.SetIterationTime(workFirst ? first : second);
+            add((workFirst ? first : second) / repetitions, (workFirst ? second : first) / repetitions);
+            workFirst = !workFirst;
+            tidyUp();
+        }
+        report();
+    }
+
+    /// Takes times that were measured elsewhere.
+    void add(double work, double floor)
+    {
+        work_.push_back(work);
+        floor_.push_back(floor);
+    }
+    void report();
+
+private:
+    benchmark::State& state_;
+    std::optional<double> aim_;
+    std::vector<double> work_;
+    std::vector<double> floor_;
+};
+
+/// Says beside the time whether the work stays below an absolute limit.
+class Limit {
+public:
+    Limit(benchmark::State& state, double seconds)
+        : state_(state)
+        , limit_(seconds)
+    {
+    }
+
+    template <class Work>
+    void run(Work work)
+    {
+        for (auto unused : state_) {
+            (void)unused;
+            times_.push_back(seconds(work));
+            state_.SetIterationTime(times_.back());
+        }
+        report();
+    }
+
+private:
+    void report();
+
+    benchmark::State& state_;
+    double limit_;
+    std::vector<double> times_;
+};
+
+}

@@ -1,0 +1,87 @@
+#include "Benchmarks/StartBenchmarks.hpp"
+
+#include "Benchmarks/Comparison.hpp"
+#include "Benchmarks/FontFolder.hpp"
+
+#include "Simulator/App/SimulatedPhone.hpp"
+#include "Simulator/Loader/ExtensionLoader.hpp"
+
+#include <cstdio>
+#include <filesystem>
+#include <string>
+
+namespace Benchmarks {
+
+int measureStart(const char* root)
+{
+    Simulator::Control::ShellStart start;
+    start.parameters = {{"clock", "virtual"}, {"extension", false}};
+    start.root = root;
+    auto shell = Simulator::App::makeSimulatedPhone();
+    shell->start(start);
+
+    int loaded = 0;
+    auto work = [&] { loaded = Simulator::ExtensionLoader::shared().loadAll(); };
+    std::size_t names = 0;
+    auto fonts = userFonts(root);
+    auto floor = [&] { names = readNames(fonts); };
+    double floorTime = seconds(floor);
+    double workTime = seconds(work);
+    std::printf("%d %zu %.9f %.9f\n", loaded, names, workTime, floorTime);
+    return 0;
+}
+
+namespace {
+
+struct Measurement {
+    int loaded = 0;
+    std::size_t names = 0;
+    double work = 0;
+    double floor = 0;
+};
+
+/// The fonts' log lines are of no interest here.
+Measurement measureInNewProcess(const std::string& root)
+{
+    std::string program = std::filesystem::read_symlink("/proc/self/exe");
+    std::string command = "'" + program + "' " + measureStartOption + " '" + root + "' 2>/dev/null";
+    Measurement measurement;
+    if (FILE* output = popen(command.c_str(), "r")) {
+        if (std::fscanf(output, "%d %zu %lf %lf", &measurement.loaded, &measurement.names, &measurement.work,
+                &measurement.floor)
+            != 4)
+            measurement = {};
+        pclose(output);
+    }
+    return measurement;
+}
+
+void startUp(benchmark::State& state)
+{
+    FontFolder fonts(static_cast<int>(state.range(0)));
+    Comparison comparison(state, 2);
+    for (auto unused : state) {
+        (void)unused;
+        Measurement measurement = measureInNewProcess(fonts.root());
+        if (measurement.loaded != 1 || measurement.names != 2 * static_cast<std::size_t>(state.range(0))) {
+            state.SkipWithError("the extension was not loaded, or not all fonts were read");
+            return;
+        }
+        state.SetIterationTime(measurement.work);
+        comparison.add(measurement.work, measurement.floor);
+    }
+    comparison.report();
+}
+
+BENCHMARK(startUp)
+    ->ArgName("fonts")
+    ->Arg(5)
+    ->Arg(100)
+    ->Arg(1000)
+    ->Iterations(7)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime();
+
+}
+
+}
