@@ -11,7 +11,7 @@ template <FixedString name>
 inline SEL selector()
 {
     static SEL registered = nullptr;
-    if (!registered)
+    if (!registered) [[unlikely]]
         registered = sel_registerName(name.text);
     return registered;
 }

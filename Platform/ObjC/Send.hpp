@@ -84,7 +84,7 @@ inline Result sendMessage(id receiver, SEL selector, const Arguments&... argumen
             implementationFor<void, WireType<Arguments>...>(receiver, selector)(
                 receiver, selector, toWire(arguments)...);
     } else {
-        if (!receiver)
+        if (!receiver) [[unlikely]]
             return Result();
         return fromWire<Result, owned>(implementationFor<WireType<Result>, WireType<Arguments>...>(receiver, selector)(
             receiver, selector, toWire(arguments)...));

@@ -114,13 +114,17 @@ std::u16string patternForStyles(int dateStyle, int timeStyle, std::string_view l
 
 std::u16string patternForSkeleton(std::u16string_view skeleton, std::string_view locale)
 {
-    UErrorCode status = U_ZERO_ERROR;
-    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-        icu::DateTimePatternGenerator::createInstance(icuLocale(locale, {}), status));
-    if (U_FAILURE(status))
-        return {};
-    const icu::UnicodeString pattern = generator->getBestPattern(icuText(skeleton), status);
-    return U_SUCCESS(status) ? withPlainSpaces(pattern) : std::u16string();
+    // The generator behind a pattern reads all the patterns of its locale.
+    static auto* patterns = new StyleCache<std::u16string>;
+    return patterns->find({skeleton, locale, {}, {}}, [](const StyleKey& key) {
+        UErrorCode status = U_ZERO_ERROR;
+        const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+            icu::DateTimePatternGenerator::createInstance(icuLocale(key.locale, {}), status));
+        if (U_FAILURE(status))
+            return std::u16string();
+        const icu::UnicodeString pattern = generator->getBestPattern(icuText(key.pattern), status);
+        return U_SUCCESS(status) ? withPlainSpaces(pattern) : std::u16string();
+    });
 }
 
 std::vector<std::u16string> dateSymbols(

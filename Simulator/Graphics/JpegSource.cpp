@@ -188,8 +188,11 @@ public:
 
     bool decode(PixelSize wanted, RowReceiver& receiver) const override
     {
+        // The decoder writes aligned rows past the cache, though they are read at once: so no row is aligned.
+        constexpr std::size_t offset = 4;
         // Made before the return point, so that no jump passes over its destruction.
-        std::vector<std::uint8_t> row(static_cast<std::size_t>(m_size.width) * 4);
+        std::vector<std::uint8_t> buffer(static_cast<std::size_t>(m_size.width) * 4 + offset);
+        std::uint8_t* const row = buffer.data() + offset;
         Decoder decoder(m_bytes);
         auto& state = decoder.state;
         if (setjmp(decoder.errors.escape))
@@ -205,11 +208,11 @@ public:
         if (!receiver.begin(size, exact))
             return false;
         while (state.output_scanline < state.output_height) {
-            JSAMPROW line = row.data();
+            JSAMPROW line = row;
             jpeg_read_scanlines(&state, &line, 1);
             if (hasInks)
-                convertInks(row.data(), size.width);
-            receiver.row(row.data());
+                convertInks(row, size.width);
+            receiver.row(row);
         }
         return true;
     }

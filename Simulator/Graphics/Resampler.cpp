@@ -7,6 +7,11 @@
 
 namespace Simulator::Graphics {
 
+// The channels of a pixel, reckoned together.
+using FourBytes [[gnu::vector_size(4)]] = std::uint8_t;
+using FourInts [[gnu::vector_size(16)]] = std::int32_t;
+using FourFloats [[gnu::vector_size(16)]] = float;
+
 Resampler::Resampler(PixelSize full, const PixelRect& window, Pixels& out)
     : m_full(full)
     , m_window(window)
@@ -18,6 +23,7 @@ Resampler::Contributions Resampler::contributions(int sourceCount, double exactS
 {
     Contributions result(static_cast<std::size_t>(count));
     const double step = exactSource / full;
+    std::vector<double> weights;
     for (int i = 0; i < count; ++i) {
         // Reducing covers the pixel's own extent; enlarging reaches to the two nearest centres.
         const double center = (start + i + 0.5) * step;
@@ -28,12 +34,13 @@ Resampler::Contributions Resampler::contributions(int sourceCount, double exactS
         contribution.first = std::min(static_cast<int>(low), sourceCount - 1);
         const int end = std::clamp(static_cast<int>(std::ceil(high)), contribution.first + 1, sourceCount);
         double sum = 0;
-        std::vector<double> weights;
+        weights.clear();
         for (int source = contribution.first; source < end; ++source) {
             const double covered = std::min<double>(high, source + 1) - std::max<double>(low, source);
             weights.push_back(std::max(covered, 0.0));
             sum += weights.back();
         }
+        contribution.weights.reserve(weights.size());
         for (const double weight : weights)
             contribution.weights.push_back(static_cast<float>(sum > 0 ? weight / sum : 1.0 / weights.size()));
     }
@@ -75,14 +82,15 @@ void Resampler::reduceRow(const std::uint8_t* pixels)
         return;
     float* reduced = m_reduced.data();
     for (const Contribution& column : m_columns) {
-        float sum[4] = {};
+        FourFloats sum = {};
         const std::uint8_t* source = pixels + static_cast<std::size_t>(column.first) * 4;
         for (const float weight : column.weights) {
-            for (int channel = 0; channel < 4; ++channel)
-                sum[channel] += weight * source[channel];
+            FourBytes pixel;
+            std::memcpy(&pixel, source, sizeof pixel);
+            sum += weight * __builtin_convertvector(__builtin_convertvector(pixel, FourInts), FourFloats);
             source += 4;
         }
-        std::copy_n(sum, 4, reduced);
+        std::memcpy(reduced, &sum, sizeof sum);
         reduced += 4;
     }
     for (int out = m_outRow; out < rowCount; ++out) {
