@@ -73,6 +73,22 @@ void startUp(benchmark::State& state)
     comparison.report();
 }
 
+/// What does not depend on the fonts: loading the library, its interceptions and settings.
+void startUpWithoutFonts(benchmark::State& state)
+{
+    FontFolder noFonts(0);
+    for (auto unused : state) {
+        (void)unused;
+        Measurement measurement = measureInNewProcess(noFonts.root());
+        if (measurement.loaded != 1) {
+            state.SkipWithError("the extension was not loaded");
+            return;
+        }
+        state.SetIterationTime(measurement.work);
+    }
+}
+
+BENCHMARK(startUpWithoutFonts)->Iterations(7)->Unit(benchmark::kMicrosecond)->UseManualTime();
 BENCHMARK(startUp)
     ->ArgName("fonts")
     ->Arg(5)

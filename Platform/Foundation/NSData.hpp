@@ -1,7 +1,7 @@
 // Bytes.
 #pragma once
 
-#include "Platform/Foundation/NSString.hpp"
+#include "Platform/Foundation/NSURL.hpp"
 
 namespace NS {
 
@@ -11,6 +11,7 @@ public:
 
     /// The bytes of a file; nil if it cannot be read.
     static Data dataWithContentsOfFile(const String& path) { return sendClass<Data, "dataWithContentsOfFile:">(path); }
+    static Data dataWithContentsOfURL(const URL& url) { return sendClass<Data, "dataWithContentsOfURL:">(url); }
     static Data dataWithBytes(const void* bytes, unsigned long length)
     {
         return sendClass<Data, "dataWithBytes:length:">(bytes, length);

@@ -75,36 +75,42 @@ inline auto implementationFor([[maybe_unused]] id receiver, [[maybe_unused]] SEL
 #endif
 }
 
+/// Calls a method's function. A result that travels as it is, is made where the caller wants it: no copy.
+template <class Result, bool owned, class Function, class... Arguments>
+inline Result call(Function function, id receiver, SEL selector, const Arguments&... arguments)
+{
+    if constexpr (std::is_same_v<Result, WireType<Result>>)
+        return function(receiver, selector, toWire(arguments)...);
+    else
+        return fromWire<Result, owned>(function(receiver, selector, toWire(arguments)...));
+}
+
+/// Whether the runtime itself answers a message to nil with this kind of zero. Both do so where the result travels in
+/// a whole register; GCC's does it for nothing else.
+template <class Result>
+inline constexpr bool nilAnswersZero
+    = std::is_void_v<Result> || std::is_integral_v<Result> || std::is_pointer_v<Result>;
+
 /// Sends one message by raw object and selector. A message to nil gives the zero value of any result type.
 template <class Result, bool owned = false, class... Arguments>
 inline Result sendMessage(id receiver, SEL selector, const Arguments&... arguments)
 {
-    if constexpr (std::is_void_v<Result>) {
-        if (receiver)
-            implementationFor<void, WireType<Arguments>...>(receiver, selector)(
-                receiver, selector, toWire(arguments)...);
-    } else {
+    if constexpr (!nilAnswersZero<WireType<Result>>) {
         if (!receiver) [[unlikely]]
             return Result();
-        return fromWire<Result, owned>(implementationFor<WireType<Result>, WireType<Arguments>...>(receiver, selector)(
-            receiver, selector, toWire(arguments)...));
     }
+    return call<Result, owned>(implementationFor<WireType<Result>, WireType<Arguments>...>(receiver, selector),
+        receiver, selector, arguments...);
 }
 
 /// Calls an implementation that was found before (a stock method, an inherited one).
 template <class Result, bool owned = false, class... Arguments>
 inline Result callImplementation(IMP implementation, id receiver, SEL selector, const Arguments&... arguments)
 {
-    if constexpr (std::is_void_v<Result>) {
-        if (implementation)
-            reinterpret_cast<void (*)(id, SEL, WireType<Arguments>...)>(implementation)(
-                receiver, selector, toWire(arguments)...);
-    } else {
-        if (!implementation)
-            return Result();
-        return fromWire<Result, owned>(reinterpret_cast<WireType<Result> (*)(id, SEL, WireType<Arguments>...)>(
-            implementation)(receiver, selector, toWire(arguments)...));
-    }
+    if (!implementation)
+        return Result();
+    using Function = WireType<Result> (*)(id, SEL, WireType<Arguments>...);
+    return call<Result, owned>(reinterpret_cast<Function>(implementation), receiver, selector, arguments...);
 }
 
 }

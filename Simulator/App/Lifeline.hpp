@@ -31,7 +31,7 @@ private:
     int timeLeft() const;
     void throwIfSignalled() const;
 
-    Control::Descriptor _signals;
+    Descriptor _signals;
     int _input = -1;
     int _output = -1;
     std::optional<Clock::time_point> _end;

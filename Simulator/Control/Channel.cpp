@@ -27,12 +27,6 @@ void waitForever(int descriptor, short events)
     while (poll(&entry, 1, -1) < 0 && errno == EINTR) { }
 }
 
-void Descriptor::close()
-{
-    if (_number >= 0)
-        ::close(std::exchange(_number, -1));
-}
-
 Channel::Channel(Descriptor descriptor, Wait wait)
     : _descriptor(std::move(descriptor))
     , _wait(std::move(wait))

@@ -3,37 +3,13 @@
 
 #include "Simulator/Control/Envelope.hpp"
 #include "Simulator/Control/LineReader.hpp"
+#include "Simulator/Files/Descriptor.hpp"
 
 namespace Simulator::Control {
 
 // Blocks until the descriptor is ready for the poll events; may throw to give up.
 using Wait = std::function<void(int descriptor, short events)>;
 void waitForever(int descriptor, short events);
-
-// A file descriptor that is closed with its owner.
-class Descriptor {
-public:
-    explicit Descriptor(int number = -1)
-        : _number(number)
-    {
-    }
-    Descriptor(Descriptor&& other) noexcept
-        : _number(std::exchange(other._number, -1))
-    {
-    }
-    Descriptor& operator=(Descriptor&& other) noexcept
-    {
-        std::swap(_number, other._number);
-        return *this;
-    }
-    ~Descriptor() { close(); }
-
-    int number() const { return _number; }
-    void close();
-
-private:
-    int _number;
-};
 
 class Channel {
 public:

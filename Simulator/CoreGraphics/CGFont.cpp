@@ -2,9 +2,49 @@
 #include "Simulator/CoreGraphics/CGFont.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
+#include "Simulator/Foundation/PhoneFileData.hpp"
 #include "Simulator/Graphics/FontCatalogue.hpp"
 
+#include <algorithm>
+
 namespace Simulator {
+
+namespace {
+
+struct KnownFont {
+    std::weak_ptr<const FileContent> content;
+    Graphics::FaceNames names;
+};
+constexpr std::size_t mostKnownFonts = 8;
+
+std::vector<KnownFont>& knownFonts()
+{
+    static auto* fonts = new std::vector<KnownFont>;
+    return *fonts;
+}
+
+std::optional<Graphics::FaceNames> namesOf(const NS::Data& data)
+{
+    const auto* file = standInOrNull<PhoneFileData>(data);
+    const auto content = file ? file->content : nullptr;
+    const auto known
+        = std::ranges::find_if(knownFonts(), [&](const KnownFont& font) { return font.content.lock() == content; });
+    if (content && known != knownFonts().end())
+        return known->names;
+    auto names = Graphics::FontCatalogue::namesOf({static_cast<const std::byte*>(data.bytes()), data.length()});
+    if (content && names)
+        rememberFontNames(content, *names);
+    return names;
+}
+
+}
+
+void rememberFontNames(const std::shared_ptr<const FileContent>& content, const Graphics::FaceNames& names)
+{
+    if (knownFonts().size() >= mostKnownFonts)
+        knownFonts().erase(knownFonts().begin());
+    knownFonts().push_back({content, names});
+}
 
 std::span<const std::byte> CGFontObject::bytes() const
 {
@@ -48,8 +88,7 @@ extern "C" {
     const auto* source = standInBehind<CGDataProviderObject>(provider);
     if (!source)
         return nullptr;
-    const std::span bytes(static_cast<const std::byte*>(source->data.bytes()), source->data.length());
-    auto names = Graphics::FontCatalogue::namesOf(bytes);
+    auto names = namesOf(source->data);
     if (!names)
         return nullptr;
     ObjC::Object object = newInstance("CGFont");

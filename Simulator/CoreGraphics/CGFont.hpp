@@ -3,10 +3,12 @@
 
 #include "Platform/CoreGraphics/CGFont.hpp"
 #include "Platform/Foundation/NSData.hpp"
+#include "Simulator/Files/FileContent.hpp"
 #include "Simulator/Graphics/Font.hpp"
 #include "Simulator/Runtime/StandIn.hpp"
 
 #include <cstddef>
+#include <memory>
 #include <span>
 
 namespace Simulator {
@@ -25,6 +27,9 @@ struct CGFontObject : StandIn {
 
 /// The C++ side of a font; null for anything else.
 CGFontObject* fontObjectOf(CGFontRef font);
+
+/// The extension reads each of its fonts several times over; what was found in a content is found again without a look.
+void rememberFontNames(const std::shared_ptr<const FileContent>& content, const Graphics::FaceNames& names);
 
 void registerCGFont();
 

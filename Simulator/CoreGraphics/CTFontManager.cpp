@@ -9,6 +9,7 @@
 #include "Simulator/UIKit/Fonts.hpp"
 
 #include <array>
+#include <span>
 
 namespace Simulator {
 
@@ -29,11 +30,11 @@ constexpr std::array errorTexts = {
     ErrorText{RegistrationError::NotRegistered, 201, "The font is not registered"},
 };
 
-/// True for success; otherwise the error goes to the caller.
+/// True for success; otherwise the error goes to the caller, if it wants to know.
 bool concluded(const Graphics::RegistrationResult& result, const std::string& subject, id* error)
 {
-    if (result)
-        return true;
+    if (result || !error)
+        return static_cast<bool>(result);
     for (const ErrorText& text : errorTexts) {
         if (text.error != result.error)
             continue;
@@ -63,6 +64,23 @@ std::filesystem::path hostFile(const std::string& path)
     return files.isPhonePath(path) ? files.hostPath(path) : path;
 }
 
+Graphics::RegistrationResult registerFile(const std::string& path)
+{
+    const auto file = hostFile(path);
+    const auto content = file.empty() ? nullptr : PhoneFiles::shared().load(path).value;
+    if (!content)
+        return fontCatalogue().registerFile(file);
+    const Graphics::FontParts parts{
+        content->size(), [&](std::size_t offset, std::span<std::byte> part) { return content->copy(offset, part); }};
+    auto result = fontCatalogue().registerFile(file, parts);
+    for (const std::string& name : result.postScriptNames) {
+        const auto font = fontCatalogue().find(name);
+        if (font->faceIndex() == 0)
+            rememberFontNames(content, {name, font->familyName()});
+    }
+    return result;
+}
+
 }
 
 void registerCTFontManager()
@@ -79,7 +97,7 @@ extern "C" {
 [[gnu::visibility("default")]] bool CTFontManagerRegisterFontsForURL(id url, std::uint32_t, id* error)
 {
     const std::string path = pathOf(url);
-    const auto result = fontCatalogue().registerFile(hostFile(path));
+    const auto result = registerFile(path);
     ActivityLog::shared().record("registerFont", {{"path", path}, {"ok", static_cast<bool>(result)}});
     return concluded(result, path, error);
 }

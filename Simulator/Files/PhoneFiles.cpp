@@ -1,5 +1,7 @@
-// Reading and writing under the phone's root, with faults where a test asks for them.
+// Writing and listing under the phone's root, with faults where a test asks for them.
 #include "Simulator/Files/PhoneFiles.hpp"
+
+#include "Simulator/Files/Descriptor.hpp"
 
 #include <algorithm>
 #include <cerrno>
@@ -18,25 +20,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-class Descriptor {
-public:
-    explicit Descriptor(int number)
-        : _number(number)
-    {
-    }
-    ~Descriptor()
-    {
-        if (_number >= 0)
-            ::close(_number);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int number() const { return _number; }
-
-private:
-    int _number;
-};
-
 int writeAll(int descriptor, std::string_view bytes)
 {
     while (!bytes.empty()) {
@@ -54,29 +37,6 @@ bool failsWhileWriting(int fault)
     return fault == ENOSPC || fault == EIO;
 }
 
-FileResult<std::string> readHostFile(const std::string& path)
-{
-    // Never blocks, should the path be a pipe.
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC));
-    struct stat status;
-    if (file.number() < 0 || ::fstat(file.number(), &status) != 0)
-        return {{}, errno};
-    if (!S_ISREG(status.st_mode))
-        return {{}, S_ISDIR(status.st_mode) ? EISDIR : EINVAL};
-    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-    std::size_t filled = 0;
-    while (filled < bytes.size()) {
-        const ssize_t count = ::read(file.number(), bytes.data() + filled, bytes.size() - filled);
-        if (count == 0)
-            break;
-        if (count < 0 && errno != EINTR)
-            return {{}, errno};
-        filled += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-    }
-    bytes.resize(filled);
-    return {std::move(bytes), 0};
-}
-
 }
 
 PhoneFiles& PhoneFiles::shared()
@@ -85,44 +45,46 @@ PhoneFiles& PhoneFiles::shared()
     return *files;
 }
 
-FileResult<std::string> PhoneFiles::safeHostPath(std::string_view phonePath) const
+FileResult<std::string> PhoneFiles::plainHostPath(std::string_view phonePath) const
 {
     if (_root.empty())
         return {{}, ENODEV};
     if (phonePath.empty() || phonePath.find('\0') != std::string_view::npos)
         return {{}, phonePath.empty() ? ENOENT : EINVAL};
-    std::string path = hostPath(phonePath);
+    return {hostPath(phonePath), 0};
+}
+
+Descriptor PhoneFiles::openInside(const std::string& hostPath, int flags) const
+{
+    if (!_rootFolder)
+        _rootFolder = Descriptor(::open(_root.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    return openBelow(_rootFolder, hostPath.size() > _root.size() ? hostPath.c_str() + _root.size() + 1 : ".", flags);
+}
+
+FileResult<std::string> PhoneFiles::safeHostPath(std::string_view phonePath) const
+{
+    auto path = plainHostPath(phonePath);
+    if (!path || openInside(path.value, O_PATH))
+        return path;
     std::error_code error;
-    const fs::path resolved = fs::weakly_canonical(path, error);
+    const fs::path resolved = fs::weakly_canonical(path.value, error);
     if (error)
         return {{}, error.value()};
     if (!(resolved.string() + '/').starts_with(_root + '/'))
         return {{}, EACCES};
     // A link to nothing would be followed when the file is made.
-    if (fs::is_symlink(path, error) && !fs::exists(path, error))
+    if (fs::is_symlink(path.value, error) && !fs::exists(path.value, error))
         return {{}, ENOENT};
-    return {std::move(path), 0};
-}
-
-FileResult<std::string> PhoneFiles::read(std::string_view phonePath) const
-{
-    if (const int error = fault(phonePath, FileOperation::Read))
-        return {{}, error};
-    return fetch(phonePath);
-}
-
-FileResult<std::string> PhoneFiles::fetch(std::string_view phonePath) const
-{
-    const auto host = safeHostPath(phonePath);
-    return host ? readHostFile(host.value) : FileResult<std::string>{{}, host.error};
+    return path;
 }
 
 int PhoneFiles::writeDirectly(const std::string& hostPath, std::string_view bytes, int fault) const
 {
     if (fault && !failsWhileWriting(fault))
         return fault;
+    _recent.readAll();
     const Descriptor file(::open(hostPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_CLOEXEC, 0644));
-    if (file.number() < 0)
+    if (!file)
         return errno;
     return fault ? fault : writeAll(file.number(), bytes);
 }
@@ -139,7 +101,7 @@ int PhoneFiles::writeAtomically(
     int error = 0;
     {
         const Descriptor file(::mkstemp(temporary.data()));
-        if (file.number() < 0)
+        if (!file)
             return errno;
         error = ::fchmod(file.number(), 0644) == 0 ? writeAll(file.number(), bytes) : errno;
     }
@@ -238,18 +200,18 @@ int PhoneFiles::createFolder(std::string_view phonePath, bool withParents)
     return error.value();
 }
 
-bool PhoneFiles::exists(std::string_view phonePath) const
+PhoneFiles::Presence PhoneFiles::presence(std::string_view phonePath) const
 {
-    std::error_code error;
+    const auto plain = plainHostPath(phonePath);
+    struct stat status;
+    if (plain) {
+        if (const Descriptor file = openInside(plain.value, O_PATH))
+            return ::fstat(file.number(), &status) == 0 && S_ISDIR(status.st_mode) ? Presence::Folder : Presence::File;
+    }
     const auto host = safeHostPath(phonePath);
-    return host && fs::exists(host.value, error);
-}
-
-bool PhoneFiles::isFolder(std::string_view phonePath) const
-{
-    std::error_code error;
-    const auto host = safeHostPath(phonePath);
-    return host && fs::is_directory(host.value, error);
+    if (!host || ::stat(host.value.c_str(), &status) != 0)
+        return Presence::None;
+    return S_ISDIR(status.st_mode) ? Presence::Folder : Presence::File;
 }
 
 void PhoneFiles::setFault(std::string_view phonePath, FileOperation operation, int error)

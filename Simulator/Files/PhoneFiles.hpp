@@ -2,6 +2,8 @@
 // with injected faults and a record of what the shell writes.
 #pragma once
 
+#include "Simulator/Files/RecentContents.hpp"
+
 #include <functional>
 #include <map>
 #include <string>
@@ -44,6 +46,9 @@ public:
 
     /// As the shell process does it: faults apply, writes are recorded. Errors are errno values, 0 is success.
     FileResult<std::string> read(std::string_view phonePath) const;
+    /// Likewise, without a copy for each reader, and read from the disk when the bytes are asked for.
+    using Content = RecentContents::Content;
+    FileResult<Content> load(std::string_view phonePath) const;
     int write(std::string_view phonePath, std::string_view bytes, WriteMode mode);
     /// Names in bytewise order, without "." and "..".
     FileResult<std::vector<std::string>> list(std::string_view phonePath) const;
@@ -51,8 +56,11 @@ public:
     int remove(std::string_view phonePath);
     int rename(std::string_view from, std::string_view to);
     int createFolder(std::string_view phonePath, bool withParents);
-    bool exists(std::string_view phonePath) const;
-    bool isFolder(std::string_view phonePath) const;
+    /// What there is at the path, links followed.
+    enum class Presence { None, File, Folder };
+    Presence presence(std::string_view phonePath) const;
+    bool exists(std::string_view phonePath) const { return presence(phonePath) != Presence::None; }
+    bool isFolder(std::string_view phonePath) const { return presence(phonePath) == Presence::Folder; }
 
     /// As a tester's hand does it: no faults, no record, parent folders are made.
     FileResult<std::string> fetch(std::string_view phonePath) const;
@@ -65,14 +73,22 @@ public:
     void setWriteObserver(WriteObserver observer) { _observer = std::move(observer); }
 
 private:
+    /// The host path by the text alone.
+    FileResult<std::string> plainHostPath(std::string_view phonePath) const;
+    /// Opens what exists at the host path; may fail where only safeHostPath can tell.
+    Descriptor openInside(const std::string& hostPath, int flags) const;
+    FileResult<Descriptor> openToRead(std::string_view phonePath) const;
     /// The host path if no link on the way leads out of the root.
     FileResult<std::string> safeHostPath(std::string_view phonePath) const;
     int writeDirectly(const std::string& hostPath, std::string_view bytes, int fault) const;
     int writeAtomically(const std::string& hostPath, std::string_view bytes, int writeFault, int renameFault) const;
 
     std::string _root;
+    /// Opened when first needed. Should the folder go, nothing is found here, and safeHostPath asks by name.
+    mutable Descriptor _rootFolder{-1};
     std::map<std::pair<std::string, FileOperation>, int> _faults;
     WriteObserver _observer;
+    mutable RecentContents _recent;
 };
 
 }

@@ -91,6 +91,7 @@ void PhoneFiles::setRoot(const std::string& hostPath)
     std::error_code error;
     const std::filesystem::path resolved = std::filesystem::weakly_canonical(hostPath, error);
     _root = plainPath(error ? hostPath : resolved.string());
+    _rootFolder.close();
 }
 
 }

@@ -112,19 +112,23 @@ std::u16string patternForStyles(int dateStyle, int timeStyle, std::string_view l
     return withPlainSpaces(pattern);
 }
 
+static std::u16string makePattern(const StyleKey& style)
+{
+    UErrorCode status = U_ZERO_ERROR;
+    const std::unique_ptr<icu::DateTimePatternGenerator> generator(
+        icu::DateTimePatternGenerator::createInstance(icuLocale(style.locale, {}), status));
+    if (U_FAILURE(status))
+        return {};
+    const icu::UnicodeString pattern = generator->getBestPattern(icuText(style.pattern), status);
+    return U_SUCCESS(status) ? withPlainSpaces(pattern) : std::u16string();
+}
+
 std::u16string patternForSkeleton(std::u16string_view skeleton, std::string_view locale)
 {
     // The generator behind a pattern reads all the patterns of its locale.
     static auto* patterns = new StyleCache<std::u16string>;
-    return patterns->find({skeleton, locale, {}, {}}, [](const StyleKey& key) {
-        UErrorCode status = U_ZERO_ERROR;
-        const std::unique_ptr<icu::DateTimePatternGenerator> generator(
-            icu::DateTimePatternGenerator::createInstance(icuLocale(key.locale, {}), status));
-        if (U_FAILURE(status))
-            return std::u16string();
-        const icu::UnicodeString pattern = generator->getBestPattern(icuText(key.pattern), status);
-        return U_SUCCESS(status) ? withPlainSpaces(pattern) : std::u16string();
-    });
+    const StyleKey key{skeleton, locale, {}, {}};
+    return skeleton.size() > longestCachedPattern ? makePattern(key) : patterns->find(key, makePattern);
 }
 
 std::vector<std::u16string> dateSymbols(

@@ -73,6 +73,15 @@ FileResult<std::string> readFile(const NS::String& path)
     return phonePath ? PhoneFiles::shared().read(*phonePath) : readHostFile(name);
 }
 
+FileResult<PhoneFiles::Content> loadFile(const NS::String& path)
+{
+    const std::string name = textOf(path);
+    if (const auto phonePath = phonePathToRead(name); phonePath && !name.empty())
+        return PhoneFiles::shared().load(*phonePath);
+    const auto file = readFile(path);
+    return {std::make_shared<const FileContent>(file.value), file.error};
+}
+
 int writeFile(const NS::String& path, std::string_view bytes, WriteMode mode)
 {
     const auto phonePath = phonePathToWrite(textOf(path));

@@ -19,6 +19,8 @@ std::optional<std::string> phonePathToWrite(const std::string& path);
 
 /// The bytes of a file of the phone or, failing that, of the host.
 FileResult<std::string> readFile(const NS::String& path);
+/// Likewise, without a copy for each reader.
+FileResult<PhoneFiles::Content> loadFile(const NS::String& path);
 int writeFile(const NS::String& path, std::string_view bytes, WriteMode mode);
 
 /// The path of a file URL; nil for any other.

@@ -2,7 +2,9 @@
 #include "Platform/Foundation/NSData.hpp"
 #include "Simulator/Foundation/FileAccess.hpp"
 #include "Simulator/Foundation/Mending.hpp"
+#include "Simulator/Foundation/PhoneFileData.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
+#include "Simulator/Runtime/Binder.hpp"
 
 namespace Simulator {
 
@@ -15,17 +17,23 @@ id alloc(Class self)
     return ObjC::sendMessage<id>(reinterpret_cast<id>(self), ObjC::selector<"alloc">());
 }
 
-// An object of the class with the file's bytes, or nil and the reason.
+// An object with the file's bytes, or nil and the reason. Those of mutable data are its own.
 id initWithFile(id self, const NS::String& path, id* error)
 {
-    const auto file = readFile(path);
+    static const Class mutableData = objc_getClass("NSMutableData");
+    static const Class fileData = objc_getClass("PhoneFileData");
+    const ObjC::Object allocated = ObjC::Object::adopting(self);
+    auto file = loadFile(path);
     if (!file) {
         reportFileError(error, file.error, path, false);
-        ObjC::release(self);
         return nullptr;
     }
-    return ObjC::sendMessage<id>(self, ObjC::selector<"initWithBytes:length:">(),
-        static_cast<const void*>(file.value.data()), static_cast<unsigned long>(file.value.size()));
+    if (allocated.isKindOf(mutableData))
+        return ObjC::sendMessage<id>(ObjC::retain(self), ObjC::selector<"initWithBytes:length:">(),
+            static_cast<const void*>(file.value->bytes().data()), static_cast<unsigned long>(file.value->size()));
+    const id data = alloc(fileData);
+    standIn<PhoneFileData>(data).content = std::move(file.value);
+    return data;
 }
 
 id initWithContentsOfFile(id self, SEL, NS::String path)
@@ -102,6 +110,11 @@ bool writeToUrlOptions(NS::Data self, SEL, ObjC::Object url, unsigned long optio
 
 void registerNSData()
 {
+    Binder<PhoneFileData>("PhoneFileData", "NSData")
+        .def<"bytes", &PhoneFileData::bytes>()
+        .def<"length", &PhoneFileData::length>()
+        .def<"copyWithZone:", &PhoneFileData::copyWithZone>()
+        .add();
     replaceInFamily<initWithContentsOfFile>("NSData", "initWithContentsOfFile:");
     replaceInFamily<initWithContentsOfFileOptions>("NSData", "initWithContentsOfFile:options:error:");
     replaceInFamily<initWithContentsOfUrl>("NSData", "initWithContentsOfURL:");

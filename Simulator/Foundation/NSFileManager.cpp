@@ -41,9 +41,10 @@ bool fileExistsIsDirectory(id self, SEL command, NS::String path, unsigned char*
     const auto phonePath = phonePathToRead(textOf(path));
     if (!phonePath)
         return ObjC::callImplementation<bool>(stockExists, self, command, path, isDirectory);
+    const auto presence = PhoneFiles::shared().presence(*phonePath);
     if (isDirectory)
-        *isDirectory = PhoneFiles::shared().isFolder(*phonePath);
-    return PhoneFiles::shared().exists(*phonePath);
+        *isDirectory = presence == PhoneFiles::Presence::Folder;
+    return presence != PhoneFiles::Presence::None;
 }
 
 bool fileExists(NS::FileManager self, SEL, NS::String path)

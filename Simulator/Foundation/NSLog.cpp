@@ -9,6 +9,7 @@
 #include <string>
 
 #include <dlfcn.h>
+#include <link.h>
 
 namespace Simulator {
 
@@ -17,9 +18,9 @@ namespace {
 // GNUstep reports its own troubles through the same function; they are none of the phone's.
 bool isFoundationItself(void* caller)
 {
-    Dl_info info;
-    return dladdr(caller, &info) && info.dli_fname
-        && std::string_view(info.dli_fname).find("libgnustep-base") != std::string_view::npos;
+    dl_find_object library;
+    return _dl_find_object(caller, &library) == 0
+        && std::string_view(library.dlfo_link_map->l_name).find("libgnustep-base") != std::string_view::npos;
 }
 
 std::string formatted(id format, va_list arguments)

@@ -5,6 +5,7 @@
 #include "Simulator/Graphics/Typesetter.hpp"
 
 #include <cstdlib>
+#include <functional>
 #include <map>
 #include <set>
 
@@ -17,17 +18,22 @@ constexpr long collectionLimit = 256;
 
 std::string fileKey(const std::filesystem::path& path)
 {
+    const std::string& text = path.native();
+    if (path.is_absolute() && text.find("//") == std::string::npos && text.find("/.") == std::string::npos)
+        return text;
     std::error_code error;
     const auto absolute = std::filesystem::absolute(path, error);
     return (error ? path : absolute).lexically_normal().string();
 }
 
-std::vector<std::shared_ptr<const Font>> facesOf(const std::shared_ptr<const FontFile>& file)
+using FaceOpener = std::function<FacePointer(const FontFile& file, long faceIndex)>;
+
+std::vector<std::shared_ptr<const Font>> facesOf(const std::shared_ptr<const FontFile>& file, const FaceOpener& open)
 {
     std::vector<std::shared_ptr<const Font>> fonts;
     long count = 1;
     for (long index = 0; index < count; ++index) {
-        const FacePointer face = openFace(*file, index);
+        const FacePointer face = open(*file, index);
         if (!face)
             continue;
         count = std::min(face->num_faces, collectionLimit);
@@ -35,6 +41,11 @@ std::vector<std::shared_ptr<const Font>> facesOf(const std::shared_ptr<const Fon
             fonts.push_back(std::make_shared<const Font>(std::move(*description), file));
     }
     return fonts;
+}
+
+std::vector<std::shared_ptr<const Font>> facesOf(const std::shared_ptr<const FontFile>& file)
+{
+    return facesOf(file, [](const FontFile& plain, long index) { return openFace(plain, index); });
 }
 
 }
@@ -59,15 +70,25 @@ struct FontCatalogue::State {
         return added;
     }
 
-    RegistrationResult registerFaces(const std::shared_ptr<const FontFile>& file)
+    RegistrationResult registerFaces(const std::vector<std::shared_ptr<const Font>>& fonts)
     {
-        const auto fonts = facesOf(file);
         if (fonts.empty())
             return {RegistrationError::Invalid, {}};
         auto added = add(fonts);
         if (added.empty())
             return {RegistrationError::AlreadyRegistered, {}};
         return {RegistrationError::None, std::move(added)};
+    }
+
+    RegistrationResult registerFile(const std::filesystem::path& path, const FaceOpener& open)
+    {
+        const std::string key = fileKey(path);
+        if (namesByFile.contains(key))
+            return {RegistrationError::AlreadyRegistered, {}};
+        auto result = registerFaces(facesOf(std::make_shared<const FontFile>(path, FontFile::Origin::User), open));
+        if (result)
+            namesByFile.emplace(key, result.postScriptNames);
+        return result;
     }
 
     bool remove(std::string_view name)
@@ -104,20 +125,19 @@ RegistrationResult FontCatalogue::registerFile(const std::filesystem::path& path
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
         return {RegistrationError::FileNotFound, {}};
-    const std::string key = fileKey(path);
-    if (m_state->namesByFile.contains(key))
-        return {RegistrationError::AlreadyRegistered, {}};
-    auto result = m_state->registerFaces(std::make_shared<const FontFile>(path, FontFile::Origin::User));
-    if (result)
-        m_state->namesByFile.emplace(key, result.postScriptNames);
-    return result;
+    return m_state->registerFile(path, [](const FontFile& file, long index) { return openFace(file, index); });
+}
+
+RegistrationResult FontCatalogue::registerFile(const std::filesystem::path& path, const FontParts& parts)
+{
+    FontStream stream(parts);
+    return m_state->registerFile(path, [&](const FontFile&, long index) { return openFace(stream, index); });
 }
 
 RegistrationResult FontCatalogue::registerData(std::span<const std::byte> bytes)
 {
-    if (!openFace(bytes, 0))
-        return {RegistrationError::Invalid, {}};
-    return m_state->registerFaces(std::make_shared<const FontFile>(std::vector<std::byte>(bytes.begin(), bytes.end())));
+    return m_state->registerFaces(
+        facesOf(std::make_shared<const FontFile>(std::vector<std::byte>(bytes.begin(), bytes.end()))));
 }
 
 RegistrationResult FontCatalogue::unregisterFile(const std::filesystem::path& path)

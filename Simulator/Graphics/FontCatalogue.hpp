@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Simulator/Graphics/Font.hpp"
+#include "Simulator/Graphics/FontParts.hpp"
 
 #include <cstddef>
 #include <filesystem>
@@ -35,7 +36,9 @@ public:
     FontCatalogue(const FontCatalogue&) = delete;
     FontCatalogue& operator=(const FontCatalogue&) = delete;
 
+    // The parts are the file's if the caller has it open: a file that has to be mapped takes longer.
     RegistrationResult registerFile(const std::filesystem::path& path);
+    RegistrationResult registerFile(const std::filesystem::path& path, const FontParts& parts);
     RegistrationResult registerData(std::span<const std::byte> bytes);
     RegistrationResult unregisterFile(const std::filesystem::path& path);
     RegistrationResult unregisterFont(std::string_view postScriptName);

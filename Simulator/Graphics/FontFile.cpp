@@ -133,6 +133,35 @@ FacePointer openFace(std::span<const std::byte> bytes, long faceIndex)
     return accepted(FacePointer(face));
 }
 
+static unsigned long readPart(FT_Stream stream, unsigned long offset, unsigned char* buffer, unsigned long count)
+{
+    const auto& parts = *static_cast<const FontParts*>(stream->descriptor.pointer);
+    // Asked for nothing, it tells whether there is such a place.
+    if (count == 0)
+        return offset > parts.size;
+    return parts.copy(offset, std::span(reinterpret_cast<std::byte*>(buffer), count));
+}
+
+FontStream::FontStream(const FontParts& parts)
+{
+    m_record.size = parts.size;
+    m_record.descriptor.pointer = const_cast<FontParts*>(&parts);
+    m_record.read = &readPart;
+}
+
+FacePointer openFace(FontStream& stream, long faceIndex)
+{
+    if (stream.record()->size == 0 || stream.record()->size > fontFileLimit)
+        return nullptr;
+    FT_Open_Args arguments{};
+    arguments.flags = FT_OPEN_STREAM;
+    arguments.stream = stream.record();
+    FT_Face face = nullptr;
+    if (FT_Open_Face(library(), &arguments, faceIndex, &face) != 0)
+        return nullptr;
+    return accepted(FacePointer(face));
+}
+
 std::optional<Font::Description> describe(FT_Face face)
 {
     auto names = namesOf(face);

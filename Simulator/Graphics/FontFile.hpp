@@ -2,9 +2,11 @@
 #pragma once
 
 #include "Simulator/Graphics/Font.hpp"
+#include "Simulator/Graphics/FontParts.hpp"
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
+#include FT_SYSTEM_H
 
 #include <cstddef>
 #include <filesystem>
@@ -36,6 +38,17 @@ private:
     Origin m_origin = Origin::User;
 };
 
+// Reads a font that stays open elsewhere; has to outlive the faces that are read from it.
+class FontStream {
+public:
+    explicit FontStream(const FontParts& parts);
+    FontStream(const FontStream&) = delete;
+    FT_Stream record() { return &m_record; }
+
+private:
+    FT_StreamRec m_record{};
+};
+
 struct FaceCloser {
     void operator()(FT_Face face) const { FT_Done_Face(face); }
 };
@@ -44,6 +57,7 @@ using FacePointer = std::unique_ptr<FT_FaceRec, FaceCloser>;
 // Null unless the face is a scalable one of the kinds that the phone takes. Bytes have to outlive the face.
 FacePointer openFace(const FontFile& file, long faceIndex);
 FacePointer openFace(std::span<const std::byte> bytes, long faceIndex);
+FacePointer openFace(FontStream& stream, long faceIndex);
 
 // Nothing for a face without any name.
 std::optional<Font::Description> describe(FT_Face face);

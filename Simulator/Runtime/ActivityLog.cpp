@@ -12,8 +12,11 @@ ActivityLog& ActivityLog::shared()
 
 void ActivityLog::record(const std::string& kind, Fields fields)
 {
-    Fields record{{"at", clock_()}, {"kind", kind}};
-    record.update(fields);
+    Fields record = Fields::object();
+    record["at"] = clock_();
+    record["kind"] = kind;
+    for (auto& [name, value] : fields.get_ref<Fields::object_t&>())
+        record[name] = std::move(value);
     records_.push_back(std::move(record));
 }
 

@@ -8,6 +8,28 @@ extern "C" void __objc_update_dispatch_table_for_class(Class type);
 
 namespace Simulator {
 
+namespace {
+
+// A method as compilers lay it out for this runtime.
+struct MethodRecord {
+    SEL selector;
+    const char* types;
+    IMP implementation;
+};
+
+// The runtime's own way looks the method up in every class there is.
+void setImplementation(Class type, Method method, IMP implementation)
+{
+    auto* record = reinterpret_cast<MethodRecord*>(method);
+    if (record->implementation == method_getImplementation(method))
+        record->implementation = implementation;
+    else
+        method_setImplementation(method, implementation);
+    __objc_update_dispatch_table_for_class(type);
+}
+
+}
+
 std::vector<Method> ownMethods(Class type)
 {
     unsigned count = 0;
@@ -27,10 +49,9 @@ Method ownMethod(Class type, SEL selector)
 
 void setMethod(Class type, SEL selector, IMP implementation, const char* types)
 {
-    if (Method own = ownMethod(type, selector)) {
-        method_setImplementation(own, implementation);
-        __objc_update_dispatch_table_for_class(type);
-    } else
+    if (Method own = ownMethod(type, selector))
+        setImplementation(type, own, implementation);
+    else
         class_addMethod(type, selector, implementation, types);
 }
 

@@ -14,33 +14,29 @@ namespace Simulator {
 
 static constexpr const char* standInVariable = "_standIn";
 
-/// Where an object of the class keeps the pointer to its C++ side; 0 for a class that is no stand-in.
-static std::ptrdiff_t slotOffset(Class type)
-{
-    struct Known {
-        Class type;
-        std::ptrdiff_t offset;
-    };
-    static std::array<Known, 256> known{};
-    Known& entry = known[(reinterpret_cast<std::uintptr_t>(type) >> 5) % known.size()];
-    if (entry.type != type) {
-        Ivar variable = class_getInstanceVariable(type, standInVariable);
-        entry = {type, variable ? ivar_getOffset(variable) : 0};
-    }
-    return entry.offset;
-}
+/// What birth, death and every message need to know of a class. Made when its first object is seen.
+struct StandInRegistry::Kind {
+    std::string name;
+    /// Where an object keeps the pointer to its C++ side; 0 for a class that is no stand-in.
+    std::ptrdiff_t slot = 0;
+    Factory factory = nullptr;
+    std::vector<std::ptrdiff_t> ownedIvars;
+    long liveCount = 0;
 
-static StandIn** slotOf(id object)
-{
-    std::ptrdiff_t offset = object ? slotOffset(object_getClass(object)) : 0;
-    return offset ? reinterpret_cast<StandIn**>(reinterpret_cast<char*>(object) + offset) : nullptr;
-}
+    StandIn*& standInOf(id object) const
+    {
+        return *reinterpret_cast<StandIn**>(reinterpret_cast<char*>(object) + slot);
+    }
+};
 
 [[noreturn]] static void explain(const char* name, const char* problem, const char* advice)
 {
     std::fprintf(stderr, "lyr: cannot register class %s: %s %s\n", name, problem, advice);
     std::abort();
 }
+
+StandInRegistry::StandInRegistry() = default;
+StandInRegistry::~StandInRegistry() = default;
 
 StandInRegistry& StandInRegistry::shared()
 {
@@ -76,66 +72,85 @@ void StandInRegistry::close(Class type)
     objc_registerClassPair(type);
 }
 
-const StandInRegistry::Entry* StandInRegistry::entryFor(Class type) const
+StandInRegistry::Kind StandInRegistry::kindOf(Class type) const
 {
+    Kind kind;
+    kind.name = class_getName(type);
+    Ivar slot = class_getInstanceVariable(type, standInVariable);
+    kind.slot = slot ? ivar_getOffset(slot) : 0;
     for (; type; type = class_getSuperclass(type)) {
         auto found = entries_.find(type);
-        if (found != entries_.end())
-            return &found->second;
+        if (found == entries_.end())
+            continue;
+        if (!kind.factory)
+            kind.factory = found->second.factory;
+        for (const std::string& name : found->second.ownedIvars)
+            kind.ownedIvars.push_back(ivar_getOffset(class_getInstanceVariable(type, name.c_str())));
     }
-    return nullptr;
+    return kind;
+}
+
+StandInRegistry::Kind& StandInRegistry::kind(Class type)
+{
+    struct Recent {
+        Class type;
+        Kind* kind;
+    };
+    static std::array<Recent, 256> recent{};
+    Recent& place = recent[(reinterpret_cast<std::uintptr_t>(type) >> 5) % recent.size()];
+    if (place.type != type) {
+        StandInRegistry& registry = shared();
+        auto& known = registry.kinds_[type];
+        if (!known)
+            known = std::make_unique<Kind>(registry.kindOf(type));
+        place = {type, known.get()};
+    }
+    return *place.kind;
 }
 
 id StandInRegistry::allocate(Class type, SEL, void* zone)
 {
-    StandInRegistry& registry = shared();
-    const Entry* entry = registry.entryFor(type);
+    Kind& kind = StandInRegistry::kind(type);
     id object = NSAllocateObject(type, 0, zone);
-    std::unique_ptr<StandIn> standIn = entry->factory();
+    std::unique_ptr<StandIn> standIn = kind.factory();
     standIn->object_ = object;
-    *slotOf(object) = standIn.release();
-    ++registry.live_[class_getName(type)];
+    kind.standInOf(object) = standIn.release();
+    ++kind.liveCount;
     return object;
 }
 
 void StandInRegistry::deallocate(id object, SEL)
 {
-    StandInRegistry& registry = shared();
-    --registry.live_[class_getName(object_getClass(object))];
-    delete *slotOf(object);
-    registry.releaseOwnedIvars(object);
+    Kind& kind = StandInRegistry::kind(object_getClass(object));
+    --kind.liveCount;
+    delete kind.standInOf(object);
+    for (const std::ptrdiff_t offset : kind.ownedIvars)
+        ObjC::release(*reinterpret_cast<id*>(reinterpret_cast<char*>(object) + offset));
     NSDeallocateObject(object);
-}
-
-void StandInRegistry::releaseOwnedIvars(id object)
-{
-    for (Class type = object_getClass(object); type; type = class_getSuperclass(type)) {
-        auto found = entries_.find(type);
-        if (found == entries_.end())
-            continue;
-        for (const std::string& name : found->second.ownedIvars)
-            ObjC::release(ObjC::InstanceVariable<id>(object, name.c_str()).get());
-    }
 }
 
 long StandInRegistry::liveCount(const std::string& className) const
 {
-    auto found = live_.find(className);
-    return found == live_.end() ? 0 : found->second;
+    long total = 0;
+    for (const auto& [type, kind] : kinds_)
+        total += kind->name == className ? kind->liveCount : 0;
+    return total;
 }
 
 long StandInRegistry::liveCount() const
 {
     long total = 0;
-    for (const auto& [name, count] : live_)
-        total += count;
+    for (const auto& [type, kind] : kinds_)
+        total += kind->liveCount;
     return total;
 }
 
 StandIn* StandInRegistry::find(id object)
 {
-    StandIn** slot = slotOf(object);
-    return slot ? *slot : nullptr;
+    if (!object)
+        return nullptr;
+    const Kind& kind = StandInRegistry::kind(object_getClass(object));
+    return kind.slot ? kind.standInOf(object) : nullptr;
 }
 
 }

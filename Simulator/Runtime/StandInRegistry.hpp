@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace Simulator {
@@ -30,6 +31,9 @@ public:
     static StandIn* find(id object);
 
 private:
+    StandInRegistry();
+    ~StandInRegistry();
+
     static id allocate(Class type, SEL command, void* zone);
     static void deallocate(id object, SEL command);
 
@@ -37,11 +41,12 @@ private:
         Factory factory;
         std::vector<std::string> ownedIvars;
     };
-    const Entry* entryFor(Class type) const;
-    void releaseOwnedIvars(id object);
+    struct Kind;
+    static Kind& kind(Class type);
+    Kind kindOf(Class type) const;
 
     std::map<Class, Entry> entries_;
-    std::map<std::string, long> live_;
+    std::unordered_map<Class, std::unique_ptr<Kind>> kinds_;
 };
 
 }

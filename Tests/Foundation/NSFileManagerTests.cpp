@@ -91,6 +91,24 @@ TEST_F(NSFileManager, DataComesFromAndGoesToThePhone)
     EXPECT_FALSE(NS::Data::dataWithBytes("abc", 3).writeToFile(nullptr, true));
 }
 
+TEST_F(NSFileManager, DataKeepsWhatItsFileHeld)
+{
+    files.put("/Library/x", "abc");
+    const auto data = NS::Data::dataWithContentsOfFile("/Library/x"_ns);
+    const auto own = ObjC::sendMessage<NS::Data>(reinterpret_cast<id>(objc_getClass("NSMutableData")),
+        ObjC::selector<"dataWithContentsOfFile:">(), "/Library/x"_ns);
+    own.send<void, "setLength:">(2UL);
+    files.put("/Library/x", "xyz");
+    EXPECT_EQ(bytes(data), "abc");
+    EXPECT_EQ(bytes(own), "ab");
+    EXPECT_EQ(bytes(data.send<NS::Data, "copy">()), "abc");
+    EXPECT_EQ(bytes(data.send<NS::Data, "mutableCopy">()), "abc");
+    EXPECT_TRUE((data.send<bool, "isEqualToData:">(NS::Data::dataWithBytes("abc", 3))));
+    EXPECT_EQ(bytes(NS::Data::dataWithContentsOfFile("/Library/x"_ns)), "xyz");
+    files.put("/Library/empty", "");
+    EXPECT_EQ((NS::Data::dataWithContentsOfFile("/Library/empty"_ns).length()), 0u);
+}
+
 TEST_F(NSFileManager, DataThatCannotBeReadIsNilWithoutAWord)
 {
     testing::internal::CaptureStderr();

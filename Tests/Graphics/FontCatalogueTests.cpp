@@ -71,6 +71,42 @@ TEST(FontCatalogue, RegistersEveryFaceOfACollection)
     EXPECT_EQ(catalogue.find("Quicksand-Light")->faceIndex(), 1);
 }
 
+// A font that is read in parts, and how much of it was read.
+struct Parts {
+    Bytes bytes;
+    std::size_t copied = 0;
+    FontParts reader()
+    {
+        return {bytes.size(), [this](std::size_t offset, std::span<std::byte> part) {
+                    const std::size_t count = std::min(part.size(), bytes.size() - std::min(bytes.size(), offset));
+                    std::copy_n(bytes.begin() + static_cast<std::ptrdiff_t>(offset), count, part.begin());
+                    copied += count;
+                    return count;
+                }};
+    }
+};
+
+TEST(FontCatalogue, RegistersAFileOfWhichOnlyPartsAreRead)
+{
+    FontCatalogue inParts({});
+    FontCatalogue whole({});
+    Parts parts{read(latoBlack)};
+    EXPECT_EQ(inParts.registerFile(latoBlack, parts.reader()).postScriptNames, std::vector<std::string>{"Lato-Black"});
+    EXPECT_LT(parts.copied, parts.bytes.size() / 2);
+    whole.registerFile(latoBlack);
+    EXPECT_EQ(inParts.find("Lato-Black")->ascender(10), whole.find("Lato-Black")->ascender(10));
+    EXPECT_EQ(inParts.find("Lato-Black")->capHeight(10), whole.find("Lato-Black")->capHeight(10));
+    EXPECT_EQ(inParts.registerFile(latoBlack, parts.reader()).error, RegistrationError::AlreadyRegistered);
+    const Bytes fonts[] = {read(latoHairline), read(quicksand)};
+    Parts two{collection(fonts)};
+    EXPECT_EQ(inParts.registerFile(quicksand, two.reader()).postScriptNames,
+        (std::vector<std::string>{"Lato-Hairline", "Quicksand-Light"}));
+    Parts noise{Bytes(1'000, std::byte{7})};
+    EXPECT_EQ(inParts.registerFile(latoHairline, noise.reader()).error, RegistrationError::Invalid);
+    Parts empty;
+    EXPECT_EQ(inParts.registerFile(latoHairline, empty.reader()).error, RegistrationError::Invalid);
+}
+
 TEST(FontCatalogue, ForgetsAnUnregisteredFileAndTakesItAgain)
 {
     FontCatalogue catalogue({});

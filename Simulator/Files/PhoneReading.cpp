@@ -1,0 +1,105 @@
+// The phone's files as bytes: all of them at once, or as a content that is shared and read when it is asked for.
+#include "Simulator/Files/PhoneFiles.hpp"
+
+#include "Simulator/Files/Descriptor.hpp"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace Simulator {
+
+namespace {
+
+FileResult<std::string> readAll(int descriptor, std::size_t length)
+{
+    std::string bytes(length, '\0');
+    std::size_t filled = 0;
+    while (filled < length) {
+        const ssize_t count = ::read(descriptor, bytes.data() + filled, length - filled);
+        if (count == 0)
+            break;
+        if (count < 0 && errno != EINTR)
+            return {{}, errno};
+        filled += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
+    }
+    bytes.resize(filled);
+    return {std::move(bytes), 0};
+}
+
+struct OpenFile {
+    Descriptor descriptor{-1};
+    struct stat status { };
+    std::size_t size() const { return static_cast<std::size_t>(status.st_size); }
+};
+
+// A plain file; nothing else can be read.
+FileResult<OpenFile> plainFile(Descriptor descriptor)
+{
+    OpenFile file;
+    if (!descriptor || ::fstat(descriptor.number(), &file.status) != 0)
+        return {{}, errno};
+    if (!S_ISREG(file.status.st_mode))
+        return {{}, S_ISDIR(file.status.st_mode) ? EISDIR : EINVAL};
+    file.descriptor = std::move(descriptor);
+    return {std::move(file), 0};
+}
+
+}
+
+FileResult<Descriptor> PhoneFiles::openToRead(std::string_view phonePath) const
+{
+    // Never blocks, should the path be a pipe.
+    constexpr int flags = O_RDONLY | O_NONBLOCK | O_CLOEXEC;
+    const auto path = plainHostPath(phonePath);
+    if (!path)
+        return {Descriptor(-1), path.error};
+    if (auto file = openInside(path.value, flags))
+        return {std::move(file), 0};
+    const auto host = safeHostPath(phonePath);
+    if (!host)
+        return {Descriptor(-1), host.error};
+    Descriptor file(::open(host.value.c_str(), flags));
+    const int error = file ? 0 : errno;
+    return {std::move(file), error};
+}
+
+FileResult<std::string> PhoneFiles::read(std::string_view phonePath) const
+{
+    if (const int error = fault(phonePath, FileOperation::Read))
+        return {{}, error};
+    return fetch(phonePath);
+}
+
+FileResult<std::string> PhoneFiles::fetch(std::string_view phonePath) const
+{
+    auto opened = openToRead(phonePath);
+    const auto file = opened ? plainFile(std::move(opened.value)) : FileResult<OpenFile>{{}, opened.error};
+    return file ? readAll(file.value.descriptor.number(), file.value.size()) : FileResult<std::string>{{}, file.error};
+}
+
+FileResult<PhoneFiles::Content> PhoneFiles::load(std::string_view phonePath) const
+{
+    if (const int error = fault(phonePath, FileOperation::Read))
+        return {{}, error};
+    auto opened = openToRead(phonePath);
+    auto file = opened ? plainFile(std::move(opened.value)) : FileResult<OpenFile>{{}, opened.error};
+    if (!file)
+        return {{}, file.error};
+    const struct stat& status = file.value.status;
+    if (!RecentContents::suits(status)) {
+        const auto bytes = readAll(file.value.descriptor.number(), file.value.size());
+        return {bytes ? std::make_shared<const FileContent>(bytes.value) : nullptr, bytes.error};
+    }
+    auto content = _recent.find(status);
+    if (!content) {
+        content = std::make_shared<const FileContent>(std::move(file.value.descriptor), file.value.size());
+        _recent.add(status, content);
+    }
+    return {std::move(content), 0};
+}
+
+}
