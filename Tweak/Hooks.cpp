@@ -7,6 +7,7 @@
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
 #include "Tweak/CoverSheet/CoverSheetHooks.hpp"
 #include "Tweak/Editor/Pickers.hpp"
+#include "Tweak/Lifecycle/LifecycleHooks.hpp"
 
 namespace LYR {
 
@@ -65,7 +66,7 @@ std::span<const HookRow> mainHooks()
         hooked<"CSCoverSheetViewController", "_transitionChargingViewToVisible:showBattery:animated:",
             CSCoverSheetViewController_transitionChargingView>(),
         hooked<"CSCoverSheetViewController", "viewWillAppear:", CSCoverSheetViewController_viewWillAppear>(),
-        forwarded<"CSCoverSheetViewController", "viewWillDisappear:", void, bool>(),
+        hooked<"CSCoverSheetViewController", "viewWillDisappear:", CSCoverSheetViewController_viewWillDisappear>(),
         added<"CSCoverSheetViewController", "requestUpdateWidget", CSCoverSheetViewController_requestUpdateWidget>(),
         forwarded<"CSCoverSheetViewController", "viewDidLoad", void>(),
         coverSheetAction<"didPressButtonCL:">(),
@@ -124,18 +125,19 @@ std::span<const HookRow> mainHooks()
             "viewWillDisappear:", SBFLockScreenDateViewController_viewWillDisappear>(),
         added<"SBFLockScreenDateViewController", "requestUpdateTime",
             SBFLockScreenDateViewController_requestUpdateTime>(),
-        forwarded<"SBHomeScreenViewController", "viewWillAppear:", void, bool>(),
-        forwarded<"SpringBoard", "didReceiveMemoryWarning", void>(),
-        forwarded<"SpringBoard", "frontDisplayDidChange:", void, Object>(),
+        hooked<"SBHomeScreenViewController", "viewWillAppear:", SBHomeScreenViewController_viewWillAppear>(),
+        hooked<"SpringBoard", "didReceiveMemoryWarning", SpringBoard_didReceiveMemoryWarning>(),
+        hooked<"SpringBoard", "frontDisplayDidChange:", SpringBoard_frontDisplayDidChange>(),
         hooked<"SBFLockScreenDateSubtitleView", "didMoveToWindow", SBFLockScreenDateSubtitleView_didMoveToWindow>(),
         hooked<"SBFLockScreenDateSubtitleView", "setString:", SBFLockScreenDateSubtitleView_setString>(),
         hooked<"SBFLockScreenDateSubtitleDateView", "didMoveToWindow",
             SBFLockScreenDateSubtitleDateView_didMoveToWindow>(),
-        forwarded<"SBLockScreenTimerDialView", "didMoveToWindow", void>(),
-        forwarded<"SBLockScreenManager", "lockUIFromSource:withOptions:", void, int, Object>(),
-        reserved<"SBLockScreenManager", "requestUpdateWidget", void>(),
-        forwarded<"SBBacklightController", "turnOnScreenFullyWithBacklightSource:", void, long>(),
-        reserved<"SBBacklightController", "requestUpdateWidget", void>(),
+        hooked<"SBLockScreenTimerDialView", "didMoveToWindow", SBLockScreenTimerDialView_didMoveToWindow>(),
+        hooked<"SBLockScreenManager", "lockUIFromSource:withOptions:", SBLockScreenManager_lockUIFromSource>(),
+        added<"SBLockScreenManager", "requestUpdateWidget", SBLockScreenManager_requestUpdateWidget>(),
+        hooked<"SBBacklightController",
+            "turnOnScreenFullyWithBacklightSource:", SBBacklightController_turnOnScreenFully>(),
+        added<"SBBacklightController", "requestUpdateWidget", SBBacklightController_requestUpdateWidget>(),
     };
     return rows;
 }

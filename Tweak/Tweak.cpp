@@ -1,4 +1,5 @@
 // Start-up: runs once when the shell loads the library, before its user interface exists.
+#include "LYRLocalization/LYRLocalization.hpp"
 #include "Platform/Foundation/CFNotificationCenter.hpp"
 #include "Tweak/AFont.hpp"
 #include "Tweak/Fonts.hpp"
@@ -40,6 +41,7 @@ __attribute__((constructor)) void start()
 {
     ObjC::AutoreleasePool pool;
     registerWKSPalette();
+    registerLYRLocalization();
     loadAFont();
     // Brings the weather classes into the process.
     dlopen("/System/Library/PrivateFrameworks/Weather.framework/Weather", RTLD_LAZY);

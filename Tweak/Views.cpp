@@ -18,7 +18,6 @@ constinit ObjC::Variable<UI::Color> _secondaryWallColor;
 
 constinit bool isTimerRunning = false;
 
-constinit ObjC::Variable<NS::Timer> _timer;
-constinit double _startTime = 0;
+constinit ObjC::Variable<UI::View> _widgetView;
 
 }

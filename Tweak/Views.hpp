@@ -1,7 +1,6 @@
 // The views and run-time state that the subjects of the extension share. Main thread only.
 #pragma once
 
-#include "Platform/Foundation/NSTimer.hpp"
 #include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
 #include "Platform/UIKit/UILabel.hpp"
 
@@ -27,9 +26,8 @@ extern constinit ObjC::Variable<UI::Color> _secondaryWallColor;
 /// The stock subtitle shows a running timer.
 extern constinit bool isTimerRunning;
 
-/// The kick-off of the clock when the date view appears, and when it was started (seconds since 2001).
-extern constinit ObjC::Variable<NS::Timer> _timer;
-extern constinit double _startTime;
+/// The strip of widgets under the clock; nil until it is built.
+extern constinit ObjC::Variable<UI::View> _widgetView;
 
 /// Keeps a view under its variable's name, which is also how user-interface tests address it.
 template <class T>

@@ -1,7 +1,7 @@
 // The user's language and region.
 #pragma once
 
-#include "Platform/Foundation/NSString.hpp"
+#include "Platform/Foundation/NSDictionary.hpp"
 
 namespace NS {
 
@@ -10,6 +10,13 @@ public:
     using Class_::Class_;
 
     static Locale currentLocale() { return sendClass<Locale, "currentLocale">(); }
+    /// The user's languages, the most preferred first.
+    static Array preferredLanguages() { return sendClass<Array, "preferredLanguages">(); }
+    /// Language, script and region of an identifier, each under its key.
+    static Dictionary componentsFromLocaleIdentifier(const String& identifier)
+    {
+        return sendClass<Dictionary, "componentsFromLocaleIdentifier:">(identifier);
+    }
     String localeIdentifier() const { return send<String, "localeIdentifier">(); }
 };
 

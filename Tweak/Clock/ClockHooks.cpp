@@ -4,23 +4,13 @@
 #include "Platform/ObjC/Hook.hpp"
 #include "Tweak/Clock/ClockLabels.hpp"
 #include "Tweak/Clock/ClockText.hpp"
+#include "Tweak/Lifecycle/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/Views.hpp"
 
 namespace LYR {
 
 namespace {
-
-double now()
-{
-    return NS::Date::date().timeIntervalSinceReferenceDate();
-}
-
-void stopTimer(const ObjC::Variable<NS::Timer>& timer)
-{
-    if (timer->isValid())
-        timer->invalidate();
-}
 
 void refreshFully(const SB::FLockScreenDateViewController& controller)
 {
@@ -101,7 +91,7 @@ void SBFLockScreenDateViewController_viewWillAppear(SB::FLockScreenDateViewContr
 void SBFLockScreenDateViewController_viewWillDisappear(SB::FLockScreenDateViewController self, SEL cmd, bool animated)
 {
     stock<SBFLockScreenDateViewController_viewWillDisappear>(self, cmd, animated);
-    stopTimer(_timer);
+    stopAllTimers();
 }
 
 void SBFLockScreenDateViewController_updateTime(SB::FLockScreenDateViewController self, SEL)

@@ -1,29 +1,34 @@
 #include "Tweak/CoverSheet/CoverSheetHooks.hpp"
 
-#include "Platform/Companions/WeatherApp.hpp"
-#include "Platform/Foundation/Dispatch.hpp"
 #include "Platform/ObjC/Hook.hpp"
+#include "Tweak/CoverSheet/AdjustmentHooks.hpp"
+#include "Tweak/Lifecycle/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/Views.hpp"
 
 namespace LYR {
 
-static void updateTimeAfterMilliseconds(std::int64_t delay)
-{
-    Dispatch::afterMilliseconds(delay, nullptr, [](void*) { dateView->updateTime(); });
-}
-
 void CSCoverSheetViewController_viewWillAppear(CS::CoverSheetViewController self, SEL cmd, bool animated)
 {
     stock<CSCoverSheetViewController_viewWillAppear>(self, cmd, animated);
-    Weather::WeatherApp::sharedManager().refreshWeatherData();
+    stopTimer(_timerLastLook);
+    _widgetView->setAlpha(1);
+    refreshWeather();
     if (_showWidget)
-        updateTimeAfterMilliseconds(500);
+        updateDateViewAfterMilliseconds(500);
+}
+
+void CSCoverSheetViewController_viewWillDisappear(CS::CoverSheetViewController self, SEL cmd, bool animated)
+{
+    stock<CSCoverSheetViewController_viewWillDisappear>(self, cmd, animated);
+    for (const auto* timer : {&_timerWidget, &_timerLock, &_timer, &_timerLastLook})
+        stopTimer(*timer);
+    _notifVC->scrollView().setHidden(false);
 }
 
 void CSCoverSheetViewController_requestUpdateWidget(CS::CoverSheetViewController, SEL)
 {
-    updateTimeAfterMilliseconds(1000);
+    updateDateViewAfterMilliseconds(1000);
 }
 
 }

@@ -3,6 +3,7 @@
 #include "Platform/Foundation/NSDate.hpp"
 #include "Platform/Foundation/NSDictionary.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
+#include "Platform/Foundation/NSTimer.hpp"
 #include "Platform/UIKit/UIView.hpp"
 #include "Simulator/Control/Domains/LocalTime.hpp"
 #include "Simulator/Control/Types.hpp"
@@ -68,6 +69,8 @@ Json jsonOfOther(const NS::Object& object)
         {"description", textOf(object.send<NS::String, "description">())}};
     if (auto identifier = object.as<UI::View>().accessibilityIdentifier())
         json["id"] = textOf(identifier);
+    if (auto timer = object.as<NS::Timer>())
+        json["valid"] = timer.isValid();
     return json;
 }
 

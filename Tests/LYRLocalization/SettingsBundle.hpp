@@ -1,0 +1,76 @@
+// The settings bundle as it is delivered: pages of cells, and the texts of each language.
+#pragma once
+
+#include "Platform/Foundation/NSDictionary.hpp"
+#include "Tests/Foundation/FoundationTest.hpp"
+
+#include <nlohmann/json.hpp>
+
+#include <fstream>
+#include <functional>
+#include <set>
+#include <sstream>
+#include <vector>
+
+namespace LYR {
+
+inline const std::vector<std::string> languages
+    = {"en", "fr", "de", "es", "it", "pt", "ru", "he", "ar", "ja", "zh-hans", "zh-hant"};
+inline const std::vector<std::string> pageNames = {"Root", "subTime", "subDate", "subWidget"};
+
+class SettingsBundle : public Simulator::FoundationTest {
+protected:
+    using Json = nlohmann::json;
+
+    /// A file of the bundle as text; the JSON of a language by its name.
+    static std::string read(const std::string& name)
+    {
+        std::ifstream file(std::string(LYR_SETTINGS_BUNDLE "/") + name, std::ios::binary);
+        std::ostringstream bytes;
+        bytes << file.rdbuf();
+        return bytes.str();
+    }
+    static Json texts(const std::string& language) { return Json::parse(read(language + ".json")); }
+
+    /// A page as the phone reads it.
+    NS::Dictionary page(const std::string& name)
+    {
+        const std::string path = "/Library/" + name + ".plist";
+        files.put(path, read(name + ".plist"));
+        return NS::Dictionary::dictionaryWithContentsOfFile(Simulator::stringOf(path));
+    }
+    static std::vector<NS::Dictionary> cellsOf(const NS::Dictionary& page)
+    {
+        return elementsOf<NS::Dictionary>(page.objectForKey<NS::Array>("items"_ns));
+    }
+    std::vector<NS::Dictionary> allCells()
+    {
+        std::vector<NS::Dictionary> cells;
+        for (const std::string& name : pageNames)
+            for (const NS::Dictionary& cell : cellsOf(page(name)))
+                cells.push_back(cell);
+        return cells;
+    }
+
+    template <class T>
+    static std::vector<T> elementsOf(const NS::Array& array)
+    {
+        std::vector<T> elements;
+        for (unsigned long i = 0; i < array.count(); ++i)
+            elements.push_back(array.at<T>(i));
+        return elements;
+    }
+    static std::string text(const NS::Dictionary& cell, const char* key)
+    {
+        return Simulator::textOf(cell.objectForKey<NS::String>(Simulator::stringOf(key)));
+    }
+    static std::vector<std::string> list(const NS::Dictionary& cell, const char* key)
+    {
+        std::vector<std::string> result;
+        for (const NS::String& element : elementsOf<NS::String>(cell.objectForKey<NS::Array>(Simulator::stringOf(key))))
+            result.push_back(Simulator::textOf(element));
+        return result;
+    }
+};
+
+}

@@ -1,0 +1,169 @@
+// The settings pages against the table of settings: every cell shows a setting that exists, with its default.
+#include "SettingsBundle.hpp"
+
+#include "Platform/Foundation/NSNumber.hpp"
+#include "Tweak/Settings.hpp"
+
+#include <algorithm>
+#include <map>
+#include <variant>
+
+namespace LYR {
+namespace {
+
+using Default = std::variant<bool, std::string>;
+
+/// The settings that something reads, with their defaults.
+std::map<std::string, Default> settings()
+{
+    std::map<std::string, Default> table;
+#define LYR_FLAG_ROW(variable, key, fallback) table[key] = fallback;
+#define LYR_OBJECT_ROW(variable, key, fallback) table[key] = std::string(fallback);
+    LYR_SETTINGS(LYR_FLAG_ROW, LYR_OBJECT_ROW)
+#undef LYR_FLAG_ROW
+#undef LYR_OBJECT_ROW
+    for (const char* unread : {"amountEvent", "hlOption", "Ymedia", "listFont", "listFont2"})
+        table.erase(unread);
+    return table;
+}
+
+class SettingsPages : public SettingsBundle {
+protected:
+    static NS::Object value(const NS::Dictionary& cell, const char* key)
+    {
+        return cell.objectForKey<NS::Object>(Simulator::stringOf(key));
+    }
+    static Default defaultOf(const NS::Dictionary& cell)
+    {
+        if (value(cell, "default").is<NS::Number>())
+            return value(cell, "default").as<NS::Number>().boolValue();
+        return text(cell, "default");
+    }
+    static double number(const NS::Dictionary& cell, const char* key)
+    {
+        return value(cell, key).as<NS::Number>().doubleValue();
+    }
+    std::vector<NS::Dictionary> cells(const std::string& kind)
+    {
+        std::vector<NS::Dictionary> found;
+        for (const NS::Dictionary& cell : allCells())
+            if (text(cell, "cell") == kind)
+                found.push_back(cell);
+        return found;
+    }
+    static NS::Dictionary colourOf(const NS::Dictionary& holder)
+    {
+        return holder.objectForKey<NS::Dictionary>("libsparkcolourpicker"_ns);
+    }
+};
+
+TEST_F(SettingsPages, ShowEverySettingOnceWithItsDefault)
+{
+    std::map<std::string, Default> shown;
+    for (const NS::Dictionary& cell : allCells()) {
+        const std::string key = text(cell, "key");
+        if (key.empty())
+            continue;
+        EXPECT_TRUE(shown.emplace(key, defaultOf(cell)).second) << key << " is shown twice";
+        EXPECT_EQ(text(cell, "defaults"), "com.ostrel.lyrprefs") << key;
+        EXPECT_EQ(text(cell, "PostNotification"), "com.ostrel.lyrprefs/ReloadPrefs") << key;
+    }
+    EXPECT_EQ(shown.size(), 50u);
+    EXPECT_EQ(shown, settings());
+}
+
+TEST_F(SettingsPages, UseACellThatFitsTheKindOfTheSetting)
+{
+    for (const NS::Dictionary& cell : allCells()) {
+        const std::string key = text(cell, "key");
+        if (key.empty())
+            continue;
+        const std::string kind = text(cell, "cell");
+        const bool isFlag = std::holds_alternative<bool>(settings().at(key));
+        const std::set<std::string> kinds = {"PSLinkListCell", "PSSliderCell", "PSEditTextCell"};
+        EXPECT_EQ(kind == "PSSwitchCell", isFlag) << key;
+        EXPECT_EQ(kinds.contains(kind), !isFlag) << key << " has a " << kind;
+    }
+}
+
+TEST_F(SettingsPages, HaveListsWithATitleForEachChoiceAndTheDefaultAmongThem)
+{
+    const auto lists = cells("PSLinkListCell");
+    EXPECT_FALSE(lists.empty());
+    for (const NS::Dictionary& cell : lists) {
+        const auto values = list(cell, "validValues");
+        EXPECT_EQ(list(cell, "validTitles").size(), values.size()) << text(cell, "key");
+        EXPECT_EQ(std::ranges::count(values, text(cell, "default")), 1) << text(cell, "key");
+        EXPECT_EQ(std::set(values.begin(), values.end()).size(), values.size()) << text(cell, "key");
+        EXPECT_EQ(text(cell, "detail"), "PSListItemsController") << text(cell, "key");
+    }
+}
+
+TEST_F(SettingsPages, OfferTheCodesThatTheLockScreenKnows)
+{
+    const std::map<std::string, std::vector<std::string>> codes = {{"highLowOption", {"0", "1"}},
+        {"sunOption", {"1", "2", "3", "4"}}, {"battOption", {"1", "2", "3"}}, {"styleDate", {"1", "2", "3", "4"}},
+        {"alternateOption", {"1", "2", "3", "4"}}, {"dateOption", {"0", "1", "2", "3", "4", "5", "6", "7"}},
+        {"alignTime", {"1", "2", "3"}}, {"alignDate", {"1", "2", "3"}}, {"customFont", {"1", "2", "3", "4", "5"}},
+        {"colorTime", {"1", "2", "3", "4"}}, {"colorDate", {"1", "2", "3", "4"}}};
+    std::map<std::string, std::vector<std::string>> offered;
+    for (const NS::Dictionary& cell : cells("PSLinkListCell"))
+        if (codes.contains(text(cell, "key")))
+            offered[text(cell, "key")] = list(cell, "validValues");
+    EXPECT_EQ(offered, codes);
+}
+
+TEST_F(SettingsPages, HaveSlidersThatReachTheirDefault)
+{
+    const auto sliders = cells("PSSliderCell");
+    EXPECT_FALSE(sliders.empty());
+    for (const NS::Dictionary& cell : sliders) {
+        const double start = cell.objectForKey<NS::String>("default"_ns).doubleValue();
+        EXPECT_LT(number(cell, "min"), number(cell, "max")) << text(cell, "key");
+        EXPECT_GE(start, number(cell, "min")) << text(cell, "key");
+        EXPECT_LE(start, number(cell, "max")) << text(cell, "key");
+        EXPECT_TRUE(value(cell, "showValue").as<NS::Number>().boolValue()) << text(cell, "key");
+    }
+}
+
+TEST_F(SettingsPages, OfferEveryColourOfTheColourFile)
+{
+    std::set<std::string> keys;
+    for (const NS::Dictionary& cell : allCells()) {
+        auto colour = colourOf(cell);
+        if (!colour)
+            continue;
+        keys.insert(text(colour, "key"));
+        EXPECT_EQ(text(colour, "defaults"), "com.ostrel.colorslyr");
+        EXPECT_EQ(text(colour, "fallback"), "#ffffff");
+        EXPECT_EQ(text(colour, "PostNotification"), "com.ostrel.colorslyr/ReloadPrefs");
+        EXPECT_TRUE(value(colour, "alpha").as<NS::Number>().boolValue());
+    }
+    EXPECT_EQ(
+        keys, (std::set<std::string>{"colourTime", "colourDate", "colourWidget", "colourTextWidget", "colourShadow"}));
+}
+
+TEST_F(SettingsPages, KeepAFallbackThatTheColourWellsCanReplace)
+{
+    for (const char* name : {"subTime", "subDate", "subWidget"})
+        EXPECT_EQ(text(colourOf(page(name)), "fallback"), "#ffffff") << name;
+}
+
+TEST_F(SettingsPages, LinkToThePagesOfTheElements)
+{
+    std::vector<std::string> linked;
+    for (const NS::Dictionary& cell : cells("PSLinkCell"))
+        if (!text(cell, "id").empty())
+            linked.push_back(text(cell, "id"));
+    EXPECT_EQ(linked, std::vector<std::string>(pageNames.begin() + 1, pageNames.end()));
+}
+
+TEST_F(SettingsPages, HaveAButtonThatRestartsTheShell)
+{
+    const auto buttons = cells("PSButtonCell");
+    ASSERT_EQ(buttons.size(), 1u);
+    EXPECT_EQ(text(buttons[0], "PostNotification"), "com.ostrel.lyr/respring");
+}
+
+}
+}

@@ -1,0 +1,111 @@
+#include "Tweak/Lifecycle/LifecycleHooks.hpp"
+
+#include "Platform/ObjC/Hook.hpp"
+#include "Tweak/CoverSheet/AdjustmentHooks.hpp"
+#include "Tweak/Lifecycle/RefreshTimers.hpp"
+#include "Tweak/Settings.hpp"
+#include "Tweak/Views.hpp"
+
+namespace LYR {
+
+namespace {
+
+constexpr double minute = 60;
+constexpr double lastLookLimit = 5 * 60 * minute;
+constexpr std::int64_t widgetDelay = 10;
+
+/// Keeps the lock screen current for as long as LastLook shows it.
+void keepUpUnderLastLook(const SB::LockScreenManager& manager)
+{
+    _widgetView->setAlpha(1);
+    if (!_timerLastLook->isValid()) {
+        _timerLastLook = NS::Timer::scheduled(minute, manager, ObjC::selector<"requestUpdateWidget">(), true);
+        _startLastLook = now();
+        _timerLastLook->fire();
+    }
+    refreshWeather();
+}
+
+void showWidgets()
+{
+    _widgetView->setAlpha(1);
+    stopTimer(_timerLastLook);
+}
+
+}
+
+void SBHomeScreenViewController_viewWillAppear(UI::ViewController self, SEL cmd, bool animated)
+{
+    stock<SBHomeScreenViewController_viewWillAppear>(self, cmd, animated);
+    stopAllTimers();
+}
+
+void SpringBoard_didReceiveMemoryWarning(UI::Responder self, SEL cmd)
+{
+    stock<SpringBoard_didReceiveMemoryWarning>(self, cmd);
+    stopAllTimers();
+}
+
+void SpringBoard_frontDisplayDidChange(UI::Responder self, SEL cmd, NS::Object application)
+{
+    stock<SpringBoard_frontDisplayDidChange>(self, cmd, application);
+    if (_enabled && application)
+        stopAllTimers();
+}
+
+// The stock dial never shows: the clock has a timer line of its own.
+void SBLockScreenTimerDialView_didMoveToWindow(UI::View self, SEL cmd)
+{
+    self.removeFromSuperview();
+    stock<SBLockScreenTimerDialView_didMoveToWindow>(self, cmd);
+}
+
+void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, int source, NS::Object options)
+{
+    stock<SBLockScreenManager_lockUIFromSource>(self, cmd, source, options);
+    coverView->send<void, "doneButton:">(ObjC::Object());
+    stopTimer(_timer);
+    stopTimer(_timerWidget);
+    _screenOn = false;
+    if (isLastLookInstalled() && _showWidgetLastLook)
+        keepUpUnderLastLook(self);
+    else {
+        _widgetView->setAlpha(0);
+        stopTimer(_timerLock);
+        stopTimer(_timerLastLook);
+    }
+    _dateBorderView->setHidden(true);
+    _timeBorderView->setHidden(true);
+}
+
+void SBLockScreenManager_requestUpdateWidget(SB::LockScreenManager, SEL)
+{
+    updateDateViewAfterMilliseconds(widgetDelay);
+    if (now() - _startLastLook > lastLookLimit)
+        _timerLastLook->invalidate();
+}
+
+void SBBacklightController_turnOnScreenFully(SB::BacklightController self, SEL cmd, long source)
+{
+    stock<SBBacklightController_turnOnScreenFully>(self, cmd, source);
+    if (!SB::LockScreenManager::sharedInstance().isLockScreenVisible() || _screenOn)
+        return;
+    if (!_timerLock)
+        _timerLock = NS::Timer::scheduled(1.0, self, ObjC::selector<"requestUpdateWidget">(), false);
+    showWidgets();
+    _screenOn = true;
+    // The test is the opposite of the one at lock time.
+    if (!isLastLookInstalled() && _showWidgetLastLook)
+        showWidgets();
+    refreshWeather();
+}
+
+// What counts is the clock timer's start, not that of the timer that is stopped.
+void SBBacklightController_requestUpdateWidget(SB::BacklightController, SEL)
+{
+    updateDateViewAfterMilliseconds(widgetDelay);
+    if (now() - _startTime > 1.0)
+        _timerLock->invalidate();
+}
+
+}
