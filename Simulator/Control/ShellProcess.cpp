@@ -33,6 +33,7 @@ ShellProcess::ShellProcess(Shell& shell, Descriptor socket)
             {"state", anything()}}};
     _dispatcher.add(start, [this](const Json& parameters) {
         _shell.start(shellStartFrom(parameters));
+        _isStarted = true;
         return Json::object();
     });
     _shell.addMethods(_dispatcher);
@@ -49,7 +50,9 @@ int ShellProcess::run()
         if (!_channel.isOpen())
             return 0;
         waitForWork();
-        _shell.runDue();
+        // A long start message arrives piece by piece.
+        if (_isStarted)
+            _shell.runDue();
         if (_shell.wantsRelaunch()) {
             sayState();
             return relaunchStatus;

@@ -21,6 +21,7 @@ private:
     Shell& _shell;
     Channel _channel;
     Dispatcher _dispatcher;
+    bool _isStarted = false;
 };
 
 }

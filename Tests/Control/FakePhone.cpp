@@ -22,6 +22,7 @@ public:
     {
         const Json settings = start.parameters.value("settings", Json::object());
         _start = start;
+        _isStarted = true;
         if (start.state.is_object()) {
             _time = start.state.at("time");
             _notes = start.state.at("notes");
@@ -39,6 +40,8 @@ public:
 
     void runDue() override
     {
+        if (!_isStarted)
+            std::abort(); // there is nothing yet that could be due
         if (_later == "crash")
             std::raise(SIGSEGV);
         if (_later == "relaunch")
@@ -114,6 +117,7 @@ private:
     }
 
     ShellStart _start;
+    bool _isStarted = false;
     double _time = 0;
     Json _notes = Json::array();
     std::string _later;

@@ -37,6 +37,15 @@ TEST_F(SupervisorTest, TellsTheShellWhatItWasStartedWith)
     EXPECT_TRUE(std::filesystem::exists(start["root"].get<std::string>() + std::string(settingsPath)));
 }
 
+// It reaches the shell process piece by piece.
+TEST_F(SupervisorTest, StartsAPhoneWithMuchToTellIt)
+{
+    const std::string text(8'000'000, 'x');
+    call("phone.start", {{"settings", {{"timeFormat", text}}}});
+    EXPECT_EQ(call("phone.info")["starts"], 1);
+    EXPECT_EQ(call("fake.start")["parameters"]["settings"]["timeFormat"], text);
+}
+
 TEST_F(SupervisorTest, StopsThePhoneAndRemovesItsTemporaryRoot)
 {
     call("phone.start");
