@@ -7,8 +7,6 @@
 #include "Platform/Foundation/NSLocale.hpp"
 #include "Platform/ObjC/Method.hpp"
 
-#include <charconv>
-#include <iterator>
 #include <string_view>
 
 namespace LYR {
@@ -145,14 +143,6 @@ NS::String sharedStringForKey(ObjC::Object, SEL, ObjC::Object key)
     return LYRLocalization::sharedInstance().send<NS::String, "stringForKey:">(key);
 }
 
-template <class Number>
-NS::String decimalText(Number number)
-{
-    char buffer[24];
-    auto end = std::to_chars(std::begin(buffer), std::end(buffer), number).ptr;
-    return NS::String::fromUTF8({buffer, static_cast<std::size_t>(end - buffer)});
-}
-
 NS::String inArabicDigits(NS::String text)
 {
     for (const Digit& digit : digits)
@@ -166,7 +156,7 @@ NS::String sharedStringWithNumber(ObjC::Object, SEL, ObjC::Object key, Number nu
 {
     auto catalogue = LYRLocalization::sharedInstance();
     auto text = catalogue.send<NS::String, "stringForKey:">(key).stringByReplacingOccurrencesOfString(
-        "*"_ns, decimalText(number));
+        "*"_ns, NS::String::fromInteger(number));
     return catalogue.getLanguage().isEqualToString("ar"_ns) ? inArabicDigits(text) : text;
 }
 

@@ -19,20 +19,6 @@ using ObjC::hooked;
 using ObjC::HookRow;
 using ObjC::Object;
 
-/// An interception that changes nothing yet: the stock method runs as it is.
-template <FixedString className, FixedString selectorName, class Result, class... Arguments>
-Result forward(Object self, SEL cmd, Arguments... arguments)
-{
-    constexpr auto* function = &forward<className, selectorName, Result, Arguments...>;
-    return ObjC::stock<function>(self, cmd, arguments...);
-}
-
-template <FixedString className, FixedString selectorName, class Result, class... Arguments>
-HookRow forwarded()
-{
-    return hooked<className, selectorName, &forward<className, selectorName, Result, Arguments...>>();
-}
-
 /// An added method that does nothing yet. The name keeps one function apart from the other.
 template <FixedString selectorName, class Result, class... Arguments>
 Result silent(Object, SEL, Arguments...)
@@ -68,7 +54,7 @@ std::span<const HookRow> mainHooks()
         hooked<"CSCoverSheetViewController", "viewWillAppear:", CSCoverSheetViewController_viewWillAppear>(),
         hooked<"CSCoverSheetViewController", "viewWillDisappear:", CSCoverSheetViewController_viewWillDisappear>(),
         added<"CSCoverSheetViewController", "requestUpdateWidget", CSCoverSheetViewController_requestUpdateWidget>(),
-        forwarded<"CSCoverSheetViewController", "viewDidLoad", void>(),
+        hooked<"CSCoverSheetViewController", "viewDidLoad", CSCoverSheetViewController_viewDidLoad>(),
         coverSheetAction<"didPressButtonCL:">(),
         coverSheetAction<"didPressButtonCL2:">(),
         coverSheetAction<"showLongPress:">(),

@@ -11,12 +11,17 @@ inline UI::Image templateImage(const UI::Image& image)
     return image.imageWithRenderingMode(UI::ImageRenderingMode::alwaysTemplate);
 }
 
-/// The picture in a file by way of its PNG bytes, as a template; nil without one. Read anew each time.
-inline UI::Image templateFromPNG(const NS::String& path)
+/// The image by way of its PNG bytes, as a template; nil for nil.
+inline UI::Image templateThroughPNG(const UI::Image& picture)
 {
-    auto picture = UI::Image::imageNamed(path);
     return picture ? templateImage(UI::Image::imageWithData(NS::Data(UIImagePNGRepresentation(picture.raw()))))
                    : UI::Image();
+}
+
+/// A picture of the resource folder as a template; nil without one. Read anew each time.
+inline UI::Image resourceIcon(const NS::String& path)
+{
+    return templateThroughPNG(UI::Image::imageWithContentsOfFile(path));
 }
 
 }

@@ -3,6 +3,8 @@
 
 #include "Platform/Foundation/NSObject.hpp"
 
+#include <charconv>
+#include <iterator>
 #include <string_view>
 
 namespace NS {
@@ -18,6 +20,13 @@ public:
     {
         return make<"initWithBytes:length:encoding:">(
             static_cast<const void*>(text.data()), static_cast<unsigned long>(text.size()), StringEncoding::utf8);
+    }
+    /// The number in decimal digits.
+    static String fromInteger(long number)
+    {
+        char digits[24];
+        const char* end = std::to_chars(std::begin(digits), std::end(digits), number).ptr;
+        return fromUTF8({digits, static_cast<std::size_t>(end - digits)});
     }
     /// The text as UTF-8; it lives as long as the autorelease pool. Empty for nil.
     std::string_view utf8() const

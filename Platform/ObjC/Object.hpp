@@ -193,6 +193,7 @@ public:
     explicit operator bool() const { return object_ != nullptr; }
     id raw() const { return object_; }
     id* address() { return &object_; }
+    constexpr const id* address() const { return &object_; }
 
     /// What it holds as a handle in place, without a retain of its own.
     const T& reference() const

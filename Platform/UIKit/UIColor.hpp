@@ -13,6 +13,7 @@ public:
     static Color whiteColor() { return sendClass<Color, "whiteColor">(); }
     static Color blackColor() { return sendClass<Color, "blackColor">(); }
     static Color clearColor() { return sendClass<Color, "clearColor">(); }
+    static Color systemYellowColor() { return sendClass<Color, "systemYellowColor">(); }
     /// Components from 0 to 1.
     static Color colorWithRed(CGFloat red, CGFloat green, CGFloat blue, CGFloat alpha)
     {

@@ -34,6 +34,8 @@ public:
     long numberOfLines() const { return send<long, "numberOfLines">(); }
     void setNumberOfLines(long lines) const { send<void, "setNumberOfLines:">(lines); }
     void setAdjustsFontSizeToFitWidth(bool adjusts) const { send<void, "setAdjustsFontSizeToFitWidth:">(adjusts); }
+    /// The smallest part of the font's size that fitting the width may leave; 0 for as small as it takes.
+    void setMinimumScaleFactor(CGFloat factor) const { send<void, "setMinimumScaleFactor:">(factor); }
     void setLineBreakMode(LineBreakMode mode) const { send<void, "setLineBreakMode:">(mode); }
 };
 

@@ -32,6 +32,7 @@ public:
     Color tintColor() const { return send<Color, "tintColor">(); }
     void setTintColor(const Color& color) const { send<void, "setTintColor:">(color); }
     void setClipsToBounds(bool clips) const { send<void, "setClipsToBounds:">(clips); }
+    void setUserInteractionEnabled(bool enabled) const { send<void, "setUserInteractionEnabled:">(enabled); }
     CA::Layer layer() const { return send<CA::Layer, "layer">(); }
 
     View superview() const { return send<View, "superview">(); }

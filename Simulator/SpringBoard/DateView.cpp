@@ -12,6 +12,7 @@ namespace Simulator {
 
 namespace {
 
+constexpr double timeTop = 64;
 constexpr double timeFontSize = 80;
 constexpr double timeHeight = 96;
 constexpr double subtitleFontSize = 22;
@@ -93,8 +94,8 @@ void SBFLockScreenDateView::initWithFrame(CGRect frame)
 void SBFLockScreenDateView::layoutSubviews()
 {
     const double width = bounds().size.width;
-    ivar<UI::View>("_timeLabel").setFrame(CGRectMake(0, 0, width, timeHeight));
-    subtitleView.setFrame(CGRectMake(0, timeHeight, width, subtitleHeight));
+    ivar<UI::View>("_timeLabel").setFrame(CGRectMake(0, timeTop, width, timeHeight));
+    subtitleView.setFrame(CGRectMake(0, timeTop + timeHeight, width, subtitleHeight));
     timerDial.setFrame(CGRectMake(width / 2 - 60, (subtitleHeight - dialSize) / 2, dialSize, dialSize));
 }
 

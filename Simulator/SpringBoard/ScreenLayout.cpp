@@ -12,7 +12,8 @@ namespace {
 constexpr double leastTabletSide = 600;
 constexpr double leastTallAspect = 2;
 constexpr double dateMargin = 8;
-constexpr double dateHeight = 128;
+constexpr double dateTop = 28;
+constexpr double dateHeight = 196;
 constexpr double listWidthOnTablets = 640;
 constexpr double quickActionsHeight = 110;
 
@@ -34,21 +35,20 @@ CGRect ScreenLayout::statusBar() const
 
 CGRect ScreenLayout::padlock() const
 {
-    return hasHomeIndicator ? centred({19, 24}, CGRectMake(0, 48, size.width, 46)) : centred({10, 12}, statusBar());
+    return hasHomeIndicator ? centred({13, 16}, CGRectMake(0, 10, size.width, 20)) : centred({10, 12}, statusBar());
 }
 
 /// In the middle, as wide as an upright phone, also where the screen lies on its side.
 CGRect ScreenLayout::dateView() const
 {
     const double width = (size.width <= 501 ? size.width : size.height) - 2 * dateMargin;
-    const double top = hasHomeIndicator ? 96 : isTablet ? 64 : 36;
-    return CGRectMake((size.width - width) / 2, top, width, dateHeight);
+    return CGRectMake((size.width - width) / 2, dateTop, width, dateHeight);
 }
 
 CGRect ScreenLayout::notificationList() const
 {
     const CGRect date = dateView();
-    const double top = date.origin.y + date.size.height + (hasHomeIndicator ? 16 : 8);
+    const double top = date.origin.y + date.size.height + 8;
     const double width = std::min(size.width - 16, isTablet ? listWidthOnTablets : size.width);
     return CGRectMake((size.width - width) / 2, top, width, std::max(0.0, size.height - top));
 }

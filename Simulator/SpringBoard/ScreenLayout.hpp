@@ -17,6 +17,7 @@ struct ScreenLayout {
     CGRect bounds() const { return {{0, 0}, size}; }
     CGRect statusBar() const;
     CGRect padlock() const;
+    /// From below the status bar on; the stock clock stands in its lower part.
     CGRect dateView() const;
     /// From below the stock clock to the bottom.
     CGRect notificationList() const;

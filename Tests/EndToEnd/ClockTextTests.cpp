@@ -81,9 +81,9 @@ TEST(DateLine, OptionZeroIsTheDateAlone)
 TEST(DateLine, EveryOptionWithAValueForIt)
 {
     const std::string icon = std::string(" ") + attachment;
-    const std::vector<std::string> expected = {"Sun,Nov 15", "Sun,Nov 1521°" + icon, "Sun,Nov 1524° 15°" + icon,
+    const std::vector<std::string> expected = {"Sun,Nov 15", "Sun,Nov 1521°" + icon, "Sun,Nov 15H:24 L:15" + icon,
         "Sun,Nov 15Partly Cloudy" + icon, "Sun,Nov 15Haifa" + icon, "Sun,Nov 15 • Sun, 29 Rab. I 1442 AH",
-        "Sun,Nov 15" + icon + "6:30", "Sun,Nov 15" + icon + "Dentist"};
+        "Sun,Nov 15" + icon + "6:30 AM", "Sun,Nov 15" + icon + "9:30AM Dentist"};
     std::vector<std::string> lines;
     for (int option = 0; option < 8; ++option)
         lines.push_back(dateLine(fullPhone({{"dateOption", std::to_string(option)}})));
@@ -95,7 +95,7 @@ TEST(DateLine, EveryOptionWithoutAValueForIt)
     const std::string icon = std::string(" ") + attachment;
     const std::string dateAndIcon = "Sun,Nov 15" + icon;
     const std::vector<std::string> expected = {"Sun,Nov 15", dateAndIcon, dateAndIcon, dateAndIcon, dateAndIcon,
-        "Sun,Nov 15 • Sun, 29 Rab. I 1442 AH", dateAndIcon, dateAndIcon};
+        "Sun,Nov 15 • Sun, 29 Rab. I 1442 AH", dateAndIcon + "No Alarms", dateAndIcon + "No events today"};
     std::vector<std::string> lines;
     for (int option = 0; option < 8; ++option)
         lines.push_back(dateLineWith({{"dateOption", std::to_string(option)}}));

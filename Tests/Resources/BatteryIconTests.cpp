@@ -12,8 +12,8 @@ protected:
     static Icon level(int step) { return read(std::string("Battery16/") + GetParam() + std::to_string(step)); }
 };
 
-INSTANTIATE_TEST_SUITE_P(Battery, LevelIcons, testing::Values("Battery", "Charging", ""),
-    [](const auto& info) { return std::string(*info.param ? info.param : "Bar"); });
+INSTANTIATE_TEST_SUITE_P(Battery, LevelIcons, testing::Values("Battery", "Charging"),
+    [](const auto& info) { return std::string(info.param); });
 
 TEST_P(LevelIcons, FillMoreFromStepToStep)
 {
@@ -44,6 +44,16 @@ TEST(BatteryIcons, LeaveRoomForTheBolt)
     EXPECT_FALSE(overlap(read("Battery16/bolt"), read("Battery16/ChargingBG")));
     EXPECT_FALSE(overlap(read("Battery16/bolt"), read("Battery16/Charging100")));
     EXPECT_TRUE(overlap(read("Battery16/bolt"), read("Battery16/BG"))); // which is why there are two outlines
+}
+
+TEST(BatteryIcons, MakeTheBarAsLongAsItsStep)
+{
+    const Icon track = read("Battery16/Background");
+    for (const int step : levelSteps) {
+        const Icon bar = read("Battery16/" + std::to_string(step));
+        EXPECT_EQ(bar.width, track.width * step / 100) << step;
+        EXPECT_EQ(bar.rightEdge(), bar.width) << step;
+    }
 }
 
 TEST(BatteryIcons, LayTheFullBarOverTheWholeTrack)

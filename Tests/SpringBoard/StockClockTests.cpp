@@ -95,7 +95,7 @@ TEST_F(StockClock, IsLaidOutAtItsPlaceAlsoWhenScaled)
     clock.setTransform(CGAffineTransformMakeScale(0.8, 0.8));
     view("stock.coverSheet").setNeedsLayout();
     shell().commit();
-    EXPECT_EQ(clock.bounds(), CGRectMake(0, 0, 752, 128));
+    EXPECT_EQ(clock.bounds(), CGRectMake(0, 0, 752, 196));
     const CGRect place = this->place("stock.dateView");
     EXPECT_DOUBLE_EQ(place.origin.x + place.size.width / 2, 512);
 }

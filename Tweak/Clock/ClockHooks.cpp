@@ -7,6 +7,7 @@
 #include "Tweak/Lifecycle/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/Views.hpp"
+#include "Tweak/Widgets/Strip.hpp"
 
 namespace LYR {
 
@@ -15,9 +16,11 @@ namespace {
 void refreshFully(const SB::FLockScreenDateViewController& controller)
 {
     auto moment = NS::Date::date();
+    auto items = itemsAt(moment);
     auto time = timeText(moment);
     styleClockLabels(controller);
-    updateDateLine(moment);
+    refreshStrip(items);
+    updateDateLine(moment, items);
     settleTimerAndDate();
     _timeLabel->setText(time);
     applyClockVisibility();
@@ -26,6 +29,7 @@ void refreshFully(const SB::FLockScreenDateViewController& controller)
 void refreshQuickly(const SB::FLockScreenDateViewController&)
 {
     _timeLabel->setText(timeText(NS::Date::date()));
+    placeStrip();
 }
 
 /// Runs on the main queue with the controller that asked, which was kept alive until now.
@@ -53,7 +57,8 @@ void SBFLockScreenDateView_updateLabels(SB::FLockScreenDateView self, SEL cmd)
     stock<SBFLockScreenDateView_updateLabels>(self, cmd);
     auto moment = NS::Date::date();
     _timeLabel->setText(timeText(moment));
-    updateDateLine(moment);
+    placeStrip();
+    updateDateLine(moment, itemsAt(moment));
     settleTimerAndDate();
 }
 

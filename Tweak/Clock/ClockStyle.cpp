@@ -3,6 +3,7 @@
 
 #include "Platform/UIKit/UIImage.hpp"
 #include "Tweak/Clock/ScreenWidth.hpp"
+#include "Tweak/Clock/TextShadow.hpp"
 #include "Tweak/Fonts.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/Views.hpp"
@@ -102,23 +103,6 @@ void applyColours()
     applyColour(_dateLabel.reference(), _colorDate, date);
 }
 
-void applyShadow(const UI::Label& label, const UI::Color& colour, CGFloat radius, CGSize offset)
-{
-    auto layer = label.layer();
-    layer.setShadowOpacity(0.7f);
-    layer.setShadowColor(colour.CGColor());
-    layer.setShadowRadius(radius);
-    layer.setShadowOffset(offset);
-}
-
-/// Without a shadow its geometry is set all the same, in a clear colour.
-void applyShadows()
-{
-    auto colour = _shadowText ? storedColour("colourShadow"_ns) : UI::Color::clearColor();
-    applyShadow(_timeLabel.reference(), colour, 2.5, {1.0, 1.0});
-    applyShadow(_dateLabel.reference(), colour, 1.5, {0.4, 0.4});
-}
-
 }
 
 void styleClockLabels(const SB::FLockScreenDateViewController& controller)
@@ -132,7 +116,8 @@ void styleClockLabels(const SB::FLockScreenDateViewController& controller)
     applyAlignment(_alignTime, {&_timeLabel.reference()});
     applyAlignment(_alignDate, {&_dateLabel.reference(), &_timerLabel.reference()});
     applyColours();
-    applyShadows();
+    applyTextShadow(_timeLabel.reference(), largeTextShadow);
+    applyTextShadow(_dateLabel.reference(), smallTextShadow);
 }
 
 }

@@ -6,7 +6,6 @@
 #include "Tweak/Clock/DateLineIcon.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/Views.hpp"
-#include "Tweak/Widgets/Items.hpp"
 
 #include <array>
 
@@ -53,17 +52,17 @@ std::array<NS::String, 4> alternateDates(const NS::Date& moment)
     return dates;
 }
 
-DateLineTexts gatherTexts(const NS::Date& moment, const WeatherItems& weather)
+DateLineTexts gatherTexts(const NS::Date& moment, const Items& items)
 {
     DateLineTexts texts;
     texts.date = formattedGregorian(moment, _dateFormat.stringValue());
     texts.alternateDates = alternateDates(moment);
-    texts.temperature = weather.temperature;
-    texts.highLow = weather.highLow;
-    texts.condition = weather.condition;
-    texts.location = weather.location;
-    texts.alarm = nextAlarmText();
-    texts.event = firstEventText(moment);
+    texts.temperature = items.weather.temperature;
+    texts.highLow = items.weather.highLow;
+    texts.condition = items.weather.condition;
+    texts.location = items.weather.location;
+    texts.alarm = items.alarm.text();
+    texts.event = items.event;
     return texts;
 }
 
@@ -151,12 +150,11 @@ NS::String timeText(const NS::Date& moment)
     return formattedGregorian(moment, _twentyFourTime ? "H:mm"_ns : _timeFormat.stringValue());
 }
 
-void updateDateLine(const NS::Date& moment)
+void updateDateLine(const NS::Date& moment, const Items& items)
 {
-    WeatherItems weather = weatherItems();
-    DateLineTexts texts = gatherTexts(moment, weather);
+    DateLineTexts texts = gatherTexts(moment, items);
     if (applyStyle(texts, _styleDate.intValue()))
-        setDateLine(texts, weather);
+        setDateLine(texts, items.weather);
 }
 
 }

@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/NSDate.hpp"
 #include "Platform/Foundation/NSString.hpp"
+#include "Tweak/Widgets/Items.hpp"
 
 namespace LYR {
 
@@ -10,6 +11,6 @@ namespace LYR {
 NS::String timeText(const NS::Date& moment);
 
 /// Sets the date line. Settings that name no style or no option leave it as it is.
-void updateDateLine(const NS::Date& moment);
+void updateDateLine(const NS::Date& moment, const Items& items);
 
 }

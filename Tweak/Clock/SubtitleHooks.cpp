@@ -19,7 +19,8 @@ NS::MutableAttributedString timerIcon()
 {
     auto line = NS::MutableAttributedString::withString(""_ns);
     line.appendAttributedString(
-        dateLineIcon(templateFromPNG("/Library/Application Support/lyr.bundle/SS16/timer.png"_ns)));
+        dateLineIcon(templateThroughPNG(
+            UI::Image::imageNamed("/Library/Application Support/lyr.bundle/SS16/timer.png"_ns))));
     return line;
 }
 

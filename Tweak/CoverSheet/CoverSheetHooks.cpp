@@ -5,8 +5,15 @@
 #include "Tweak/Lifecycle/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/Views.hpp"
+#include "Tweak/Widgets/Strip.hpp"
 
 namespace LYR {
+
+void CSCoverSheetViewController_viewDidLoad(CS::CoverSheetViewController self, SEL cmd)
+{
+    stock<CSCoverSheetViewController_viewDidLoad>(self, cmd);
+    createStrip(self);
+}
 
 void CSCoverSheetViewController_viewWillAppear(CS::CoverSheetViewController self, SEL cmd, bool animated)
 {

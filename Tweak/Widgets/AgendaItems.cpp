@@ -1,0 +1,84 @@
+#include "Tweak/Widgets/AgendaItems.hpp"
+
+#include "Platform/EventKit/EKEventStore.hpp"
+#include "Platform/Foundation/NSDateFormatter.hpp"
+#include "Platform/SpringBoard/SBScheduledAlarmObserver.hpp"
+#include "Tweak/Settings.hpp"
+#include "Tweak/TemplateImage.hpp"
+
+namespace LYR {
+
+namespace {
+
+NS::String clockTime(const NS::Date& moment)
+{
+    auto formatter = NS::DateFormatter::formatter();
+    formatter.setDateFormat(_twentyFour ? "HH:mm"_ns : "h:mm"_ns);
+    return formatter.stringFromDate(moment);
+}
+
+/// The half of the day in which the hour lies: midnight is AM, noon is PM.
+NS::String markerOf(const NS::Calendar& calendar, const NS::Date& moment)
+{
+    return calendar.component(NS::CalendarUnit::hour, moment) < 12 ? "AM"_ns : "PM"_ns;
+}
+
+NS::String joined(const NS::String& first, const NS::String& second)
+{
+    if (second.length() == 0)
+        return first;
+    return first.stringByAppendingString(" "_ns).stringByAppendingString(second);
+}
+
+EK::Event firstEvent(const NS::Date& now)
+{
+    auto store = EK::EventStore::make();
+    auto end = NS::Calendar::currentCalendar().dateByAddingUnit(NS::CalendarUnit::day, _rangeEvent.intValue(), now);
+    if (!end)
+        return {};
+    return store.eventsMatchingPredicate(store.predicateForEvents(now, end)).firstObject<EK::Event>();
+}
+
+}
+
+NS::String AlarmItem::text() const
+{
+    return joined(time, marker);
+}
+
+AlarmItem nextAlarm()
+{
+    auto alarm = SB::ScheduledAlarmObserver::sharedInstance().alarmManager().cache().nextAlarm();
+    auto fireDate = alarm.nextFireDate();
+    if (!fireDate)
+        return {"No Alarms"_ns, {}};
+    auto gregorian = NS::Calendar::calendarWithIdentifier("gregorian"_ns);
+    return {clockTime(fireDate), _twentyFour ? NS::String() : markerOf(gregorian, fireDate)};
+}
+
+NS::String firstEventText(const NS::Date& now)
+{
+    auto event = firstEvent(now);
+    if (!event)
+        return "No events today"_ns;
+    auto title = event.title();
+    auto start = event.startDate();
+    if (event.isAllDay() || !start)
+        return title ? title : ""_ns;
+    auto time = clockTime(start);
+    if (!_twentyFour)
+        time = time.stringByAppendingString(markerOf(NS::Calendar::currentCalendar(), start));
+    return joined(time, title);
+}
+
+UI::Image alarmIcon()
+{
+    return resourceIcon("/Library/Application Support/lyr.bundle/SS16/alarm.png"_ns);
+}
+
+UI::Image eventIcon()
+{
+    return resourceIcon("/Library/Application Support/lyr.bundle/SS16/calendar.png"_ns);
+}
+
+}

@@ -1,0 +1,16 @@
+// The strip of three widgets under the clock: weather; sun, alarm or event; battery.
+#pragma once
+
+#include "Platform/SpringBoard/CSCoverSheetViewController.hpp"
+#include "Tweak/Widgets/Items.hpp"
+
+namespace LYR {
+
+/// Puts the strip onto the cover sheet. It is built at the first call and lives as long as the process.
+void createStrip(const CS::CoverSheetViewController& controller);
+/// Shows the views of the chosen presentations, and places the strip and what lies in it.
+void placeStrip();
+/// Visibility, scale, colours and contents.
+void refreshStrip(const Items& items);
+
+}

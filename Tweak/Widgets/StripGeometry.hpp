@@ -1,0 +1,33 @@
+// Where everything lies in the strip, in points.
+#pragma once
+
+#include "Platform/CoreGraphics/CGGeometry.hpp"
+#include "Tweak/Widgets/StripOptions.hpp"
+
+namespace LYR {
+
+/// The part of the strip that one widget has.
+struct Slot {
+    CGFloat x = 0;
+    CGFloat width = 0;
+
+    CGFloat middle() const { return x + width / 2; }
+};
+
+/// The strip's frame, and the three slots in its coordinates.
+struct StripGeometry {
+    CGRect frame{};
+    Slot weather;
+    Slot agenda;
+    Slot battery;
+};
+
+StripGeometry stripGeometry(CGSize screen, WeatherOption weather, BatteryOption battery);
+
+/// Gives each view of a presentation its frame within the slot.
+void placeWeather(WeatherOption option, const Slot& slot);
+/// The icon stands in the middle of its slot, or beside what shares the line with it.
+void placeAgenda(const Slot& slot);
+void placeBattery(BatteryOption option, const Slot& slot);
+
+}
