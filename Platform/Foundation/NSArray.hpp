@@ -11,6 +11,9 @@ class Array : public ObjC::Class_<Array, Object, "NSArray"> {
 public:
     using Class_::Class_;
 
+    /// An array of these objects; nil ones are left out.
+    template <class... Objects>
+    static Array of(const Objects&... objects);
     unsigned long count() const { return send<unsigned long, "count">(); }
     /// The element at an index, as a facade of its class; nil beyond the end or if it is of another class.
     template <ObjC::Handle T>
@@ -40,6 +43,18 @@ public:
         send<void, "sortUsingSelector:">(ObjC::selector<comparison>());
     }
 };
+
+template <class... Objects>
+inline Array Array::of(const Objects&... objects)
+{
+    auto array = MutableArray::make();
+    const auto add = [&array](const ObjC::Object& object) {
+        if (object)
+            array.addObject(object);
+    };
+    (add(objects), ...);
+    return array;
+}
 
 inline MutableArray Array::mutableCopy() const
 {

@@ -1,4 +1,4 @@
-// What lies under a view: corners, border, shadow.
+// What lies under a view: geometry, corners, border, shadow, and layers of its own.
 #pragma once
 
 #include "Platform/CoreGraphics/CGColor.hpp"
@@ -9,6 +9,25 @@ namespace CA {
 class Layer : public ObjC::Class_<Layer, NS::Object, "CALayer"> {
 public:
     using Class_::Class_;
+
+    static Layer layer() { return sendClass<Layer, "layer">(); }
+    CGRect frame() const { return send<CGRect, "frame">(); }
+    void setFrame(CGRect frame) const { send<void, "setFrame:">(frame); }
+    CGRect bounds() const { return send<CGRect, "bounds">(); }
+    void setBounds(CGRect bounds) const { send<void, "setBounds:">(bounds); }
+    void setOpacity(float opacity) const { send<void, "setOpacity:">(opacity); }
+    void setHidden(bool hidden) const { send<void, "setHidden:">(hidden); }
+    void setBackgroundColor(CGColorRef color) const { send<void, "setBackgroundColor:">(color); }
+    CGColorRef backgroundColor() const { return send<CGColorRef, "backgroundColor">(); }
+    void setMasksToBounds(bool masks) const { send<void, "setMasksToBounds:">(masks); }
+    /// Only what lies behind the mask's opaque parts is shown.
+    void setMask(const Layer& mask) const { send<void, "setMask:">(mask); }
+    void addSublayer(const Layer& layer) const { send<void, "addSublayer:">(layer); }
+    void insertSublayerAtIndex(const Layer& layer, unsigned index) const
+    {
+        send<void, "insertSublayer:atIndex:">(layer, index);
+    }
+    void removeFromSuperlayer() const { send<void, "removeFromSuperlayer">(); }
 
     void setCornerRadius(CGFloat radius) const { send<void, "setCornerRadius:">(radius); }
     CGFloat cornerRadius() const { return send<CGFloat, "cornerRadius">(); }

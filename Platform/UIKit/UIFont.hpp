@@ -17,6 +17,7 @@ public:
         return sendClass<Font, "fontWithName:size:">(name, size);
     }
     static Font systemFontOfSize(CGFloat size) { return sendClass<Font, "systemFontOfSize:">(size); }
+    static Font boldSystemFontOfSize(CGFloat size) { return sendClass<Font, "boldSystemFontOfSize:">(size); }
     static NS::Array familyNames() { return sendClass<NS::Array, "familyNames">(); }
     static NS::Array fontNamesForFamilyName(const NS::String& family)
     {

@@ -3,6 +3,7 @@
 
 #include "Platform/CoreGraphics/CGContext.hpp"
 #include "Platform/Foundation/NSData.hpp"
+#include "Platform/UIKit/UIColor.hpp"
 
 namespace UI {
 
@@ -25,6 +26,7 @@ public:
     CGImageRef CGImage() const { return send<CGImageRef, "CGImage">(); }
     ImageRenderingMode renderingMode() const { return send<ImageRenderingMode, "renderingMode">(); }
     Image imageWithRenderingMode(ImageRenderingMode mode) const { return send<Image, "imageWithRenderingMode:">(mode); }
+    Image imageWithTintColor(const Color& color) const { return send<Image, "imageWithTintColor:">(color); }
     /// Draws into the current image context.
     void drawInRect(CGRect rect) const { send<void, "drawInRect:">(rect); }
 };

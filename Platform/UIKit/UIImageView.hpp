@@ -10,9 +10,9 @@ class ImageView : public ObjC::Class_<ImageView, View, "UIImageView"> {
 public:
     using Class_::Class_;
 
+    static ImageView withImage(const Image& image) { return make<"initWithImage:">(image); }
     Image image() const { return send<Image, "image">(); }
     void setImage(const Image& image) const { send<void, "setImage:">(image); }
-    void setContentMode(long mode) const { send<void, "setContentMode:">(mode); }
 };
 
 }

@@ -6,8 +6,6 @@ namespace Simulator {
 
 namespace {
 
-constexpr long aspectFit = 1;
-
 id allocate(const char* className)
 {
     return ObjC::sendMessage<id>(reinterpret_cast<id>(objc_getClass(className)), ObjC::selector<"alloc">());
@@ -89,7 +87,7 @@ UI::ImageView makeSymbol(const char* symbol, CGRect frame, const UI::Color& colo
 {
     const UI::ImageView view(makeView("UIImageView", frame).raw());
     view.setImage(UI::Image::systemImageNamed(NS::String::fromUTF8(symbol)));
-    view.setContentMode(aspectFit);
+    view.setContentMode(UI::ViewContentMode::scaleAspectFit);
     view.setTintColor(colour);
     return view;
 }

@@ -8,7 +8,7 @@ namespace Simulator {
 
 struct UIWindow;
 
-enum class UserInterfaceStyle : long { unspecified = 0, light = 1, dark = 2 };
+using UserInterfaceStyle = UI::UserInterfaceStyle;
 
 /// What the simulated device has; the screen object reads it.
 struct ScreenSettings {
