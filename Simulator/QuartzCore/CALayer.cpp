@@ -2,6 +2,7 @@
 #include "Simulator/QuartzCore/CALayer.hpp"
 
 #include "Simulator/CoreGraphics/CGColor.hpp"
+#include "Simulator/QuartzCore/LayerTransaction.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/Geometry.hpp"
 
@@ -49,8 +50,16 @@ CALayer::~CALayer()
         standIn<CALayer>(layer.raw()).superlayerReference = nullptr;
 }
 
+LayerProperties& CALayer::properties()
+{
+    if (viewProperties)
+        noteLayerChange(*viewProperties, viewObject);
+    return viewProperties ? *viewProperties : ownProperties;
+}
+
 void CALayer::detachFromView()
 {
+    viewObject = nullptr;
     ownProperties = *viewProperties;
     viewProperties = nullptr;
 }

@@ -4,6 +4,7 @@
 #include "Platform/Foundation/NSArray.hpp"
 #include "Platform/QuartzCore/CALayer.hpp"
 #include "Simulator/Graphics/Layer.hpp"
+#include "Simulator/QuartzCore/LayerMotion.hpp"
 #include "Simulator/Runtime/StandIn.hpp"
 
 #include <vector>
@@ -30,6 +31,8 @@ struct LayerProperties {
     ObjC::Object backgroundColor;
     ObjC::Object borderColor = opaqueBlack();
     ObjC::Object shadowColor = opaqueBlack();
+    /// The animations that are on their way.
+    std::vector<LayerMotion> motions;
 
     CGRect frame() const;
     /// Keeps the transform: the bounds get the size that it turns into the frame's.
@@ -41,8 +44,8 @@ struct CALayer : StandIn {
 
     ~CALayer() override;
 
-    /// The view's, or its own if it stands under no view.
-    LayerProperties& properties() { return viewProperties ? *viewProperties : ownProperties; }
+    /// The view's, or its own if it stands under no view; an animation that is being made takes note of a change.
+    LayerProperties& properties();
     const LayerProperties& properties() const { return viewProperties ? *viewProperties : ownProperties; }
     /// The view dies: its values stay with the layer.
     void detachFromView();
@@ -88,6 +91,8 @@ struct CALayer : StandIn {
     NS::Array sublayersArray() const;
 
     LayerProperties* viewProperties = nullptr;
+    /// Not retained.
+    id viewObject = nullptr;
     LayerProperties ownProperties;
     CALayer* superlayerReference = nullptr;
     /// Layers without views, back to front; they lie behind the subviews.

@@ -2,17 +2,23 @@
 #include "Simulator/UIKit/LayerTree.hpp"
 
 #include "Simulator/CoreGraphics/CGColor.hpp"
+#include "Simulator/Loop/Loop.hpp"
+#include "Simulator/QuartzCore/LayerTransaction.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
+
+#include <algorithm>
+#include <iterator>
 
 namespace Simulator {
 
 namespace {
 
+/// What fades out is there until it is gone.
 bool isShown(const LayerProperties& properties)
 {
-    return !properties.hidden && properties.opacity > 0;
+    return !properties.hidden && (properties.opacity > 0 || hasMotions(properties));
 }
 
 std::optional<Graphics::Color> colorOf(const ObjC::Object& color)
@@ -40,6 +46,12 @@ Graphics::Layer decorated(const LayerProperties& properties)
     return layer;
 }
 
+void showMotions(Graphics::Layer& layer, const LayerProperties& properties)
+{
+    for (const LayerMotion& motion : properties.motions)
+        motion.apply(layer, Loop::shared().uptime());
+}
+
 /// The layers without views that hang in another, with all that hangs in them.
 std::vector<Graphics::Layer> buildSublayers(const CALayer& parent)
 {
@@ -64,10 +76,11 @@ Graphics::Layer buildLayer(UIView& root)
     // A colour of the system follows the appearance; the layer's own copy does not.
     if (const auto color = resolvedColor(root.backgroundColor()))
         layer.backgroundColor = color;
+    showMotions(layer, root.properties);
     layer.content = root.layerContent();
     root.decorate(layer);
     if (const CALayer* made = root.layerIfMade())
-        layer.children = buildSublayers(*made);
+        std::ranges::move(buildSublayers(*made), std::back_inserter(layer.children));
     for (const UI::View& child : root.children) {
         auto& subview = standIn<UIView>(child.raw());
         if (isShown(subview.properties))

@@ -1,13 +1,39 @@
-// The responder chain. Nobody is first responder: the lock screen takes no text.
+// The responder chain: touches go up it. Nobody is first responder: the lock screen takes no text.
 #include "Simulator/UIKit/UIResponder.hpp"
 
 #include "Simulator/Runtime/Binder.hpp"
 
 namespace Simulator {
 
+void UIResponder::touchesBegan(const NS::Object& touches, const NS::Object& event)
+{
+    self().send<UI::Responder, "nextResponder">().send<void, "touchesBegan:withEvent:">(touches, event);
+}
+
+void UIResponder::touchesMoved(const NS::Object& touches, const NS::Object& event)
+{
+    self().send<UI::Responder, "nextResponder">().send<void, "touchesMoved:withEvent:">(touches, event);
+}
+
+void UIResponder::touchesEnded(const NS::Object& touches, const NS::Object& event)
+{
+    self().send<UI::Responder, "nextResponder">().send<void, "touchesEnded:withEvent:">(touches, event);
+}
+
+void UIResponder::touchesCancelled(const NS::Object& touches, const NS::Object& event)
+{
+    self().send<UI::Responder, "nextResponder">().send<void, "touchesCancelled:withEvent:">(touches, event);
+}
+
 void registerUIResponder()
 {
-    Binder<UIResponder>("UIResponder", "NSObject").def<"nextResponder", &UIResponder::nextResponder>().add();
+    Binder<UIResponder>("UIResponder", "NSObject")
+        .def<"nextResponder", &UIResponder::nextResponder>()
+        .def<"touchesBegan:withEvent:", &UIResponder::touchesBegan>()
+        .def<"touchesMoved:withEvent:", &UIResponder::touchesMoved>()
+        .def<"touchesEnded:withEvent:", &UIResponder::touchesEnded>()
+        .def<"touchesCancelled:withEvent:", &UIResponder::touchesCancelled>()
+        .add();
 }
 
 }

@@ -11,6 +11,12 @@ struct UIResponder : StandIn {
 
     /// Who is asked next for what this responder does not handle.
     virtual UI::Responder nextResponder() const { return {}; }
+
+    /// A touch that the responder does nothing with goes to the next one.
+    void touchesBegan(const NS::Object& touches, const NS::Object& event);
+    void touchesMoved(const NS::Object& touches, const NS::Object& event);
+    void touchesEnded(const NS::Object& touches, const NS::Object& event);
+    void touchesCancelled(const NS::Object& touches, const NS::Object& event);
 };
 
 void registerUIResponder();

@@ -1,12 +1,16 @@
 // A view's geometry and appearance, and its registration.
 #include "Simulator/UIKit/UIView.hpp"
 
+#include "Simulator/QuartzCore/LayerTransaction.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/Geometry.hpp"
+#include "Simulator/UIKit/NSLayoutConstraint.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
+#include "Simulator/UIKit/UIGestureRecognizer.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/UIViewController.hpp"
+#include "Simulator/UIKit/ViewAnimation.hpp"
 
 #include <algorithm>
 #include <cstdio>
@@ -24,6 +28,9 @@ static bool isUsable(bool isFinite, const UIView& view, const char* property)
 
 UIView::~UIView()
 {
+    releaseConstraints(*this);
+    for (const UI::GestureRecognizer& recognizer : recognizers)
+        standIn<UIGestureRecognizer>(recognizer.raw()).viewReference = nullptr;
     for (const UI::View& child : children)
         standIn<UIView>(child.raw()).parent = nullptr;
     if (layerObject)
@@ -46,12 +53,18 @@ void UIView::initWithFrame(CGRect frame)
         properties.setFrame(frame);
 }
 
+LayerProperties& UIView::changing()
+{
+    noteLayerChange(properties, object());
+    return properties;
+}
+
 void UIView::setFrame(CGRect frame)
 {
     if (!isUsable(isFinite(frame), *this, "the frame"))
         return;
     const CGSize previous = properties.bounds.size;
-    properties.setFrame(frame);
+    changing().setFrame(frame);
     boundsChangedFrom(previous);
 }
 
@@ -60,7 +73,7 @@ void UIView::setBounds(CGRect bounds)
     if (!isUsable(isFinite(bounds), *this, "the bounds"))
         return;
     const CGRect previous = properties.bounds;
-    properties.bounds = bounds;
+    changing().bounds = bounds;
     needsLayout |= previous.origin != bounds.origin;
     boundsChangedFrom(previous.size);
 }
@@ -68,19 +81,19 @@ void UIView::setBounds(CGRect bounds)
 void UIView::setCenter(CGPoint center)
 {
     if (isUsable(isFinite(center), *this, "the center"))
-        properties.position = center;
+        changing().position = center;
 }
 
 void UIView::setTransform(CGAffineTransform transform)
 {
     if (isUsable(toGraphics(transform).isFinite(), *this, "the transform"))
-        properties.transform = transform;
+        changing().transform = transform;
 }
 
 void UIView::setAlpha(double alpha)
 {
     if (!std::isnan(alpha))
-        properties.opacity = std::clamp(alpha, 0.0, 1.0);
+        changing().opacity = std::clamp(alpha, 0.0, 1.0);
 }
 
 UI::Color UIView::backgroundColor() const
@@ -95,8 +108,9 @@ UI::Color UIView::backgroundColor() const
 
 void UIView::setBackgroundColor(const UI::Color& color)
 {
+    LayerProperties& changed = changing();
     background = standInOrNull<UIColor>(color) ? color : UI::Color();
-    properties.backgroundColor = ObjC::Object(reinterpret_cast<id>(background.CGColor()));
+    changed.backgroundColor = ObjC::Object(reinterpret_cast<id>(background.CGColor()));
 }
 
 UI::Color UIView::tintColor() const
@@ -128,7 +142,9 @@ CA::Layer UIView::layer()
 {
     if (!layerObject) {
         layerObject = CA::Layer::make();
-        standIn<CALayer>(layerObject.raw()).viewProperties = &properties;
+        auto& made = standIn<CALayer>(layerObject.raw());
+        made.viewProperties = &properties;
+        made.viewObject = object();
     }
     return layerObject;
 }
@@ -196,6 +212,21 @@ void registerUIView()
         .def<"sizeThatFits:", &UIView::sizeThatFits>()
         .def<"sizeToFit", &UIView::sizeToFit>()
         .def<"intrinsicContentSize", &UIView::intrinsicContentSize>()
+        .def<"hitTest:withEvent:", &UIView::hitTest>()
+        .def<"pointInside:withEvent:", &UIView::pointInside>()
+        .def<"addGestureRecognizer:", &UIView::addGestureRecognizer>()
+        .def<"removeGestureRecognizer:", &UIView::removeGestureRecognizer>()
+        .def<"gestureRecognizers", &UIView::gestureRecognizers>()
+        .def<"leadingAnchor", &UIView::leadingAnchor>()
+        .def<"trailingAnchor", &UIView::trailingAnchor>()
+        .def<"topAnchor", &UIView::topAnchor>()
+        .def<"bottomAnchor", &UIView::bottomAnchor>()
+        .property<"translatesAutoresizingMaskIntoConstraints",
+            "setTranslatesAutoresizingMaskIntoConstraints:", &UIView::translatesAutoresizingMaskIntoConstraints>()
+        .classMethod<"animateWithDuration:delay:options:animations:completion:", &animateWithDelay>()
+        .classMethod<"animateWithDuration:animations:completion:", &animateWithCompletion>()
+        .classMethod<"animateWithDuration:animations:", &animate>()
+        .classMethod<"transitionWithView:duration:options:animations:completion:", &transition>()
         .def<"convertPoint:toView:", &UIView::convertPointToView>()
         .def<"convertPoint:fromView:", &UIView::convertPointFromView>()
         .def<"convertRect:toView:", &UIView::convertRectToView>()

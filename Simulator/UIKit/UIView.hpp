@@ -1,6 +1,8 @@
 // The base of everything on the screen: geometry, appearance, the tree of views and their layout.
 #pragma once
 
+#include "Platform/UIKit/NSLayoutConstraint.hpp"
+#include "Platform/UIKit/UIGestureRecognizer.hpp"
 #include "Platform/UIKit/UIViewController.hpp"
 #include "Simulator/Graphics/Layer.hpp"
 #include "Simulator/QuartzCore/CALayer.hpp"
@@ -31,7 +33,7 @@ struct UIView : UIResponder {
 
     /// What the view itself shows between its background and its subviews; kinds of views override it.
     virtual Graphics::LayerContent layerContent() const { return {}; }
-    /// Adds to what the layer's own properties make of it.
+    /// Adds to what the layer's own properties make of it: its looks, or layers between its content and its subviews.
     virtual void decorate(Graphics::Layer&) const { }
     /// Adds what the control protocol tells of this kind of view.
     virtual void describe(nlohmann::json&) const { }
@@ -91,6 +93,18 @@ struct UIView : UIResponder {
     CGRect convertRectToView(CGRect rect, const UI::View& view) const;
     CGRect convertRectFromView(CGRect rect, const UI::View& view) const;
 
+    /// The frontmost view inside that takes a touch at the point; nil for none.
+    UI::View hitTest(CGPoint point, const NS::Object& event) const;
+    bool pointInside(CGPoint point, const NS::Object& event) const;
+    void addGestureRecognizer(const UI::GestureRecognizer& recognizer);
+    void removeGestureRecognizer(const UI::GestureRecognizer& recognizer);
+    NS::Array gestureRecognizers() const;
+
+    NS::LayoutAnchor leadingAnchor() const;
+    NS::LayoutAnchor trailingAnchor() const;
+    NS::LayoutAnchor topAnchor() const;
+    NS::LayoutAnchor bottomAnchor() const;
+
     /// Notices to kinds of views, by message; the base does nothing.
     void ignoreNotice() { }
     void ignoreView(const UI::View&) { }
@@ -117,6 +131,10 @@ struct UIView : UIResponder {
     UIViewController* controller = nullptr;
     /// Back to front.
     std::vector<UI::View> children;
+    std::vector<UI::GestureRecognizer> recognizers;
+    /// The active ones that place this view.
+    std::vector<NS::LayoutConstraint> constraints;
+    bool translatesAutoresizingMaskIntoConstraints = true;
 
 private:
     void insert(const UI::View& view, std::size_t index);
@@ -125,6 +143,8 @@ private:
     std::size_t positionBeside(const UI::View& view, const UI::View& sibling, std::size_t above) const;
     void notifyTintChange();
     void boundsChangedFrom(CGSize previous);
+    /// The properties, about to be changed: an animation that is being made takes note.
+    LayerProperties& changing();
     void followSuperviewSize(CGSize previous, CGSize current);
 
     CA::Layer layerObject;

@@ -1,6 +1,7 @@
 // Layout: sizes that follow the superview, the passes through the tree, and coordinates of one view in another.
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/Geometry.hpp"
+#include "Simulator/UIKit/NSLayoutConstraint.hpp"
 #include "Simulator/UIKit/UIViewController.hpp"
 
 #include <array>
@@ -42,6 +43,8 @@ void layOut(const UI::View& object)
     const auto controller = view.controller ? view.controller->self() : ObjC::Object();
     controller.send<void, "viewWillLayoutSubviews">();
     object.send<void, "layoutSubviews">();
+    for (const UI::View& child : std::vector(view.children))
+        applyConstraints(standIn<UIView>(child.raw()));
     controller.send<void, "viewDidLayoutSubviews">();
 }
 

@@ -1,0 +1,49 @@
+// The system's sheet for choosing a colour: a grid of colours, and sliders for hue, brightness and opacity.
+#pragma once
+
+#include "Platform/UIKit/UIButton.hpp"
+#include "Platform/UIKit/UISlider.hpp"
+#include "Simulator/UIKit/ColorGrid.hpp"
+#include "Simulator/UIKit/UISlider.hpp"
+
+namespace Simulator {
+
+struct UIColorWell;
+
+/// As large as the window; what is beside the pane closes it when it is touched.
+struct UIColorSheetView : UIView {
+    void layoutSubviews();
+    void touchesEnded(const NS::Object& touches, const NS::Object& event);
+    void gridChanged(const UI::Control& grid);
+    void sliderChanged(const UI::Slider& slider);
+    void dismiss();
+
+    void build(UIColorWell& well);
+
+private:
+    UI::Slider addSlider(const NS::String& identifier, const NS::String& caption);
+    void showColor();
+    void tell();
+
+    /// Not retained; null once the sheet is closed.
+    UIColorWell* colorWell = nullptr;
+    UI::View pane;
+    UI::Label titleLabel;
+    UI::Button closeButton;
+    UI::Control grid;
+    std::vector<UI::Label> captions;
+    UI::Slider hueSlider;
+    UI::Slider brightnessSlider;
+    UI::Slider opacitySlider;
+    CGFloat hue = 0;
+    CGFloat saturation = 0;
+    CGFloat brightness = 1;
+    CGFloat opacity = 1;
+};
+
+UI::View makeColorSheet(UIColorWell& well);
+
+/// Registers the sheet's classes; the colour well's registration does it.
+void registerColorSheet();
+
+}

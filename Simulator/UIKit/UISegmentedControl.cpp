@@ -1,0 +1,269 @@
+#include "Simulator/UIKit/UISegmentedControl.hpp"
+
+#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/UIKit/AttributedRuns.hpp"
+#include "Simulator/UIKit/ControlDrawing.hpp"
+#include "Simulator/UIKit/Geometry.hpp"
+#include "Simulator/UIKit/NSTextAttachment.hpp"
+#include "Simulator/UIKit/UIColor.hpp"
+#include "Simulator/UIKit/UIFont.hpp"
+#include "Simulator/UIKit/UIImage.hpp"
+#include "Simulator/UIKit/UIScreen.hpp"
+#include "Simulator/UIKit/UITouch.hpp"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+
+namespace Simulator {
+
+namespace {
+
+constexpr double height = 32;
+constexpr double cornerRadius = 8.5;
+constexpr double inset = 2;
+constexpr double margin = 10;
+constexpr double titleSize = 13;
+constexpr double pressedOpacity = 0.3;
+constexpr auto noSegment = UI::SegmentedControl::noSegment;
+constexpr auto normalState = static_cast<unsigned long>(UI::ControlState::normal);
+constexpr auto selectedState = static_cast<unsigned long>(UI::ControlState::selected);
+
+}
+
+void UISegmentedControl::initWithItems(const NS::Array& items)
+{
+    for (unsigned long i = 0; i < items.count(); ++i) {
+        const auto item = items.at<NS::Object>(i);
+        const auto title = item.as<NS::String>();
+        if (title || imageStandIn(item))
+            insert({title, title ? UI::Image() : UI::Image(item.raw())}, segments.size());
+    }
+    ObjC::sendMessage<id>(object(), ObjC::selector<"initWithFrame:">(), CGRect{{}, sizeThatFits({})});
+}
+
+void UISegmentedControl::insert(Segment segment, unsigned long index)
+{
+    const auto place = static_cast<long>(std::min<std::size_t>(index, segments.size()));
+    segments.insert(segments.begin() + place, std::move(segment));
+    if (selectedSegmentIndex >= place)
+        ++selectedSegmentIndex;
+}
+
+void UISegmentedControl::insertSegmentWithTitle(const NS::String& title, unsigned long index, bool)
+{
+    insert({title.as<NS::String>(), {}}, index);
+}
+
+void UISegmentedControl::insertSegmentWithImage(const UI::Image& image, unsigned long index, bool)
+{
+    insert({{}, imageStandIn(image) ? image : UI::Image()}, index);
+}
+
+/// An index beyond the end takes the last one.
+void UISegmentedControl::removeSegment(unsigned long index, bool)
+{
+    if (segments.empty())
+        return;
+    const auto place = static_cast<long>(std::min<std::size_t>(index, segments.size() - 1));
+    segments.erase(segments.begin() + place);
+    if (selectedSegmentIndex == place)
+        selectedSegmentIndex = noSegment;
+    else if (selectedSegmentIndex > place)
+        --selectedSegmentIndex;
+}
+
+void UISegmentedControl::removeAllSegments()
+{
+    segments.clear();
+    selectedSegmentIndex = noSegment;
+}
+
+NS::String UISegmentedControl::titleForSegment(unsigned long index) const
+{
+    return index < segments.size() ? segments[index].title : NS::String();
+}
+
+void UISegmentedControl::setTitleForSegment(const NS::String& title, unsigned long index)
+{
+    if (index < segments.size())
+        segments[index] = {title.as<NS::String>(), {}};
+}
+
+UI::Image UISegmentedControl::imageForSegment(unsigned long index) const
+{
+    return index < segments.size() ? segments[index].image : UI::Image();
+}
+
+void UISegmentedControl::setImageForSegment(const UI::Image& image, unsigned long index)
+{
+    if (index < segments.size())
+        segments[index] = {{}, imageStandIn(image) ? image : UI::Image()};
+}
+
+void UISegmentedControl::setSelectedSegmentIndex(long index)
+{
+    selectedSegmentIndex = index >= 0 && index < static_cast<long>(segments.size()) ? index : noSegment;
+}
+
+NS::Dictionary UISegmentedControl::titleTextAttributes(unsigned long state) const
+{
+    const auto found = attributes.find(state);
+    return found == attributes.end() ? NS::Dictionary() : found->second;
+}
+
+void UISegmentedControl::setTitleTextAttributes(const NS::Dictionary& wanted, unsigned long state)
+{
+    attributes[state] = wanted.as<NS::Dictionary>();
+}
+
+UI::Font UISegmentedControl::fontOf(bool isSelected) const
+{
+    for (unsigned long state : {isSelected ? selectedState : normalState, normalState}) {
+        const auto font = titleTextAttributes(state).objectForKey<UI::Font>(NS::String::fromUTF8(fontAttribute));
+        if (font)
+            return font;
+    }
+    return isSelected ? UI::Font::boldSystemFontOfSize(titleSize) : UI::Font::systemFontOfSize(titleSize);
+}
+
+CGSize UISegmentedControl::sizeThatFits(CGSize) const
+{
+    double widest = 0;
+    for (const Segment& segment : segments) {
+        const double width
+            = segment.image ? segment.image.size().width : measureText(plainUtf8(segment.title), fontOf(true)).width;
+        widest = std::max(widest, width + 2 * margin);
+    }
+    return {widest * segments.size(), height};
+}
+
+Graphics::Rect UISegmentedControl::frameOf(std::size_t index) const
+{
+    const Graphics::Rect area = toGraphics(bounds());
+    const double width = area.width / segments.size();
+    return {area.x + index * width, area.y, width, area.height};
+}
+
+long UISegmentedControl::indexUnder(const NS::Object& touch) const
+{
+    const CGPoint point = standIn<UITouch>(touch.raw()).locationInView(self<UI::View>());
+    const CGRect area = bounds();
+    if (segments.empty() || !(area.size.width > 0))
+        return noSegment;
+    const double place = (point.x - area.origin.x) / area.size.width * segments.size();
+    return std::clamp(static_cast<long>(place), 0L, static_cast<long>(segments.size()) - 1);
+}
+
+bool UISegmentedControl::beginTracking(const NS::Object& touch, const NS::Object&)
+{
+    pressedIndex = indexUnder(touch);
+    return true;
+}
+
+bool UISegmentedControl::continueTracking(const NS::Object& touch, const NS::Object&)
+{
+    pressedIndex = touchInside ? indexUnder(touch) : noSegment;
+    return true;
+}
+
+/// The choice is made where the finger is lifted; the same one again is no change.
+void UISegmentedControl::endTracking(const NS::Object& touch, const NS::Object&)
+{
+    pressedIndex = noSegment;
+    const long index = indexUnder(touch);
+    if (!touchInside || index == selectedSegmentIndex || index == noSegment)
+        return;
+    selectedSegmentIndex = index;
+    send(Events::valueChanged);
+}
+
+void UISegmentedControl::cancelTracking(const NS::Object&)
+{
+    pressedIndex = noSegment;
+}
+
+Graphics::Layer UISegmentedControl::contentOf(std::size_t index) const
+{
+    const Segment& segment = segments[index];
+    const bool isSelected = static_cast<long>(index) == selectedSegmentIndex;
+    const Graphics::Rect area = frameOf(index).insetBy(inset + 2, inset);
+    Graphics::Color ink = systemColor("labelColor");
+    for (unsigned long state : {normalState, isSelected ? selectedState : normalState}) {
+        const auto color = titleTextAttributes(state).objectForKey<UI::Color>(NS::String::fromUTF8(colorAttribute));
+        ink = resolvedColor(color).value_or(ink);
+    }
+    Graphics::Layer layer = segment.image ? makePicture(area, segment.image, ink)
+                                          : makeText(area, plainUtf8(segment.title), fontOf(isSelected), ink);
+    if (static_cast<long>(index) == pressedIndex && !isSelected)
+        layer.opacity = pressedOpacity;
+    return layer;
+}
+
+/// Between two segments of which neither is the selected one.
+bool UISegmentedControl::hasDividerAfter(std::size_t index) const
+{
+    const auto before = static_cast<long>(index);
+    return index + 1 < segments.size() && before != selectedSegmentIndex && before + 1 != selectedSegmentIndex;
+}
+
+void UISegmentedControl::decorate(Graphics::Layer& layer) const
+{
+    UIControl::decorate(layer);
+    layer.children.push_back(makeBox(toGraphics(bounds()), systemColor("tertiarySystemFillColor"), cornerRadius));
+    if (selectedSegmentIndex != noSegment) {
+        const bool isDark = screenSettings().style == UserInterfaceStyle::dark;
+        const Graphics::Color pill = isDark ? systemColor("systemGray2Color") : Graphics::Color{1, 1, 1, 1};
+        const Graphics::Rect area = frameOf(selectedSegmentIndex).insetBy(inset, inset);
+        Graphics::Layer box = makeBox(area, resolvedColor(selectedSegmentTint).value_or(pill), cornerRadius - inset);
+        box.shadow = softShadow(4, 3);
+        layer.children.push_back(std::move(box));
+    }
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        layer.children.push_back(contentOf(i));
+        const Graphics::Rect area = frameOf(i);
+        if (hasDividerAfter(i))
+            layer.children.push_back(makeBox(
+                {area.right() - 0.5, area.y + area.height / 4, 1, area.height / 2}, systemColor("separatorColor")));
+    }
+}
+
+void UISegmentedControl::describe(nlohmann::json& description) const
+{
+    description["segments"] = nlohmann::json::array();
+    for (const Segment& segment : segments) {
+        const UIImage* picture = imageStandIn(segment.image);
+        description["segments"].push_back(picture ? picture->path : plainUtf8(segment.title));
+    }
+    description["selected"] = selectedSegmentIndex;
+}
+
+void registerUISegmentedControl()
+{
+    using Control = UISegmentedControl;
+    Binder<Control>("UISegmentedControl", "UIControl")
+        .init<"initWithItems:", &Control::initWithItems>()
+        .def<"sizeThatFits:", &Control::sizeThatFits>()
+        .def<"intrinsicContentSize", &Control::intrinsicContentSize>()
+        .def<"numberOfSegments", &Control::numberOfSegments>()
+        .def<"insertSegmentWithTitle:atIndex:animated:", &Control::insertSegmentWithTitle>()
+        .def<"insertSegmentWithImage:atIndex:animated:", &Control::insertSegmentWithImage>()
+        .def<"removeSegmentAtIndex:animated:", &Control::removeSegment>()
+        .def<"removeAllSegments", &Control::removeAllSegments>()
+        .def<"titleForSegmentAtIndex:", &Control::titleForSegment>()
+        .def<"setTitle:forSegmentAtIndex:", &Control::setTitleForSegment>()
+        .def<"imageForSegmentAtIndex:", &Control::imageForSegment>()
+        .def<"setImage:forSegmentAtIndex:", &Control::setImageForSegment>()
+        .readonly<"selectedSegmentIndex", &Control::selectedSegmentIndex>()
+        .def<"setSelectedSegmentIndex:", &Control::setSelectedSegmentIndex>()
+        .property<"selectedSegmentTintColor", "setSelectedSegmentTintColor:", &Control::selectedSegmentTint>()
+        .def<"titleTextAttributesForState:", &Control::titleTextAttributes>()
+        .def<"setTitleTextAttributes:forState:", &Control::setTitleTextAttributes>()
+        .def<"beginTrackingWithTouch:withEvent:", &Control::beginTracking>()
+        .def<"continueTrackingWithTouch:withEvent:", &Control::continueTracking>()
+        .def<"endTrackingWithTouch:withEvent:", &Control::endTracking>()
+        .def<"cancelTrackingWithEvent:", &Control::cancelTracking>()
+        .add();
+}
+
+}

@@ -1,0 +1,79 @@
+#include "Simulator/UIKit/ViewAnimation.hpp"
+
+#include "Simulator/Loop/Loop.hpp"
+#include "Simulator/QuartzCore/LayerTransaction.hpp"
+#include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/Runtime/Blocks.hpp"
+
+#include <cmath>
+
+namespace Simulator {
+
+namespace {
+
+constexpr unsigned curveShift = 16;
+constexpr unsigned long curveMask = 3;
+
+AnimationCurve curveOf(UI::AnimationOptions options)
+{
+    return static_cast<AnimationCurve>(static_cast<unsigned long>(options) >> curveShift & curveMask);
+}
+
+double secondsOf(double value)
+{
+    return value > 0 && std::isfinite(value) ? value : 0;
+}
+
+void record(double duration, double delay, UI::AnimationOptions options)
+{
+    ActivityLog::shared().record(
+        "animation", {{"duration", duration}, {"delay", delay}, {"options", static_cast<unsigned long>(options)}});
+}
+
+/// Runs the changes and answers whether a layer moves by them.
+bool runAnimations(double duration, double delay, UI::AnimationOptions options, void* animations)
+{
+    LayerTransaction transaction;
+    KeptBlock<void()>{animations}();
+    return duration > 0 && transaction.animate(delay, duration, curveOf(options));
+}
+
+void runCompletion(double seconds, void* completion)
+{
+    const KeptBlock<void(bool)> block(completion);
+    Loop::shared().schedule(
+        seconds, [block] { block(true); }, WorkKind::Animation);
+}
+
+}
+
+/// What moves nothing is over at once, and told in the next turn of the loop.
+void animateWithDelay(double duration, double delay, UI::AnimationOptions options, void* animations, void* completion)
+{
+    duration = secondsOf(duration);
+    delay = secondsOf(delay);
+    record(duration, delay, options);
+    const bool moves = runAnimations(duration, delay, options, animations);
+    runCompletion(moves ? delay + duration : 0, completion);
+}
+
+void animateWithCompletion(double duration, void* animations, void* completion)
+{
+    animateWithDelay(duration, 0, UI::AnimationOptions::curveEaseInOut, animations, completion);
+}
+
+void animate(double duration, void* animations)
+{
+    animateWithCompletion(duration, animations, nullptr);
+}
+
+/// The new content is there at once; only what the changes move takes its time.
+void transition(const UI::View&, double duration, UI::AnimationOptions options, void* animations, void* completion)
+{
+    duration = secondsOf(duration);
+    record(duration, 0, options);
+    runAnimations(duration, 0, options, animations);
+    runCompletion(duration, completion);
+}
+
+}
