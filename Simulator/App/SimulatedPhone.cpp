@@ -37,9 +37,10 @@ public:
     void addMethods(Control::Dispatcher& dispatcher) override
     {
         _context = std::make_unique<Control::PhoneContext>(_shell, dispatcher);
-        for (auto add : {Control::addPhoneMethods, Control::addClockMethods, Control::addDeviceMethods,
-                 Control::addSettingsMethods, Control::addFileMethods, Control::addViewMethods,
-                 Control::addRuntimeMethods, Control::addLogMethods, Control::addScreenMethods})
+        for (auto add :
+            {Control::addPhoneMethods, Control::addClockMethods, Control::addDeviceMethods, Control::addSettingsMethods,
+                Control::addFileMethods, Control::addTouchMethods, Control::addControlMethods, Control::addViewMethods,
+                Control::addRuntimeMethods, Control::addLogMethods, Control::addScreenMethods})
             add(*_context);
     }
 

@@ -9,6 +9,7 @@ namespace {
 
 constexpr auto required = Presence::Required;
 constexpr double longestAdvance = 366 * 86400.0;
+constexpr double longestTouch = 60;
 
 Schema joined(Schema first, const Schema& second)
 {
@@ -82,6 +83,16 @@ std::vector<Method> storeMethods()
                 {"error", orNull(oneOf({"EACCES", "ENOSPC", "EIO"})), required}}}};
 }
 
+std::vector<Method> touchMethods()
+{
+    const Schema place{{"at", point()}, {"id", nonEmptyText()}};
+    const Parameter seconds{"seconds", number(0, longestTouch)};
+    return {{"touch.tap", place}, {"touch.press", joined(place, {seconds})},
+        {"touch.drag", {{"from", point(), required}, {"to", point(), required}, seconds}}, {"touch.down", place},
+        {"touch.move", {{"at", point(), required}}}, {"touch.up", {{"at", point(), required}}},
+        {"control.set", {{"id", nonEmptyText(), required}, {"value", anything(), required}, {"tracking", boolean()}}}};
+}
+
 std::vector<Method> lookingMethods()
 {
     return {{"view.tree", {{"id", nonEmptyText()}}}, {"view.get", {{"id", nonEmptyText(), required}}},
@@ -112,7 +123,7 @@ const std::vector<Method>& protocolMethods()
 {
     static const std::vector<Method> methods = [] {
         std::vector<Method> all;
-        for (const auto& part : {phoneMethods(), deviceMethods(), storeMethods(), lookingMethods()})
+        for (const auto& part : {phoneMethods(), deviceMethods(), storeMethods(), touchMethods(), lookingMethods()})
             all.insert(all.end(), part.begin(), part.end());
         return all;
     }();

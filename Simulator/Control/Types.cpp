@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <charconv>
 #include <chrono>
+#include <cmath>
 #include <filesystem>
 #include <unicode/ucal.h>
 #include <unicode/unistr.h>
@@ -252,6 +253,16 @@ Type hostPath()
 Type hostDestination()
 {
     return hostEntry("the host path of a file to write, in a folder that exists and can be written", isDestination);
+}
+
+Type point()
+{
+    constexpr double farthest = 100'000;
+    return {.takes = "a point [x, y]", .accepts = [](const Json& value) {
+                return value.is_array() && value.size() == 2 && std::ranges::all_of(value, [](const Json& number) {
+                    return number.is_number() && std::abs(number.get<double>()) <= farthest;
+                });
+            }};
 }
 
 Type object(Schema members)

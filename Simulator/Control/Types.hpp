@@ -33,6 +33,9 @@ Type hostPath();
 // A file that may be there or not, in a folder that is.
 Type hostDestination();
 
+// [x, y] in points of the screen, beside it as well.
+Type point();
+
 Type object(Schema members);
 // Of these members exactly one is there.
 Type oneMemberOf(Schema members);

@@ -3,6 +3,7 @@
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/Blocks.hpp"
 #include "Simulator/SpringBoard/DeviceState.hpp"
 #include "Simulator/SpringBoard/FrontApplication.hpp"
 #include "Simulator/SpringBoard/Registrations.hpp"
@@ -55,11 +56,14 @@ struct UIApplication : UIResponder {
         return !appForAddress(address).empty();
     }
 
-    void openURL(const NS::URL& url, const NS::Object&, void*)
+    void openURL(const NS::URL& url, const NS::Object&, void* completion)
     {
         const std::string address = addressOf(url);
         const std::string app = appForAddress(address);
         ActivityLog::shared().record("openURL", {{"url", address}, {"opened", !app.empty()}});
+        Loop::shared().schedule(
+            0, [opened = !app.empty(), block = KeptBlock<void(bool)>(completion)] { block(opened); },
+            WorkKind::MainQueue);
         if (app.empty())
             return;
         Loop::shared().schedule(

@@ -224,6 +224,12 @@ void UIPickerView::chosen(long row, long component)
         told.send<void, "pickerView:didSelectRow:inComponent:">(kept, row, component);
 }
 
+void UIPickerView::choose(long row)
+{
+    selectRow(row, 0, false);
+    chosen(row, 0);
+}
+
 /// The rows only show; the wheel takes every touch.
 UI::View UIPickerView::hitTest(CGPoint point, const NS::Object& event) const
 {

@@ -32,6 +32,9 @@ struct UIPickerView : UIView {
     long selectedRow(long component);
     void selectRow(long row, long component, bool animated);
 
+    /// The user turned the first wheel to the row.
+    void choose(long row);
+
     void touchesBegan(const NS::Object& touches, const NS::Object& event);
     void touchesMoved(const NS::Object& touches, const NS::Object& event);
     void touchesEnded(const NS::Object& touches, const NS::Object& event);

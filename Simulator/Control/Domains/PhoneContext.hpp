@@ -39,6 +39,8 @@ void addClockMethods(PhoneContext&);
 void addDeviceMethods(PhoneContext&);
 void addSettingsMethods(PhoneContext&);
 void addFileMethods(PhoneContext&);
+void addTouchMethods(PhoneContext&);
+void addControlMethods(PhoneContext&);
 void addViewMethods(PhoneContext&);
 void addRuntimeMethods(PhoneContext&);
 void addLogMethods(PhoneContext&);
