@@ -6,7 +6,15 @@
 #include "Tweak/Clock/SubtitleHooks.hpp"
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
 #include "Tweak/CoverSheet/CoverSheetHooks.hpp"
+#include "Tweak/Editor/Appearance.hpp"
+#include "Tweak/Editor/BatterySaverButtons.hpp"
+#include "Tweak/Editor/ColourSheet.hpp"
+#include "Tweak/Editor/EditMode.hpp"
+#include "Tweak/Editor/FontNotice.hpp"
+#include "Tweak/Editor/OptionSegments.hpp"
 #include "Tweak/Editor/Pickers.hpp"
+#include "Tweak/Editor/Sliders.hpp"
+#include "Tweak/Editor/Wells.hpp"
 #include "Tweak/Lifecycle/LifecycleHooks.hpp"
 
 namespace LYR {
@@ -17,26 +25,12 @@ using ObjC::added;
 using ObjC::FixedString;
 using ObjC::hooked;
 using ObjC::HookRow;
-using ObjC::Object;
 
-/// An added method that does nothing yet. The name keeps one function apart from the other.
-template <FixedString selectorName, class Result, class... Arguments>
-Result silent(Object, SEL, Arguments...)
+/// A method added to the cover sheet's controller: an action of the editor, or an answer to its wheels.
+template <FixedString selectorName, auto function>
+HookRow action()
 {
-    return Result();
-}
-
-template <FixedString className, FixedString selectorName, class Result, class... Arguments>
-HookRow reserved()
-{
-    return added<className, selectorName, &silent<selectorName, Result, Arguments...>>();
-}
-
-/// An action that a control sends to the cover sheet.
-template <FixedString selectorName>
-HookRow coverSheetAction()
-{
-    return reserved<"CSCoverSheetViewController", selectorName, void, Object>();
+    return added<"CSCoverSheetViewController", selectorName, function>();
 }
 
 }
@@ -53,46 +47,43 @@ std::span<const HookRow> mainHooks()
             CSCoverSheetViewController_transitionChargingView>(),
         hooked<"CSCoverSheetViewController", "viewWillAppear:", CSCoverSheetViewController_viewWillAppear>(),
         hooked<"CSCoverSheetViewController", "viewWillDisappear:", CSCoverSheetViewController_viewWillDisappear>(),
-        added<"CSCoverSheetViewController", "requestUpdateWidget", CSCoverSheetViewController_requestUpdateWidget>(),
+        action<"requestUpdateWidget", CSCoverSheetViewController_requestUpdateWidget>(),
         hooked<"CSCoverSheetViewController", "viewDidLoad", CSCoverSheetViewController_viewDidLoad>(),
-        coverSheetAction<"didPressButtonCL:">(),
-        coverSheetAction<"didPressButtonCL2:">(),
-        coverSheetAction<"showLongPress:">(),
-        coverSheetAction<"doneButton:">(),
-        coverSheetAction<"timePressButton:">(),
-        coverSheetAction<"datePressButton:">(),
-        coverSheetAction<"widgetPressButton:">(),
-        reserved<"CSCoverSheetViewController", "updateButtonAppearance", void>(),
-        coverSheetAction<"showAlert:">(),
-        coverSheetAction<"closeAlert:">(),
-        coverSheetAction<"openFolderButton:">(),
-        reserved<"CSCoverSheetViewController", "linkTapped", void>(),
-        coverSheetAction<"sliderValueChangedAlpha:">(),
-        coverSheetAction<"sliderValueChangedX:">(),
-        coverSheetAction<"sliderValueChangedY:">(),
-        coverSheetAction<"SegmentChangeViewValueChanged:">(),
-        coverSheetAction<"alignValueChanged:">(),
-        coverSheetAction<"styleValueChanged:">(),
-        coverSheetAction<"altValueChanged:">(),
-        coverSheetAction<"widget1ValueChanged:">(),
-        coverSheetAction<"widget2ValueChanged:">(),
-        coverSheetAction<"widget3ValueChanged:">(),
-        coverSheetAction<"wellButton1:">(),
-        coverSheetAction<"wellButton2:">(),
-        coverSheetAction<"wellButton3:">(),
-        coverSheetAction<"wellButton4:">(),
-        coverSheetAction<"wellButton5:">(),
-        coverSheetAction<"showWellButton:">(),
-        reserved<"CSCoverSheetViewController", "pickerShow", void>(),
-        added<"CSCoverSheetViewController",
-            "numberOfComponentsInPickerView:", CSCoverSheetViewController_numberOfComponentsInPickerView>(),
-        added<"CSCoverSheetViewController",
-            "pickerView:numberOfRowsInComponent:", CSCoverSheetViewController_pickerView_numberOfRowsInComponent>(),
-        reserved<"CSCoverSheetViewController", "pickerView:viewForRow:forComponent:reusingView:", Object, Object, long,
-            long, Object>(),
-        reserved<"CSCoverSheetViewController", "pickerView:didSelectRow:inComponent:", void, Object, long, long>(),
-        coverSheetAction<"valueChange:">(),
-        coverSheetAction<"stepperUpdate:">(),
+        action<"didPressButtonCL:", CSCoverSheetViewController_didPressButtonCL>(),
+        action<"didPressButtonCL2:", CSCoverSheetViewController_didPressButtonCL2>(),
+        action<"showLongPress:", CSCoverSheetViewController_showLongPress>(),
+        action<"doneButton:", CSCoverSheetViewController_doneButton>(),
+        action<"timePressButton:", CSCoverSheetViewController_pressTab<Tab::time>>(),
+        action<"datePressButton:", CSCoverSheetViewController_pressTab<Tab::date>>(),
+        action<"widgetPressButton:", CSCoverSheetViewController_pressTab<Tab::widget>>(),
+        action<"updateButtonAppearance", CSCoverSheetViewController_updateButtonAppearance>(),
+        action<"showAlert:", CSCoverSheetViewController_showAlert>(),
+        action<"closeAlert:", CSCoverSheetViewController_closeAlert>(),
+        action<"openFolderButton:", CSCoverSheetViewController_openFolderButton>(),
+        action<"linkTapped", CSCoverSheetViewController_linkTapped>(),
+        action<"sliderValueChangedAlpha:", CSCoverSheetViewController_opacityChanged>(),
+        action<"sliderValueChangedX:", CSCoverSheetViewController_offsetChanged<Property::x>>(),
+        action<"sliderValueChangedY:", CSCoverSheetViewController_offsetChanged<Property::y>>(),
+        action<"SegmentChangeViewValueChanged:", CSCoverSheetViewController_segmentChanged>(),
+        action<"alignValueChanged:", CSCoverSheetViewController_optionChanged<Choice::alignment>>(),
+        action<"styleValueChanged:", CSCoverSheetViewController_optionChanged<Choice::style>>(),
+        action<"altValueChanged:", CSCoverSheetViewController_optionChanged<Choice::calendar>>(),
+        action<"widget1ValueChanged:", CSCoverSheetViewController_optionChanged<Choice::weather>>(),
+        action<"widget2ValueChanged:", CSCoverSheetViewController_optionChanged<Choice::agenda>>(),
+        action<"widget3ValueChanged:", CSCoverSheetViewController_optionChanged<Choice::battery>>(),
+        action<"wellButton1:", CSCoverSheetViewController_wellButton<0>>(),
+        action<"wellButton2:", CSCoverSheetViewController_wellButton<1>>(),
+        action<"wellButton3:", CSCoverSheetViewController_wellButton<2>>(),
+        action<"wellButton4:", CSCoverSheetViewController_wellButton<3>>(),
+        action<"wellButton5:", CSCoverSheetViewController_wellButton<4>>(),
+        action<"showWellButton:", CSCoverSheetViewController_showWellButton>(),
+        action<"pickerShow", CSCoverSheetViewController_pickerShow>(),
+        action<"numberOfComponentsInPickerView:", CSCoverSheetViewController_numberOfComponentsInPickerView>(),
+        action<"pickerView:numberOfRowsInComponent:", CSCoverSheetViewController_pickerView_numberOfRowsInComponent>(),
+        action<"pickerView:viewForRow:forComponent:reusingView:", CSCoverSheetViewController_pickerView_viewForRow>(),
+        action<"pickerView:didSelectRow:inComponent:", CSCoverSheetViewController_pickerView_didSelectRow>(),
+        action<"valueChange:", CSCoverSheetViewController_fontSizeChanged>(),
+        action<"stepperUpdate:", CSCoverSheetViewController_applyFontSize>(),
         hooked<"CSQuickActionsViewController", "hasFlashlight", CSQuickActionsViewController_hasFlashlight>(),
         hooked<"CSQuickActionsViewController", "hasCamera", CSQuickActionsViewController_hasCamera>(),
         hooked<"NCNotificationListSectionRevealHintView", "didMoveToWindow",

@@ -21,6 +21,8 @@ public:
     double doubleValue() const;
     NS::String stringValue() const;
 
+    /// Shows a value at once that is being stored.
+    void assign(const NS::Object& value) { value_ = value; }
     id* address() { return value_.address(); }
     NS::String fallback() const { return NS::String::fromUTF8(fallback_); }
 

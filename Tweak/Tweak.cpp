@@ -2,6 +2,7 @@
 #include "LYRLocalization/LYRLocalization.hpp"
 #include "Platform/Foundation/CFNotificationCenter.hpp"
 #include "Tweak/AFont.hpp"
+#include "Tweak/Editor/ColourSheet.hpp"
 #include "Tweak/Fonts.hpp"
 #include "Tweak/Hooks.hpp"
 #include "Tweak/Respring.hpp"
@@ -42,6 +43,7 @@ __attribute__((constructor)) void start()
     ObjC::AutoreleasePool pool;
     registerWKSPalette();
     registerLYRLocalization();
+    registerColourSheet();
     loadAFont();
     // Brings the weather classes into the process.
     dlopen("/System/Library/PrivateFrameworks/Weather.framework/Weather", RTLD_LAZY);

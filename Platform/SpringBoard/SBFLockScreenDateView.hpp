@@ -30,6 +30,7 @@ class FLockScreenDateViewController
 public:
     using Class_::Class_;
     FLockScreenDateView dateView() const { return send<FLockScreenDateView, "dateView">(); }
+    void updateView() const { send<void, "_updateView">(); }
     /// The extension's own: a full refresh of everything it shows.
     void updateTime() const { send<void, "updateTime">(); }
 };

@@ -45,6 +45,11 @@ public:
     {
         send<void, "setImage:forSegmentAtIndex:">(image, index);
     }
+    /// Whether a segment is as wide as what is in it asks for, rather than as wide as all others.
+    void setApportionsSegmentWidthsByContent(bool apportions) const
+    {
+        send<void, "setApportionsSegmentWidthsByContent:">(apportions);
+    }
     long selectedSegmentIndex() const { return send<long, "selectedSegmentIndex">(); }
     void setSelectedSegmentIndex(long index) const { send<void, "setSelectedSegmentIndex:">(index); }
     void setSelectedSegmentTintColor(const Color& color) const { send<void, "setSelectedSegmentTintColor:">(color); }

@@ -14,6 +14,7 @@
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
+#include <numeric>
 
 namespace Simulator {
 
@@ -127,22 +128,34 @@ UI::Font UISegmentedControl::fontOf(bool isSelected) const
     return isSelected ? UI::Font::boldSystemFontOfSize(titleSize) : UI::Font::systemFontOfSize(titleSize);
 }
 
-CGSize UISegmentedControl::sizeThatFits(CGSize) const
+/// What the segments ask for: each for itself, or all for as much as the widest.
+std::vector<double> UISegmentedControl::naturalWidths() const
 {
-    double widest = 0;
+    std::vector<double> widths;
     for (const Segment& segment : segments) {
         const double width
             = segment.image ? segment.image.size().width : measureText(plainUtf8(segment.title), fontOf(true)).width;
-        widest = std::max(widest, width + 2 * margin);
+        widths.push_back(width + 2 * margin);
     }
-    return {widest * segments.size(), height};
+    if (!apportionsSegmentWidthsByContent && !widths.empty())
+        std::fill(widths.begin(), widths.end(), *std::max_element(widths.begin(), widths.end()));
+    return widths;
 }
 
+CGSize UISegmentedControl::sizeThatFits(CGSize) const
+{
+    const std::vector<double> widths = naturalWidths();
+    return {std::accumulate(widths.begin(), widths.end(), 0.0), height};
+}
+
+/// The segments share the whole width in proportion to what they ask for.
 Graphics::Rect UISegmentedControl::frameOf(std::size_t index) const
 {
     const Graphics::Rect area = toGraphics(bounds());
-    const double width = area.width / segments.size();
-    return {area.x + index * width, area.y, width, area.height};
+    const std::vector<double> widths = naturalWidths();
+    const double scale = area.width / std::accumulate(widths.begin(), widths.end(), 0.0);
+    const double before = std::accumulate(widths.begin(), widths.begin() + index, 0.0);
+    return {area.x + before * scale, area.y, widths[index] * scale, area.height};
 }
 
 long UISegmentedControl::indexUnder(const NS::Object& touch) const
@@ -151,8 +164,12 @@ long UISegmentedControl::indexUnder(const NS::Object& touch) const
     const CGRect area = bounds();
     if (segments.empty() || !(area.size.width > 0))
         return noSegment;
-    const double place = (point.x - area.origin.x) / area.size.width * segments.size();
-    return std::clamp(static_cast<long>(place), 0L, static_cast<long>(segments.size()) - 1);
+    for (std::size_t i = 0; i + 1 < segments.size(); ++i) {
+        const Graphics::Rect frame = frameOf(i);
+        if (point.x < frame.x + frame.width)
+            return static_cast<long>(i);
+    }
+    return static_cast<long>(segments.size()) - 1;
 }
 
 bool UISegmentedControl::beginTracking(const NS::Object& touch, const NS::Object&)
@@ -257,6 +274,8 @@ void registerUISegmentedControl()
         .readonly<"selectedSegmentIndex", &Control::selectedSegmentIndex>()
         .def<"setSelectedSegmentIndex:", &Control::setSelectedSegmentIndex>()
         .property<"selectedSegmentTintColor", "setSelectedSegmentTintColor:", &Control::selectedSegmentTint>()
+        .property<"apportionsSegmentWidthsByContent", "setApportionsSegmentWidthsByContent:",
+            &Control::apportionsSegmentWidthsByContent>()
         .def<"titleTextAttributesForState:", &Control::titleTextAttributes>()
         .def<"setTitleTextAttributes:forState:", &Control::setTitleTextAttributes>()
         .def<"beginTrackingWithTouch:withEvent:", &Control::beginTracking>()

@@ -38,6 +38,7 @@ struct UISegmentedControl : UIControl {
 
     long selectedSegmentIndex = UI::SegmentedControl::noSegment;
     UI::Color selectedSegmentTint;
+    bool apportionsSegmentWidthsByContent = false;
 
 private:
     /// A title or an image; the other is nil.
@@ -46,6 +47,7 @@ private:
         UI::Image image;
     };
     void insert(Segment segment, unsigned long index);
+    std::vector<double> naturalWidths() const;
     Graphics::Rect frameOf(std::size_t index) const;
     long indexUnder(const NS::Object& touch) const;
     Graphics::Layer contentOf(std::size_t index) const;

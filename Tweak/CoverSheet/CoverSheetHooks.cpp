@@ -2,6 +2,10 @@
 
 #include "Platform/ObjC/Hook.hpp"
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
+#include "Tweak/Editor/ColourSheet.hpp"
+#include "Tweak/Editor/EditMode.hpp"
+#include "Tweak/Editor/EditorViews.hpp"
+#include "Tweak/Editor/PanelBuilder.hpp"
 #include "Tweak/Lifecycle/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/Views.hpp"
@@ -13,11 +17,16 @@ void CSCoverSheetViewController_viewDidLoad(CS::CoverSheetViewController self, S
 {
     stock<CSCoverSheetViewController_viewDidLoad>(self, cmd);
     createStrip(self);
+    _pressLong = self;
+    if (!_optionView)
+        buildEditor(self);
+    installLongPress();
 }
 
 void CSCoverSheetViewController_viewWillAppear(CS::CoverSheetViewController self, SEL cmd, bool animated)
 {
     stock<CSCoverSheetViewController_viewWillAppear>(self, cmd, animated);
+    installLongPress();
     stopTimer(_timerLastLook);
     _widgetView->setAlpha(1);
     refreshWeather();
@@ -28,9 +37,13 @@ void CSCoverSheetViewController_viewWillAppear(CS::CoverSheetViewController self
 void CSCoverSheetViewController_viewWillDisappear(CS::CoverSheetViewController self, SEL cmd, bool animated)
 {
     stock<CSCoverSheetViewController_viewWillDisappear>(self, cmd, animated);
+    _colorWellSheet->closeView();
     for (const auto* timer : {&_timerWidget, &_timerLock, &_timer, &_timerLastLook})
         stopTimer(*timer);
+    leaveEditor();
+    removeLongPress();
     _notifVC->scrollView().setHidden(false);
+    _colorPickerPress = false;
 }
 
 void CSCoverSheetViewController_requestUpdateWidget(CS::CoverSheetViewController, SEL)

@@ -1,17 +1,23 @@
-// The editor's two pickers: fonts, and what the date line shows. The cover sheet is their data source.
+// The editor's two wheels: fonts, and what the date line shows. The cover sheet is their data source and delegate.
 #pragma once
 
-#include "Platform/SpringBoard/CSCoverSheetViewController.hpp"
+#include "Tweak/Editor/EditState.hpp"
+#include "Platform/UIKit/UIPickerView.hpp"
 
 namespace LYR {
 
-/// The picker of fonts and the picker of date-line options; nil until the editor is built.
-extern constinit ObjC::Variable<UI::View> _pickerView1, _pickerView2;
+/// Turns the wheels to the rows that are stored for the element.
+void showStoredRows(Tab tab);
 
+// All added.
 long CSCoverSheetViewController_numberOfComponentsInPickerView(
-    CS::CoverSheetViewController self, SEL cmd, UI::View picker);
+    CS::CoverSheetViewController self, SEL cmd, UI::PickerView picker);
 /// The font list is gathered anew at every request, so that fonts registered since the last one appear at once.
 long CSCoverSheetViewController_pickerView_numberOfRowsInComponent(
-    CS::CoverSheetViewController self, SEL cmd, UI::View picker, long component);
+    CS::CoverSheetViewController self, SEL cmd, UI::PickerView picker, long component);
+UI::View CSCoverSheetViewController_pickerView_viewForRow(
+    CS::CoverSheetViewController self, SEL cmd, UI::PickerView picker, long row, long component, UI::View reused);
+void CSCoverSheetViewController_pickerView_didSelectRow(
+    CS::CoverSheetViewController self, SEL cmd, UI::PickerView picker, long row, long component);
 
 }

@@ -2,6 +2,10 @@
 
 #include "Platform/ObjC/Hook.hpp"
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
+#include "Tweak/Editor/ColourSheet.hpp"
+#include "Tweak/Editor/EditMode.hpp"
+#include "Tweak/Editor/EditorViews.hpp"
+#include "Tweak/Editor/Overlay.hpp"
 #include "Tweak/Lifecycle/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/Views.hpp"
@@ -38,19 +42,26 @@ void SBHomeScreenViewController_viewWillAppear(UI::ViewController self, SEL cmd,
 {
     stock<SBHomeScreenViewController_viewWillAppear>(self, cmd, animated);
     stopAllTimers();
+    removeOverlay();
+    removeWidgetButton();
+    removeLongPress();
 }
 
 void SpringBoard_didReceiveMemoryWarning(UI::Responder self, SEL cmd)
 {
     stock<SpringBoard_didReceiveMemoryWarning>(self, cmd);
     stopAllTimers();
+    removeOverlay();
+    removeWidgetButton();
 }
 
 void SpringBoard_frontDisplayDidChange(UI::Responder self, SEL cmd, NS::Object application)
 {
     stock<SpringBoard_frontDisplayDidChange>(self, cmd, application);
-    if (_enabled && application)
-        stopAllTimers();
+    if (!_enabled || !application)
+        return;
+    stopAllTimers();
+    removeOverlay();
 }
 
 // The stock dial never shows: the clock has a timer line of its own.
@@ -63,10 +74,12 @@ void SBLockScreenTimerDialView_didMoveToWindow(UI::View self, SEL cmd)
 void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, int source, NS::Object options)
 {
     stock<SBLockScreenManager_lockUIFromSource>(self, cmd, source, options);
+    _colorWellSheet->closeView();
     coverView->send<void, "doneButton:">(ObjC::Object());
     stopTimer(_timer);
     stopTimer(_timerWidget);
     _screenOn = false;
+    hideOverlay();
     if (isLastLookInstalled() && _showWidgetLastLook)
         keepUpUnderLastLook(self);
     else {
@@ -74,6 +87,8 @@ void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, i
         stopTimer(_timerLock);
         stopTimer(_timerLastLook);
     }
+    removeOverlay();
+    _buttonCL->setHidden(true);
     _dateBorderView->setHidden(true);
     _timeBorderView->setHidden(true);
 }
@@ -93,6 +108,7 @@ void SBBacklightController_turnOnScreenFully(SB::BacklightController self, SEL c
     if (!_timerLock)
         _timerLock = NS::Timer::scheduled(1.0, self, ObjC::selector<"requestUpdateWidget">(), false);
     showWidgets();
+    _buttonCL->setHidden(false);
     _screenOn = true;
     // The test is the opposite of the one at lock time.
     if (!isLastLookInstalled() && _showWidgetLastLook)

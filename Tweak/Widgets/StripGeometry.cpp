@@ -4,42 +4,9 @@
 #include "Tweak/Views.hpp"
 #include "Tweak/Widgets/BatterySlot.hpp"
 
-#include <algorithm>
-#include <span>
-
 namespace LYR {
 
 namespace {
-
-/// Across its slot a view lies from its left end on, from one end to the other, or about its middle.
-struct Place {
-    enum Across { fromLeft, throughout, aboutMiddle } across;
-    const id* view;
-    /// From the left end of the slot to that of the view, or from middle to middle.
-    CGFloat x;
-    /// The view's width, or what it leaves free at the right.
-    CGFloat width;
-    CGFloat y;
-    CGFloat height;
-};
-
-template <class T>
-constexpr Place fromLeft(const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height)
-{
-    return {Place::fromLeft, view.address(), x, width, y, height};
-}
-
-template <class T>
-constexpr Place throughout(const ObjC::Variable<T>& view, CGFloat left, CGFloat right, CGFloat y, CGFloat height)
-{
-    return {Place::throughout, view.address(), left, right, y, height};
-}
-
-template <class T>
-constexpr Place aboutMiddle(const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height)
-{
-    return {Place::aboutMiddle, view.address(), x, width, y, height};
-}
 
 constexpr Place weatherInOneCell[] = {
     aboutMiddle(_HL, 0, 44, 6, 44),
@@ -84,51 +51,31 @@ constexpr Place batteryBar[] = {
     throughout(_batteryBarLabel, -7, 0, 39, 18),
 };
 
-CGRect frameOf(const Place& place, const Slot& slot)
-{
-    switch (place.across) {
-    case Place::fromLeft:
-        return CGRectMake(slot.x + place.x, place.y, place.width, place.height);
-    case Place::throughout:
-        return CGRectMake(
-            slot.x + place.x, place.y, std::max<CGFloat>(slot.width - place.x - place.width, 0), place.height);
-    case Place::aboutMiddle:
-        return CGRectMake(slot.middle() + place.x - place.width / 2, place.y, place.width, place.height);
-    }
-    return {};
-}
-
-void give(std::span<const Place> places, const Slot& slot)
-{
-    for (const Place& place : places)
-        UI::View(*place.view).setFrame(frameOf(place, slot));
-}
-
 }
 
 void placeWeather(WeatherOption option, const Slot& slot)
 {
-    option == WeatherOption::oneCell ? give(weatherInOneCell, slot) : give(weatherInTwoCells, slot);
+    option == WeatherOption::oneCell ? place(weatherInOneCell, slot) : place(weatherInTwoCells, slot);
 }
 
 void placeAgenda(const Slot& slot)
 {
     bool alone = !_upS->image() && _pm->text().length() == 0;
-    give(agendaIconAndMore, slot);
+    place(agendaIconAndMore, slot);
     if (alone)
-        give(agendaIconAlone, slot);
-    give(agendaText, slot);
+        place(agendaIconAlone, slot);
+    place(agendaText, slot);
 }
 
 void placeBattery(BatteryOption option, const Slot& slot)
 {
     switch (option) {
     case BatteryOption::percentage:
-        return give(batteryWithPercentage, slot);
+        return place(batteryWithPercentage, slot);
     case BatteryOption::phone:
-        return give(batteryUnderPhone, slot);
+        return place(batteryUnderPhone, slot);
     case BatteryOption::bar:
-        give(batteryBar, slot);
+        place(batteryBar, slot);
         return placeBatteryIndicator();
     }
 }

@@ -1,18 +1,10 @@
 // Where everything lies in the strip, in points.
 #pragma once
 
-#include "Platform/CoreGraphics/CGGeometry.hpp"
+#include "Tweak/Placement.hpp"
 #include "Tweak/Widgets/StripOptions.hpp"
 
 namespace LYR {
-
-/// The part of the strip that one widget has.
-struct Slot {
-    CGFloat x = 0;
-    CGFloat width = 0;
-
-    CGFloat middle() const { return x + width / 2; }
-};
 
 /// The strip's frame, and the three slots in its coordinates.
 struct StripGeometry {

@@ -11,7 +11,6 @@ namespace LYR {
 
 namespace {
 
-constexpr long aspectFit = 1;
 constexpr CGFloat smallestText = 0.6;
 
 struct LabelRow {
@@ -60,7 +59,7 @@ constexpr PictureRow pictures[] = {
 void buildPicture(const PictureRow& row)
 {
     auto picture = UI::ImageView::make();
-    picture.setContentMode(aspectFit);
+    picture.setContentMode(UI::ViewContentMode::scaleAspectFit);
     _widgetView->addSubview(picture);
     keepView(*row.variable, picture, NS::String::fromUTF8(row.name));
 }
@@ -98,8 +97,8 @@ void buildStripViews()
     for (const LabelRow& row : labels)
         buildLabel(row);
     // The parts of the bar keep their ends round at every length.
-    _batteryBarBackground->setContentMode(0);
-    _batteryBarIndicator->setContentMode(0);
+    _batteryBarBackground->setContentMode(UI::ViewContentMode::scaleToFill);
+    _batteryBarIndicator->setContentMode(UI::ViewContentMode::scaleToFill);
     auto bolt = resourceIcon("/Library/Application Support/lyr.bundle/Battery16/Bolt.png"_ns);
     _BC->setImage(bolt);
     _BC2->setImage(bolt);

@@ -15,7 +15,8 @@ namespace Simulator::Control {
 namespace {
 
 /// Variables of the extension that hold no object.
-const std::set<std::string> flags = {"isTimerRunning", "_isLPM", "_axonVisible", "_screenOn"};
+const std::set<std::string> flags = {"isTimerRunning", "_isLPM", "_axonVisible", "_screenOn", "_timePress",
+    "_datePress", "_widgetPress", "_colorPickerPress"};
 const std::set<std::string> numbers = {"_startTime", "_startLastLook"};
 
 id classNamed(const std::string& name)

@@ -1,0 +1,14 @@
+// A button of two states on the lock screen: low-power mode.
+#pragma once
+
+#include "Platform/SpringBoard/CSCoverSheetViewController.hpp"
+
+namespace LYR {
+
+void buildBatterySaverButtons(const CS::CoverSheetViewController& controller);
+
+// Both added: low-power mode on, and off.
+void CSCoverSheetViewController_didPressButtonCL(CS::CoverSheetViewController self, SEL cmd, ObjC::Object sender);
+void CSCoverSheetViewController_didPressButtonCL2(CS::CoverSheetViewController self, SEL cmd, ObjC::Object sender);
+
+}

@@ -1,0 +1,31 @@
+#include "Tweak/Placement.hpp"
+
+#include <algorithm>
+
+namespace LYR {
+
+static CGRect frameOf(const Place& place, const Slot& slot)
+{
+    const auto at = [&](CGFloat x, CGFloat width) { return CGRectMake(x, place.y, width, place.height); };
+    switch (place.across) {
+    case Place::fromLeft:
+        return at(slot.x + place.x, place.width);
+    case Place::fromRight:
+        return at(slot.x + slot.width - place.x - place.width, place.width);
+    case Place::throughout:
+        return at(slot.x + place.x, std::max<CGFloat>(slot.width - place.x - place.width, 0));
+    case Place::aboutMiddle:
+        return at(slot.middle() + place.x - place.width / 2, place.width);
+    case Place::aboutShare:
+        return at(slot.x + slot.width * place.x - place.width / 2, place.width);
+    }
+    return {};
+}
+
+void place(std::span<const Place> places, const Slot& slot)
+{
+    for (const Place& row : places)
+        UI::View(*row.view).setFrame(frameOf(row, slot));
+}
+
+}

@@ -1,0 +1,64 @@
+// Frames out of tables: where views lie across the part of a screen, a strip or a panel that is theirs.
+#pragma once
+
+#include "Platform/UIKit/UIView.hpp"
+
+#include <span>
+
+namespace LYR {
+
+/// A part of the width, in the coordinates of the view that it is a part of.
+struct Slot {
+    CGFloat x = 0;
+    CGFloat width = 0;
+
+    CGFloat middle() const { return x + width / 2; }
+};
+
+/// Across its slot a view lies from its left end on, up to its right end, from one end to the other, or about a point.
+struct Place {
+    enum Across { fromLeft, fromRight, throughout, aboutMiddle, aboutShare } across;
+    const id* view;
+    /// From the end of the slot to that of the view, from middle to middle, or the share of the slot that lies left of
+    /// the view's middle.
+    CGFloat x;
+    /// The view's width, or what it leaves free at the right.
+    CGFloat width;
+    CGFloat y;
+    CGFloat height;
+};
+
+template <class T>
+constexpr Place fromLeft(const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height)
+{
+    return {Place::fromLeft, view.address(), x, width, y, height};
+}
+
+template <class T>
+constexpr Place fromRight(const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height)
+{
+    return {Place::fromRight, view.address(), x, width, y, height};
+}
+
+template <class T>
+constexpr Place throughout(const ObjC::Variable<T>& view, CGFloat left, CGFloat right, CGFloat y, CGFloat height)
+{
+    return {Place::throughout, view.address(), left, right, y, height};
+}
+
+template <class T>
+constexpr Place aboutMiddle(const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height)
+{
+    return {Place::aboutMiddle, view.address(), x, width, y, height};
+}
+
+template <class T>
+constexpr Place aboutShare(const ObjC::Variable<T>& view, CGFloat share, CGFloat width, CGFloat y, CGFloat height)
+{
+    return {Place::aboutShare, view.address(), share, width, y, height};
+}
+
+/// Gives each view of the table its frame.
+void place(std::span<const Place> places, const Slot& slot);
+
+}
