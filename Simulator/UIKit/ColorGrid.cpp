@@ -16,6 +16,8 @@ constexpr double gridRadius = 8;
 constexpr double markWidth = 3;
 /// The rows below the greys: full saturation up to here, full brightness from here on.
 constexpr int brightestRow = 5;
+/// Each cell reaches a little under its neighbours, so that no gap shows between pixels.
+constexpr double overlap = 0.5;
 constexpr double darkest = 0.3;
 constexpr double palest = 0.2;
 
@@ -75,7 +77,7 @@ void UIColorGridView::decorate(Graphics::Layer& layer) const
     const double width = size.width / columns, height = size.height / rows;
     for (int row = 0; row < rows; ++row) {
         for (int column = 0; column < columns; ++column) {
-            auto cell = makeBox({column * width, row * height, width, height},
+            auto cell = makeBox({column * width, row * height, width + overlap, height + overlap},
                 resolvedColor(colorAt(row, column)).value_or(Graphics::Color()));
             if (selected == Cell{row, column}) {
                 cell.borderWidth = markWidth;

@@ -21,7 +21,7 @@ constexpr CGSize wellSize = {28, 28};
 /// Of the rainbow ring and of the gap inside it, for each point of the well's size.
 constexpr double ringWidth = 0.11;
 constexpr double gapWidth = 0.06;
-constexpr int ringSteps = 48;
+constexpr int ringSteps = 96;
 
 }
 
@@ -65,7 +65,8 @@ void UIColorWell::openSheet()
 
 void UIColorWell::closeSheet()
 {
-    if (auto* open = standInOrNull<UIColorSheetView>(std::exchange(sheet, {})))
+    const UI::View closing = std::exchange(sheet, {});
+    if (auto* open = standInOrNull<UIColorSheetView>(closing))
         open->dismiss();
 }
 

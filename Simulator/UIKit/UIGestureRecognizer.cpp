@@ -43,7 +43,7 @@ void UIGestureRecognizer::setEnabled(bool wanted)
     if (!enabled && (state == State::began || state == State::changed))
         changeState(State::cancelled);
     else if (!enabled)
-        fail();
+        reset();
 }
 
 void UIGestureRecognizer::follow(const UITouch& touch)

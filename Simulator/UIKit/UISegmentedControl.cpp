@@ -204,7 +204,7 @@ Graphics::Layer UISegmentedControl::contentOf(std::size_t index) const
 {
     const Segment& segment = segments[index];
     const bool isSelected = static_cast<long>(index) == selectedSegmentIndex;
-    const Graphics::Rect area = frameOf(index).insetBy(inset + 2, inset);
+    const Graphics::Rect area = frameOf(index).insetBy(inset, inset);
     Graphics::Color ink = systemColor("labelColor");
     for (unsigned long state : {normalState, isSelected ? selectedState : normalState}) {
         const auto color = titleTextAttributes(state).objectForKey<UI::Color>(NS::String::fromUTF8(colorAttribute));
