@@ -20,8 +20,6 @@ public:
     void setBackgroundColor(CGColorRef color) const { send<void, "setBackgroundColor:">(color); }
     CGColorRef backgroundColor() const { return send<CGColorRef, "backgroundColor">(); }
     void setMasksToBounds(bool masks) const { send<void, "setMasksToBounds:">(masks); }
-    /// Only what lies behind the mask's opaque parts is shown.
-    void setMask(const Layer& mask) const { send<void, "setMask:">(mask); }
     void addSublayer(const Layer& layer) const { send<void, "addSublayer:">(layer); }
     void insertSublayerAtIndex(const Layer& layer, unsigned index) const
     {

@@ -20,6 +20,15 @@ TEST(Symbols, HaveThoseOfTheStockLockScreen)
         EXPECT_TRUE(symbols.contains(name)) << name;
 }
 
+TEST(Symbols, HaveThoseOfControlsAndPanels)
+{
+    const SymbolSet symbols(SYMBOL_FOLDER);
+    for (const char* name : {"text.alignleft", "text.aligncenter", "text.alignright", "1.circle", "2.circle",
+             "3.circle", "arrow.left.and.right", "arrow.up.and.down", "alarm.fill", "calendar", "info.circle",
+             "xmark.circle.fill", "battery.25", "bolt.fill", "bolt.slash.fill", "checkmark"})
+        EXPECT_TRUE(symbols.contains(name)) << name;
+}
+
 TEST(Symbols, AllDrawSomething)
 {
     const SymbolSet symbols(SYMBOL_FOLDER);

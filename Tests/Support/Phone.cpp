@@ -49,6 +49,21 @@ Json Phone::send(const Json& target, const std::string& selector, const Json& ar
     return call("objc.send", {{"target", target}, {"selector", selector}, {"args", arguments}}).at("value");
 }
 
+void Phone::pressAt(double x, double y, double seconds)
+{
+    call("touch.press", {{"at", {x, y}}, {"seconds", seconds}});
+}
+
+void Phone::drag(Point from, Point to, double seconds)
+{
+    call("touch.drag", {{"from", from}, {"to", to}, {"seconds", seconds}});
+}
+
+void Phone::trackControl(const std::string& id, const Json& value)
+{
+    call("control.set", {{"id", id}, {"value", value}, {"tracking", true}});
+}
+
 std::vector<Json> Phone::takeLog(const std::string& kind)
 {
     const Json records = call("log.take").at("records");

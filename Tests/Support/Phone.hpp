@@ -67,7 +67,22 @@ public:
     Range range(const std::string& id) { return Range(get(id)); }
     Segments segments(const std::string& id) { return Segments(get(id)); }
     Button button(const std::string& id) { return Button(get(id)); }
+    Picker picker(const std::string& id) { return Picker(get(id)); }
+    ColourWell colourWell(const std::string& id) { return ColourWell(get(id)); }
     Json get(const std::string& id) { return call("view.get", {{"id", id}}); }
+
+    // A finger: on a view's middle, at a point of the screen, or in steps.
+    void tap(const std::string& id) { call("touch.tap", {{"id", id}}); }
+    void tapAt(double x, double y) { call("touch.tap", {{"at", {x, y}}}); }
+    void press(const std::string& id, double seconds = 0.6) { call("touch.press", {{"id", id}, {"seconds", seconds}}); }
+    void pressAt(double x, double y, double seconds = 0.6);
+    void drag(Point from, Point to, double seconds = 0.3);
+    void down(double x, double y) { call("touch.down", {{"at", {x, y}}}); }
+    void move(double x, double y) { call("touch.move", {{"at", {x, y}}}); }
+    void up(double x, double y) { call("touch.up", {{"at", {x, y}}}); }
+    // Leaves a control as a finger would.
+    void setControl(const std::string& id, const Json& value) { call("control.set", {{"id", id}, {"value", value}}); }
+    void trackControl(const std::string& id, const Json& value);
 
     // What is stored, and what the extension's variable holds of it.
     Json settings() { return call("settings.get").at("values"); }

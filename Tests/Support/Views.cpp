@@ -80,6 +80,20 @@ Segments::Segments(const Json& reply)
 {
 }
 
+Picker::Picker(const Json& reply)
+    : View(reply)
+    , rows(reply.at("rows"))
+    , selected(reply.at("selected"))
+{
+}
+
+ColourWell::ColourWell(const Json& reply)
+    : View(reply)
+    , title(ifThere<std::string>(reply, "title"))
+    , selected(ifThere<std::string>(reply, "selected"))
+{
+}
+
 Button::Button(const Json& reply)
     : View(reply)
     , title(ifThere<std::string>(reply, "title"))

@@ -11,6 +11,7 @@ namespace Support {
 
 using Json = nlohmann::json;
 using Rectangle = std::array<double, 4>; // x, y, width, height
+using Point = std::array<double, 2>; // x, y
 using Colour = std::optional<std::string>; // "#RRGGBBAA"
 
 struct View {
@@ -62,6 +63,20 @@ struct Segments : View {
 
     std::vector<std::string> segments;
     int selected;
+};
+
+struct Picker : View {
+    explicit Picker(const Json& reply);
+
+    int rows;
+    int selected;
+};
+
+struct ColourWell : View {
+    explicit ColourWell(const Json& reply);
+
+    std::optional<std::string> title;
+    Colour selected;
 };
 
 struct Button : View {
