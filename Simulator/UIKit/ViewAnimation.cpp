@@ -38,6 +38,16 @@ bool runAnimations(double duration, double delay, UI::AnimationOptions options, 
     return duration > 0 && transaction.animate(delay, duration, curveOf(options));
 }
 
+/// Under a real clock somebody may be watching: the loop has something to do for each frame, after which it is drawn.
+void keepFramesComing(double end)
+{
+    constexpr double frame = 1.0 / 60;
+    Loop& loop = Loop::shared();
+    if (loop.clockKind() == ClockKind::Real && loop.uptime() < end)
+        loop.schedule(
+            frame, [end] { keepFramesComing(end); }, WorkKind::Animation);
+}
+
 void runCompletion(double seconds, void* completion)
 {
     const KeptBlock<void(bool)> block(completion);
@@ -54,6 +64,8 @@ void animateWithDelay(double duration, double delay, UI::AnimationOptions option
     delay = secondsOf(delay);
     record(duration, delay, options);
     const bool moves = runAnimations(duration, delay, options, animations);
+    if (moves)
+        keepFramesComing(Loop::shared().uptime() + delay + duration);
     runCompletion(moves ? delay + duration : 0, completion);
 }
 

@@ -68,6 +68,20 @@ TEST(Methods, TakeNullForWhatCanBeTakenAway)
     EXPECT_NE(complaintAbout("device.set", {{"battery", nullptr}}), "");
 }
 
+TEST(Methods, TouchAtPointsOrViews)
+{
+    EXPECT_EQ(complaintAbout("touch.tap", {{"at", {1, 2.5}}}), "");
+    EXPECT_EQ(complaintAbout("touch.tap", {{"id", "_done"}}), "");
+    EXPECT_EQ(complaintAbout("touch.press", {{"at", {1, 2}}, {"seconds", 0.6}}), "");
+    EXPECT_EQ(complaintAbout("touch.drag", {{"from", {1, 2}}, {"to", {3, 4}}, {"seconds", 0}}), "");
+    EXPECT_EQ(complaintAbout("touch.tap", {{"at", {1, 2, 3}}}), "parameter \"at\" takes a point [x, y], not [1,2,3]");
+    EXPECT_EQ(complaintAbout("touch.press", {{"at", {1, 2}}, {"seconds", 61}}),
+        "parameter \"seconds\" takes a number from 0 to 60, not 61");
+    EXPECT_EQ(complaintAbout("touch.drag", {{"from", {1, 2}}}), "missing parameter \"to\": it takes a point [x, y]");
+    EXPECT_EQ(complaintAbout("control.set", {{"id", "_sliderX"}, {"value", 12}, {"tracking", true}}), "");
+    EXPECT_NE(complaintAbout("control.set", {{"id", "_sliderX"}}), "");
+}
+
 TEST(Methods, SendToOneTarget)
 {
     const auto send = [](const Json& target) {
