@@ -2,6 +2,7 @@
 #include "LYRLocalization/LYRLocalization.hpp"
 
 #include "Platform/Foundation/Dispatch.hpp"
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSBundle.hpp"
 #include "Platform/Foundation/NSJSONSerialization.hpp"
 #include "Platform/Foundation/NSLocale.hpp"
@@ -101,7 +102,7 @@ void loadTranslations(LYRLocalization self, SEL, ObjC::Object file)
     auto name = file.as<NS::String>();
     if (name.length() == 0)
         return;
-    auto bundle = NS::Bundle::bundleWithPath("/Library/PreferenceBundles/LYRPrefs.bundle/"_ns);
+    auto bundle = NS::Bundle::bundleWithPath(LYR_PREFIX "/Library/PreferenceBundles/LYRPrefs.bundle/"_ns);
     auto url = bundle.URLForResource(name, "json"_ns);
     auto data = url ? NS::Data::dataWithContentsOfURL(url) : NS::Data();
     if (!data)

@@ -1,6 +1,7 @@
 // Both entries are written at every start, so that switching the setting off undoes them.
 #include "Tweak/AFont.hpp"
 
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSFileManager.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
 #include "Tweak/Settings.hpp"
@@ -11,7 +12,7 @@ namespace LYR {
 
 constinit ObjC::Variable<NS::MutableDictionary> _prefsAFont;
 
-static constexpr const char library[] = "/Library/MobileSubstrate/DynamicLibraries/AFont.dylib";
+static constexpr const char library[] = LYR_PREFIX "/Library/MobileSubstrate/DynamicLibraries/AFont.dylib";
 
 void loadAFont()
 {

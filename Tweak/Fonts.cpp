@@ -3,6 +3,7 @@
 
 #include "Platform/CoreText/CTFontManager.hpp"
 #include "Platform/Foundation/CFBase.hpp"
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSData.hpp"
 #include "Platform/Foundation/NSFileManager.hpp"
 #include "Platform/Foundation/NSLog.hpp"
@@ -32,11 +33,11 @@ struct BuiltInFont {
 
 // In the order of loading.
 const BuiltInFont builtInFonts[] = {
-    {[] { return "/Library/Application Support/lyr.bundle/time1.ttf"_ns; }, &_font1},
-    {[] { return "/Library/Application Support/lyr.bundle/time2.ttf"_ns; }, &_font2},
-    {[] { return "/Library/Application Support/lyr.bundle/time3.ttf"_ns; }, &_font3},
-    {[] { return "/Library/Application Support/lyr.bundle/time4.ttf"_ns; }, &_font4},
-    {[] { return "/Library/Application Support/lyr.bundle/date.ttf"_ns; }, &_font5},
+    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time1.ttf"_ns; }, &_font1},
+    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time2.ttf"_ns; }, &_font2},
+    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time3.ttf"_ns; }, &_font3},
+    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time4.ttf"_ns; }, &_font4},
+    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/date.ttf"_ns; }, &_font5},
 };
 
 void logFailure(const NS::String& prefix, id error)
@@ -93,7 +94,7 @@ void enter(const NS::MutableDictionary& table, const NS::String& name, const NS:
 
 void registerUserFonts()
 {
-    auto folder = "/Library/Application Support/LYRFont/"_ns;
+    auto folder = LYR_PREFIX "/Library/Application Support/LYRFont/"_ns;
     auto table = NS::MutableDictionary::dictionary();
     auto names = NS::FileManager::defaultManager().contentsOfDirectoryAtPath(folder);
     // The text system gathers its own fonts before it is given more.

@@ -1,5 +1,6 @@
 #include "Tweak/Clock/SubtitleHooks.hpp"
 
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/ObjC/Hook.hpp"
 #include "Tweak/Clock/ClockLabels.hpp"
 #include "Tweak/Clock/DateLineIcon.hpp"
@@ -20,7 +21,7 @@ NS::MutableAttributedString timerIcon()
     auto line = NS::MutableAttributedString::withString(""_ns);
     line.appendAttributedString(
         dateLineIcon(templateThroughPNG(
-            UI::Image::imageNamed("/Library/Application Support/lyr.bundle/SS16/timer.png"_ns))));
+            UI::Image::imageNamed(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/timer.png"_ns))));
     return line;
 }
 

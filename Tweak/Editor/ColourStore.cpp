@@ -1,6 +1,7 @@
 #include "Tweak/Editor/ColourStore.hpp"
 
 #include "Platform/Foundation/CFNotificationCenter.hpp"
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSDictionary.hpp"
 
 namespace LYR {
@@ -14,9 +15,9 @@ struct Row {
 };
 
 constexpr Row rows[tabCount] = {
-    {[] { return "/Library/PreferenceBundles/LYRPrefs.bundle/subTime.plist"_ns; }, {"colourTime"}},
-    {[] { return "/Library/PreferenceBundles/LYRPrefs.bundle/subDate.plist"_ns; }, {"colourDate"}},
-    {[] { return "/Library/PreferenceBundles/LYRPrefs.bundle/subWidget.plist"_ns; },
+    {[] { return LYR_PREFIX "/Library/PreferenceBundles/LYRPrefs.bundle/subTime.plist"_ns; }, {"colourTime"}},
+    {[] { return LYR_PREFIX "/Library/PreferenceBundles/LYRPrefs.bundle/subDate.plist"_ns; }, {"colourDate"}},
+    {[] { return LYR_PREFIX "/Library/PreferenceBundles/LYRPrefs.bundle/subWidget.plist"_ns; },
         {"colourWidget", "colourTextWidget"}},
 };
 

@@ -1,5 +1,6 @@
 #include "Tweak/Editor/FontNotice.hpp"
 
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/SpringBoard/SpringBoard.hpp"
 #include "Tweak/Editor/EditorViews.hpp"
 #include "Tweak/Editor/Feedback.hpp"
@@ -51,7 +52,7 @@ void CSCoverSheetViewController_openFolderButton(CS::CoverSheetViewController se
 void CSCoverSheetViewController_linkTapped(CS::CoverSheetViewController, SEL)
 {
     SB::SpringBoard::sharedApplication().simulateHomeButtonPress();
-    if (open("filza://view/Library/Application%20Support/LYRFont/"_ns))
+    if (open("filza://view" LYR_PREFIX "/Library/Application%20Support/LYRFont/"_ns))
         return;
     open("https://duckduckgo.com/?q=filza"_ns);
     open("ddgquicklink://duckduckgo.com/?q=filza"_ns);

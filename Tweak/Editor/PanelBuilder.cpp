@@ -1,5 +1,6 @@
 #include "Tweak/Editor/PanelBuilder.hpp"
 
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Tweak/Editor/BatterySaverButtons.hpp"
 #include "Tweak/Editor/EditState.hpp"
 #include "Tweak/Editor/EditorViews.hpp"
@@ -92,7 +93,7 @@ constexpr LabelRow labels[] = {
     {&_alignLabel, "_alignLabel", "Alignment", 15, TextAlignment::left, 1, &_optionView},
     {&_sliderLabelX, "_sliderLabelX", "0", 15, TextAlignment::right, 1, &_optionView},
     {&_sliderLabelY, "_sliderLabelY", "0", 15, TextAlignment::right, 1, &_optionView},
-    {&_alertLabel, "_alertLabel", "Custom fonts are put in /Library/Application Support/LYRFont", 14,
+    {&_alertLabel, "_alertLabel", "Custom fonts are put in " LYR_PREFIX "/Library/Application Support/LYRFont", 14,
         TextAlignment::left, 3, &_alertView},
     {&_alertLabel2, "_alertLabel2", "Adding a new font may need a respring.", 14, TextAlignment::left, 2, &_alertView},
     {&_alertLabel3, "_alertLabel3", "Open Filza button only works on CoverSheet or Notifications Center", 14,

@@ -2,6 +2,7 @@
 
 #include "Platform/Companions/WeatherApp.hpp"
 #include "Platform/Foundation/Dispatch.hpp"
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSDate.hpp"
 #include "Platform/Foundation/NSFileManager.hpp"
 #include "Tweak/Views.hpp"
@@ -41,7 +42,7 @@ void updateDateViewAfterMilliseconds(std::int64_t delay)
 bool isLastLookInstalled()
 {
     return NS::FileManager::defaultManager().fileExistsAtPath(
-        "/Library/MobileSubstrate/DynamicLibraries/LastLook.dylib"_ns);
+        LYR_PREFIX "/Library/MobileSubstrate/DynamicLibraries/LastLook.dylib"_ns);
 }
 
 void refreshWeather()

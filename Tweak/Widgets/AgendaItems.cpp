@@ -1,6 +1,7 @@
 #include "Tweak/Widgets/AgendaItems.hpp"
 
 #include "Platform/EventKit/EKEventStore.hpp"
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Platform/SpringBoard/SBScheduledAlarmObserver.hpp"
 #include "Tweak/Settings.hpp"
@@ -73,12 +74,12 @@ NS::String firstEventText(const NS::Date& now)
 
 UI::Image alarmIcon()
 {
-    return resourceIcon("/Library/Application Support/lyr.bundle/SS16/alarm.png"_ns);
+    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/alarm.png"_ns);
 }
 
 UI::Image eventIcon()
 {
-    return resourceIcon("/Library/Application Support/lyr.bundle/SS16/calendar.png"_ns);
+    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/calendar.png"_ns);
 }
 
 }

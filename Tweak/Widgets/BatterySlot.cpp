@@ -1,5 +1,6 @@
 #include "Tweak/Widgets/BatterySlot.hpp"
 
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/UIKit/UIDevice.hpp"
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
 #include "Tweak/Settings.hpp"
@@ -59,7 +60,7 @@ NS::String percentage(float level)
 
 UI::Image batteryIcon(const NS::String& name)
 {
-    return resourceIcon("/Library/Application Support/lyr.bundle/Battery16/"_ns.stringByAppendingString(name)
+    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/Battery16/"_ns.stringByAppendingString(name)
             .stringByAppendingString(".png"_ns));
 }
 

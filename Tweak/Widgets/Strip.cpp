@@ -1,5 +1,6 @@
 #include "Tweak/Widgets/Strip.hpp"
 
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/UIKit/NSTextAttachment.hpp"
 #include "Platform/UIKit/UIScreen.hpp"
 #include "Tweak/Clock/ScreenWidth.hpp"
@@ -94,12 +95,12 @@ void showAgenda(const UI::Image& icon, const UI::Image& otherEnd, const NS::Stri
 
 UI::Image sunriseIcon()
 {
-    return resourceIcon("/Library/Application Support/lyr.bundle/SS16/up.png"_ns);
+    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/up.png"_ns);
 }
 
 UI::Image sunsetIcon()
 {
-    return resourceIcon("/Library/Application Support/lyr.bundle/SS16/down.png"_ns);
+    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/down.png"_ns);
 }
 
 void refreshAgendaSlot(const Items& items)

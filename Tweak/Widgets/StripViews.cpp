@@ -1,5 +1,6 @@
 #include "Tweak/Widgets/StripViews.hpp"
 
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Tweak/Clock/TextShadow.hpp"
 #include "Tweak/TemplateImage.hpp"
 #include "Tweak/Views.hpp"
@@ -99,7 +100,7 @@ void buildStripViews()
     // The parts of the bar keep their ends round at every length.
     _batteryBarBackground->setContentMode(UI::ViewContentMode::scaleToFill);
     _batteryBarIndicator->setContentMode(UI::ViewContentMode::scaleToFill);
-    auto bolt = resourceIcon("/Library/Application Support/lyr.bundle/Battery16/Bolt.png"_ns);
+    auto bolt = resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/Battery16/Bolt.png"_ns);
     _BC->setImage(bolt);
     _BC2->setImage(bolt);
 }

@@ -1,6 +1,7 @@
 #include "Tweak/Widgets/WeatherItems.hpp"
 
 #include "Platform/Companions/WeatherApp.hpp"
+#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/TemplateImage.hpp"
 
@@ -46,7 +47,7 @@ const Indicator& indicatorFor(long temperature, long low, long high)
 
 NS::String indicatorPath(const char* name)
 {
-    return "/Library/Application Support/lyr.bundle/HL16/"_ns.stringByAppendingString(NS::String::fromUTF8(name))
+    return LYR_PREFIX "/Library/Application Support/lyr.bundle/HL16/"_ns.stringByAppendingString(NS::String::fromUTF8(name))
         .stringByAppendingString(".png"_ns);
 }
 
