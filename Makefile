@@ -25,11 +25,13 @@ bench: packages
 	ninja -C build-bench -j $(JOBS) lyr_benchmarks share
 	build-bench/bin/lyr_benchmarks
 
-# The phone's own library.
+# The phone's own library, packed for both kinds of phone.
 package: packages
 	@$(GENERATE) --preset release
-	ninja -C build -j $(JOBS) phone
-	@echo build/phone/LYR_Pro.dylib
+	ninja -C build -j $(JOBS) packages
+	mkdir -p packages
+	cp build/packages/*.deb packages/
+	@ls packages/*.deb
 
 # The pictures of the README.
 pictures: build

@@ -65,7 +65,7 @@ inline auto implementationFor([[maybe_unused]] id receiver, [[maybe_unused]] SEL
     using Function = Result (*)(id, SEL, Arguments...);
 #if defined(__APPLE__)
 #if defined(__x86_64__)
-    if constexpr (!std::is_void_v<Result> && std::is_class_v<Result> && sizeof(Result) > 2 * sizeof(void*))
+    if constexpr (requires { requires sizeof(Result) > 2 * sizeof(void*); })
         return reinterpret_cast<Function>(&objc_msgSend_stret);
     else
 #endif
