@@ -8,6 +8,7 @@
 #include "Simulator/Control/Types.hpp"
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <iostream>
 #include <unistd.h>
 
@@ -45,8 +46,15 @@ struct Values {
     std::map<std::string, std::string> start; // single values of `phone.start`
     std::vector<std::string> languages;
     bool stdio = false;
+    std::string extension; // a host path
     int socket = -1;
 };
+
+void addExtension(CLI::App& command, Values& values)
+{
+    command.add_option("--extension", values.extension, "The extension: a library of Linux or of the phone")
+        ->type_name("FILE");
+}
 
 void addStartOptions(CLI::App& command, Values& values)
 {
@@ -87,6 +95,7 @@ void addRender(CLI::App& app, Values& values)
                 ? ""
                 : "takes width x height @ scale such as 375x812@3, at most 2048x2048@4, not " + quote(text);
         });
+    addExtension(command, values);
     addStartOptions(command, values);
 }
 
@@ -94,12 +103,15 @@ void addServe(CLI::App& app, Values& values)
 {
     CLI::App& command = *app.add_subcommand("serve", "Serve the control protocol to scripts and tests");
     command.add_flag("--stdio", values.stdio, "One JSON-RPC request a line in, one reply a line out")->required();
+    addExtension(command, values);
 }
 
 // How the program runs itself; nothing for users.
 void addShell(CLI::App& app, Values& values)
 {
-    app.add_subcommand("shell")->group("")->add_option("--fd", values.socket)->required();
+    CLI::App& command = *app.add_subcommand("shell")->group("");
+    command.add_option("--fd", values.socket)->required();
+    addExtension(command, values);
 }
 
 void describe(CLI::App& app, Values& values)
@@ -132,8 +144,23 @@ void logLine(const std::string& line)
 
 int runShell(const Values& values, const PhoneKind& kind)
 {
-    const auto shell = kind.make();
+    const auto shell = kind.make(values.extension);
     return ShellProcess(*shell, Descriptor(values.socket)).run();
+}
+
+// The file itself is looked at first, so that what is wrong with it is said at once.
+std::vector<std::string> shellCommand(const Values& values, const PhoneKind& kind)
+{
+    std::vector<std::string> command{"/proc/self/exe", "shell"};
+    if (values.extension.empty())
+        return command;
+    try {
+        kind.checkExtension(values.extension);
+    } catch (const std::exception& error) {
+        throw Failure(values.extension + ": cannot be loaded: " + error.what());
+    }
+    command.insert(command.end(), {"--extension", std::filesystem::absolute(values.extension).string()});
+    return command;
 }
 
 int runCommand(const CLI::App& app, Values& values, const PhoneKind& kind)
@@ -141,7 +168,7 @@ int runCommand(const CLI::App& app, Values& values, const PhoneKind& kind)
     if (app.got_subcommand("shell"))
         return runShell(values, kind);
     Supervisor::Options options;
-    options.shellCommand = {"/proc/self/exe", "shell"};
+    options.shellCommand = shellCommand(values, kind);
     options.methods = kind.methods;
     options.log = logLine;
     if (app.got_subcommand("serve"))

@@ -9,7 +9,8 @@ namespace Simulator::App {
 
 // The simulated phone that a shell process runs, and the methods it has.
 struct PhoneKind {
-    std::unique_ptr<Control::Shell> (*make)();
+    std::unique_ptr<Control::Shell> (*make)(const std::string& extension); // a host path; empty for the built one
+    void (*checkExtension)(const std::string& extension); // throws to say why it cannot be loaded
     const std::vector<Control::Method>& methods;
 };
 

@@ -30,6 +30,16 @@ void copyMissing(const fs::path& from, const fs::path& to)
     fs::copy(from, to, fs::copy_options::recursive | fs::copy_options::skip_existing);
 }
 
+/// A library that was asked for stands under the name that the phone's loader looks for first.
+void placeExtension(const fs::path& root, const std::string& extension)
+{
+    const fs::path library = under(root, std::string(ExtensionLoader::folder) + "LYR_Pro.dylib");
+    if (extension.empty())
+        fs::remove(library);
+    else
+        fs::copy_file(extension, library, fs::copy_options::overwrite_existing);
+}
+
 /// Other extensions are only looked for by name, so a file of that name is all there is of them.
 void placeOtherExtension(const fs::path& root, const std::string& name, bool isInstalled)
 {
@@ -42,7 +52,7 @@ void placeOtherExtension(const fs::path& root, const std::string& name, bool isI
 
 }
 
-void installFactoryContent(const Control::ShellStart& start)
+void installFactoryContent(const Control::ShellStart& start, const std::string& extension)
 {
     const fs::path system = shareFolder() / "System";
     const fs::path root = start.root;
@@ -55,6 +65,7 @@ void installFactoryContent(const Control::ShellStart& start)
     }
     fs::copy(under(system, ExtensionLoader::folder), under(root, ExtensionLoader::folder),
         fs::copy_options::overwrite_existing);
+    placeExtension(root, extension);
     const auto installed = start.parameters.value("installed", std::vector<std::string>());
     for (const std::string name : {"AFont", "LastLook"})
         placeOtherExtension(root, name, std::count(installed.begin(), installed.end(), name) > 0);

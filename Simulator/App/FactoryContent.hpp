@@ -7,9 +7,9 @@
 
 namespace Simulator::App {
 
-/// Puts into the root what is missing there; the extension itself is always this build's own.
-void installFactoryContent(const Control::ShellStart& start);
-
+/// Puts into the root what is missing there. The extension itself is always the given library of the host, or this
+/// build's own.
+void installFactoryContent(const Control::ShellStart& start, const std::string& extension);
 
 std::filesystem::path symbolFolder();
 

@@ -34,6 +34,11 @@ double hostNow()
 
 class SimulatedPhone : public Control::Shell {
 public:
+    explicit SimulatedPhone(std::string extension)
+        : _extension(std::move(extension))
+    {
+    }
+
     void addMethods(Control::Dispatcher& dispatcher) override
     {
         _context = std::make_unique<Control::PhoneContext>(_shell, dispatcher);
@@ -48,13 +53,13 @@ public:
     {
         ObjC::AutoreleasePool pool;
         PhoneFiles::shared().setRoot(start.root);
-        installFactoryContent(start);
+        installFactoryContent(start, _extension);
         setUpDevice(start);
         setUpClock(start);
         registerClasses();
         relaunchRequested() = [this] { _wantsRelaunch = true; };
         if (!start.isSafeMode && start.parameters.value("extension", true))
-            ExtensionLoader::shared().loadAll();
+            loadExtensions();
         _shell.start();
         _shell.commit();
     }
@@ -115,6 +120,16 @@ private:
         ActivityLog::shared().setClock([this] { return uptime(); });
     }
 
+    /// A broken library is left out, as on a phone; but one that was asked for must be there.
+    void loadExtensions()
+    {
+        const auto refuse = [this](const std::string&, const LoadError& error) {
+            throw std::runtime_error(_extension + ": cannot be loaded: " + error.what());
+        };
+        ExtensionLoader::shared().loadAll(
+            _extension.empty() ? ExtensionLoader::reportOnStandardError : ExtensionLoader::Report(refuse));
+    }
+
     void registerClasses()
     {
         setUpSymbols(symbolFolder());
@@ -124,6 +139,7 @@ private:
         registerCompanions();
     }
 
+    std::string _extension;
     Simulator::Shell _shell;
     std::unique_ptr<Control::PhoneContext> _context;
     double _earlierUptime = 0;
@@ -132,9 +148,9 @@ private:
 
 }
 
-std::unique_ptr<Control::Shell> makeSimulatedPhone()
+std::unique_ptr<Control::Shell> makeSimulatedPhone(const std::string& extension)
 {
-    return std::make_unique<SimulatedPhone>();
+    return std::make_unique<SimulatedPhone>(extension);
 }
 
 }

@@ -7,6 +7,7 @@
 
 namespace Simulator::App {
 
-std::unique_ptr<Control::Shell> makeSimulatedPhone();
+/// The extension is a library on the host; without one it is this build's own.
+std::unique_ptr<Control::Shell> makeSimulatedPhone(const std::string& extension);
 
 }

@@ -3,10 +3,18 @@
 #include "Platform/Foundation/NSDictionary.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Loader/HookRecord.hpp"
+#include "Simulator/Loader/MachOImage.hpp"
+#include "Simulator/Loader/PhoneSymbols.hpp"
 
 #include <dlfcn.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <memory>
+#include <sstream>
 
 namespace Simulator {
 
@@ -29,37 +37,80 @@ static bool isForShell(const std::string& filterPath)
     return false;
 }
 
-int ExtensionLoader::loadAll()
+static std::string bytesOf(const std::string& hostPath)
 {
-    ObjC::AutoreleasePool pool;
-    int loaded = 0;
-    for (const std::string& name : PhoneFiles::shared().list(folder).value) {
-        if (!name.ends_with(filterSuffix) || !isForShell(folder + name))
-            continue;
-        loaded += load(folder + name.substr(0, name.size() - filterSuffix.size()) + ".so");
-    }
-    return loaded;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(hostPath, error))
+        throw LoadError(error ? "it cannot be read: " + error.message() : "it is not a file");
+    std::ifstream file(hostPath, std::ios::binary);
+    std::ostringstream bytes;
+    if (!file || !(bytes << file.rdbuf()))
+        throw LoadError("it cannot be read, or is empty");
+    return std::move(bytes).str();
 }
 
-bool ExtensionLoader::load(const std::string& libraryPath)
+static bool isLinuxLibrary(std::string_view bytes)
+{
+    return bytes.starts_with("\177ELF");
+}
+
+static std::function<void*(const std::string&)> load(const std::string& hostPath)
 {
     HookRecording recording;
-    void* library = dlopen(PhoneFiles::shared().hostPath(libraryPath).c_str(), RTLD_NOW | RTLD_LOCAL);
-    if (!library) {
-        std::fprintf(stderr, "lyr: cannot load %s: %s\n", libraryPath.c_str(), dlerror());
-        return false;
+    auto bytes = bytesOf(hostPath);
+    if (isLinuxLibrary(bytes)) {
+        void* library = dlopen(hostPath.c_str(), RTLD_NOW | RTLD_LOCAL);
+        if (!library)
+            throw LoadError(dlerror());
+        return [library](const std::string& name) { return dlsym(library, name.c_str()); };
     }
-    libraries_.push_back(library);
-    return true;
+    auto image = std::make_shared<MachOImage>(MachOFile(std::move(bytes)), phoneSymbol);
+    image->start();
+    return [image](const std::string& name) { return image->symbol("_" + name); };
+}
+
+void ExtensionLoader::reportOnStandardError(const std::string& libraryPath, const LoadError& error)
+{
+    std::fprintf(stderr, "lyr: cannot load %s: %s\n", libraryPath.c_str(), error.what());
+}
+
+int ExtensionLoader::loadAll(const Report& report)
+{
+    int loaded = 0;
+    ObjC::AutoreleasePool pool;
+    auto& files = PhoneFiles::shared();
+    for (const std::string& name : files.list(folder).value) {
+        if (!name.ends_with(filterSuffix) || !isForShell(folder + name))
+            continue;
+        std::string library = folder + name.substr(0, name.size() - filterSuffix.size());
+        library += files.exists(library + ".dylib") ? ".dylib" : ".so";
+        try {
+            libraries_.push_back(load(files.hostPath(library)));
+            ++loaded;
+        } catch (const LoadError& error) {
+            report(library, error);
+        }
+    }
+    return loaded;
 }
 
 void* ExtensionLoader::variable(const std::string& name) const
 {
     std::string symbol = "_ZN3LYR" + std::to_string(name.size()) + name + "E";
-    for (void* library : libraries_)
-        if (void* address = dlsym(library, symbol.c_str()))
+    for (const auto& find : libraries_)
+        if (void* address = find(symbol))
             return address;
     return nullptr;
+}
+
+void ExtensionLoader::check(const std::string& hostPath)
+{
+    auto bytes = bytesOf(hostPath);
+    if (isLinuxLibrary(bytes))
+        return;
+    if (!MachOFile::isOne(bytes))
+        throw LoadError("it is neither a library of this machine (ELF) nor one of the phone's kind (Mach-O)");
+    MachOImage(MachOFile(std::move(bytes)), phoneSymbol);
 }
 
 }

@@ -1,6 +1,9 @@
 // The phone's extension loader: loads what lies in the extension folder into the shell process.
 #pragma once
 
+#include "Simulator/Loader/LoadError.hpp"
+
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,17 +15,23 @@ public:
 
     static ExtensionLoader& shared();
 
-    /// Loads every library in the folder whose filter names the shell. A library that cannot be loaded is reported on
-    /// standard error and left out. Answers the number of libraries loaded.
-    int loadAll();
+    /// Loads every library in the folder whose filter names the shell: one of the phone's kind (.dylib), or else one of
+    /// this machine's (.so). A library that cannot be loaded is reported and left out. Answers how many were loaded.
+    using Report = std::function<void(const std::string& libraryPath, const LoadError&)>;
+    int loadAll(const Report& = reportOnStandardError);
+    static void reportOnStandardError(const std::string& libraryPath, const LoadError&);
 
     /// The address of one of the extension's process-wide variables; null if no library has one of that name.
     void* variable(const std::string& name) const;
 
-private:
-    bool load(const std::string& libraryPath);
+    /// Says in a LoadError why a file of the host could not be loaded, as far as that can be known without running it.
+    static void check(const std::string& hostPath);
 
-    std::vector<void*> libraries_;
+private:
+    /// Finds a library's symbol.
+    using Symbols = std::function<void*(const std::string& name)>;
+
+    std::vector<Symbols> libraries_;
 };
 
 }
