@@ -62,6 +62,7 @@ public:
             loadExtensions();
         _shell.start();
         _shell.commit();
+        _isStarted = true;
     }
 
     Json state() const override
@@ -80,6 +81,9 @@ public:
 
     void runDue() override
     {
+        // A long request arrives in pieces, the first one too.
+        if (!_isStarted)
+            return;
         ObjC::AutoreleasePool pool;
         Loop::shared().runDue();
         _shell.commit();
@@ -143,6 +147,7 @@ private:
     Simulator::Shell _shell;
     std::unique_ptr<Control::PhoneContext> _context;
     double _earlierUptime = 0;
+    bool _isStarted = false;
     bool _wantsRelaunch = false;
 };
 
