@@ -72,6 +72,15 @@ std::string programPath()
     return path && *path ? path : LYR_PROGRAM_PATH;
 }
 
+std::vector<std::string> servingArguments()
+{
+    std::vector<std::string> arguments{"serve", "--stdio"};
+    const char* extension = std::getenv("LYR_EXTENSION");
+    if (extension && *extension)
+        arguments.insert(arguments.end(), {"--extension", extension});
+    return arguments;
+}
+
 Program::Program(const std::vector<std::string>& arguments)
 {
     // A program that is gone is seen by its silence.

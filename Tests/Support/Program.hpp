@@ -14,6 +14,8 @@ using Json = nlohmann::json;
 
 // The program under test: the environment's LYR_PROGRAM, or the one that was built with the tests.
 std::string programPath();
+// How it serves the control protocol; with the extension that the environment's LYR_EXTENSION names, if any.
+std::vector<std::string> servingArguments();
 
 // An error reply of the control protocol.
 class ControlError : public std::runtime_error {
@@ -28,7 +30,7 @@ public:
 
 class Program {
 public:
-    explicit Program(const std::vector<std::string>& arguments = {"serve", "--stdio"});
+    explicit Program(const std::vector<std::string>& arguments = servingArguments());
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
