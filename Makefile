@@ -28,7 +28,7 @@ bench: packages
 # The phone's own library, packed for both kinds of phone.
 package: packages
 	@$(GENERATE) --preset release
-	ninja -C build -j $(JOBS) packages
+	ninja -C build -j $(JOBS) packages reports
 	mkdir -p packages
 	cp build/packages/*.deb packages/
 	@ls packages/*.deb
