@@ -1,5 +1,6 @@
 // The phone's own library and the Linux one, put through the same days: every view, every record and every pixel.
 #include "Tests/Support/Phone.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 
@@ -128,4 +129,19 @@ TEST(SameBehaviour, ThePhonesLibraryDoesToTheLastByteWhatTheLinuxLibraryDoes)
         EXPECT_TRUE(phones.picture == linux.picture) << "the pictures differ";
         EXPECT_FALSE(linux.records.empty());
     }
+}
+
+TEST(SameBehaviour, TheLibraryForSealedSystemsFindsItsFilesUnderThePrefix)
+{
+    // On such a phone the prefix is a link to a folder that is laid out like the system's own.
+    const Support::TemporaryFolder root;
+    std::filesystem::create_directories(root.path() / "var");
+    std::filesystem::create_directory_symlink("..", root.path() / "var/jb");
+    const Scenario plain{"plain", evening({{"customFont", "3"}, {"dateOption", "7"}}), nothingMore};
+    const Scenario sealed{"sealed", evening({{"customFont", "3"}, {"dateOption", "7"}}).root(root.path()), nothingMore};
+
+    const auto expected = outcome(plain, PHONE_LIBRARY);
+    const auto found = outcome(sealed, SEALED_LIBRARY);
+    EXPECT_TRUE(found.picture == expected.picture) << "the pictures differ";
+    EXPECT_FALSE(outcome(plain, SEALED_LIBRARY).picture == expected.picture) << "it found its files without the prefix";
 }
