@@ -1,6 +1,8 @@
 // Reads the command line and runs what it asks for.
 #include "Simulator/App/CommandLine.hpp"
 
+#include "Simulator/App/LookFile.hpp"
+#include "Simulator/App/Preview.hpp"
 #include "Simulator/App/Render.hpp"
 #include "Simulator/App/Serve.hpp"
 #include "Simulator/Control/Methods.hpp"
@@ -42,8 +44,12 @@ std::optional<Json> screenOf(const std::string& text)
 
 // The commands' options as they are filled in by the parser.
 struct Values {
-    RenderOptions render;
-    std::map<std::string, std::string> start; // single values of `phone.start`
+    StartOptions start;
+    std::map<std::string, std::string> single; // single values of `phone.start`
+    std::string output;
+    PreviewOptions preview;
+    std::string root;
+    std::string look;
     std::vector<std::string> languages;
     bool stdio = false;
     std::string extension; // a host path
@@ -58,9 +64,28 @@ void addExtension(CLI::App& command, Values& values)
 
 void addStartOptions(CLI::App& command, Values& values)
 {
+    StartOptions& options = values.start;
+    command.add_option("--settings", options.settings, "Settings: a property list (XML or binary) or JSON")
+        ->type_name("FILE");
+    command.add_option("--colours", options.colours, "Colours: a property list (XML or binary) or JSON")
+        ->type_name("FILE");
+    command.add_option("--wallpaper", options.wallpaper, "Wallpaper (default: the built-in one)")->type_name("JPEG");
+    command.add_option("--device", options.device, "Battery, weather, alarm and events, as device.set takes them")
+        ->type_name("JSON");
+    command.add_option("--font", options.fonts, "Font file for the user font folder; may be repeated")
+        ->type_name("FILE")
+        ->expected(1)
+        ->take_all();
+    command.add_option("--screen", values.single["screen"], "Screen in points and its scale (default: 375x812@3)")
+        ->type_name("WxH@S")
+        ->check([](const std::string& text) {
+            return screenOf(text)
+                ? ""
+                : "takes width x height @ scale such as 375x812@3, at most 2048x2048@4, not " + quote(text);
+        });
     const auto add
         = [&](const char* flag, const char* parameter, const Type& type, const char* form, const char* help) {
-              takes(command.add_option(flag, values.start[parameter], help), type, form);
+              takes(command.add_option(flag, values.single[parameter], help), type, form);
           };
     add("--time", "time", localTime(), "TIME", "Local time on the phone, 2020-11-15T21:41:00 (default: now)");
     add("--time-zone", "timeZone", timeZone(), "ZONE", "Time zone, Asia/Jerusalem (default: UTC)");
@@ -75,26 +100,7 @@ void addStartOptions(CLI::App& command, Values& values)
 void addRender(CLI::App& app, Values& values)
 {
     CLI::App& command = *app.add_subcommand("render", "Draw a picture of the lock screen");
-    RenderOptions& options = values.render;
-    command.add_option("-o,--output", options.output, "PNG file to write")->required()->type_name("FILE");
-    command.add_option("--settings", options.settings, "Settings: a property list (XML or binary) or JSON")
-        ->type_name("FILE");
-    command.add_option("--colours", options.colours, "Colours: a property list (XML or binary) or JSON")
-        ->type_name("FILE");
-    command.add_option("--wallpaper", options.wallpaper, "Wallpaper (default: the built-in one)")->type_name("JPEG");
-    command.add_option("--device", options.device, "Battery, weather, alarm and events, as device.set takes them")
-        ->type_name("JSON");
-    command.add_option("--font", options.fonts, "Font file for the user font folder; may be repeated")
-        ->type_name("FILE")
-        ->expected(1)
-        ->take_all();
-    command.add_option("--screen", values.start["screen"], "Screen in points and its scale (default: 375x812@3)")
-        ->type_name("WxH@S")
-        ->check([](const std::string& text) {
-            return screenOf(text)
-                ? ""
-                : "takes width x height @ scale such as 375x812@3, at most 2048x2048@4, not " + quote(text);
-        });
+    command.add_option("-o,--output", values.output, "PNG file to write")->required()->type_name("FILE");
     addExtension(command, values);
     addStartOptions(command, values);
 }
@@ -104,6 +110,33 @@ void addServe(CLI::App& app, Values& values)
     CLI::App& command = *app.add_subcommand("serve", "Serve the control protocol to scripts and tests");
     command.add_flag("--stdio", values.stdio, "One JSON-RPC request a line in, one reply a line out")->required();
     addExtension(command, values);
+}
+
+CLI::Option* addRoot(CLI::App& command, Values& values, const char* help)
+{
+    return takes(command.add_option("--root", values.root, help), hostFolder(), "DIR");
+}
+
+void addPreview(CLI::App& app, Values& values)
+{
+    CLI::App& command = *app.add_subcommand("preview", "Show the live phone in a browser");
+    command.add_option("--port", values.preview.port, "Port on this machine (default: any that is free)")
+        ->type_name("N")
+        ->check(CLI::Range(1, 65535));
+    addRoot(command, values, "Folder that is the phone's / and is kept (default: a temporary one)");
+    addStartOptions(command, values);
+}
+
+void addLook(CLI::App& app, Values& values)
+{
+    CLI::App& look = *app.add_subcommand("look", "Settings and colours of a phone as one file");
+    look.require_subcommand(1);
+    for (const auto& [name, help] : {std::pair{"export", "Write the phone's look into a file"},
+             std::pair{"import", "Give the phone the look of a file"}}) {
+        CLI::App& command = *look.add_subcommand(name, help);
+        command.add_option("file", values.look, "A look")->required()->type_name("FILE.lyrlook");
+        addRoot(command, values, "Folder that is the phone's /")->required();
+    }
 }
 
 // How the program runs itself; nothing for users.
@@ -122,19 +155,22 @@ void describe(CLI::App& app, Values& values)
     app.require_subcommand(0, 1);
     addRender(app, values);
     addServe(app, values);
+    addPreview(app, values);
+    addLook(app, values);
     addShell(app, values);
 }
 
-Json startParameters(const Values& values)
+StartOptions startOptions(const Values& values)
 {
-    Json start = Json::object();
-    for (const auto& [parameter, text] : values.start) {
+    StartOptions options = values.start;
+    Json& start = options.phone;
+    for (const auto& [parameter, text] : values.single) {
         if (!text.empty())
             start[parameter] = parameter == "screen" ? *screenOf(text) : Json(text);
     }
     if (!values.languages.empty())
         start["languages"] = values.languages;
-    return start;
+    return options;
 }
 
 void logLine(const std::string& line)
@@ -167,14 +203,21 @@ int runCommand(const CLI::App& app, Values& values, const PhoneKind& kind)
 {
     if (app.got_subcommand("shell"))
         return runShell(values, kind);
+    if (app.got_subcommand("look"))
+        return app.get_subcommand("look")->got_subcommand("export") ? exportLook(values.root, values.look)
+                                                                     : importLook(values.root, values.look);
     Supervisor::Options options;
     options.shellCommand = shellCommand(values, kind);
     options.methods = kind.methods;
     options.log = logLine;
     if (app.got_subcommand("serve"))
         return serve(std::move(options));
-    values.render.start = startParameters(values);
-    return render(values.render, std::move(options));
+    if (app.got_subcommand("preview")) {
+        values.preview.start = startOptions(values);
+        values.preview.root = values.root;
+        return preview(values.preview, std::move(options));
+    }
+    return render({startOptions(values), values.output}, std::move(options));
 }
 
 std::string firstLine(const std::string& text)
@@ -192,7 +235,7 @@ int run(int argumentCount, char** arguments, const PhoneKind& kind)
     try {
         app.parse(argumentCount, arguments);
         if (app.get_subcommands().empty())
-            throw CLI::RequiredError("a command, render or serve,");
+            throw CLI::RequiredError("a command, render, preview, look or serve,");
         return runCommand(app, values, kind);
     } catch (const CLI::Success& wish) {
         return app.exit(wish);

@@ -76,4 +76,9 @@ fs::path symbolFolder()
     return shareFolder() / "Symbols";
 }
 
+fs::path pageFolder()
+{
+    return shareFolder() / "Preview";
+}
+
 }

@@ -12,5 +12,7 @@ namespace Simulator::App {
 void installFactoryContent(const Control::ShellStart& start, const std::string& extension);
 
 std::filesystem::path symbolFolder();
+/// The files of the preview's page.
+std::filesystem::path pageFolder();
 
 }

@@ -20,6 +20,10 @@ public:
     // Input and output of a command that serves; a request in hand when the input ends has a minute left.
     void watchStreams(int input, int output);
 
+    // Readable when a signal has arrived; then this throws Interrupted.
+    int descriptor() const { return _signals.number(); }
+    void throwIfSignalled() const;
+
     // Waits for one of the descriptors to be readable; negative ones are left out.
     void waitForInput(std::initializer_list<int> descriptors) const;
     // Waits until the shell process says or takes something. Throws Interrupted.
@@ -29,7 +33,6 @@ private:
     using Clock = std::chrono::steady_clock;
 
     int timeLeft() const;
-    void throwIfSignalled() const;
 
     Descriptor _signals;
     int _input = -1;

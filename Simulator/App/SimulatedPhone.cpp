@@ -67,7 +67,8 @@ public:
 
     Json state() const override
     {
-        Json state{{"now", Loop::shared().now()}, {"uptime", uptime()}, {"device", Control::describeDevice()}};
+        Json state{{"now", Loop::shared().now()}, {"uptime", uptime()}, {"device", Control::describeDevice()},
+            {"isLit", _shell.isLit()}, {"isLocked", _shell.isLocked()}};
         if (_wantsRelaunch)
             state["log"] = ActivityLog::shared().take();
         return state;

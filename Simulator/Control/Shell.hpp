@@ -40,7 +40,10 @@ inline constexpr int relaunchStatus = 75;
 
 // Supervisor to shell process, first of all: its ShellStart.
 inline constexpr std::string_view startMessage = "shell.start";
-// Shell process to supervisor, before every reply and before a relaunch: {"state", "relaunch"}.
+// Supervisor to shell process: draws the screen into the shared frame at "path". {"screen", "tiles", "seconds"}.
+inline constexpr std::string_view drawMessage = "shell.draw";
+// Shell process to supervisor, before every reply and before a relaunch: {"state", "relaunch"}. Once the screen was
+// drawn, also after work that ran of its own accord: once, until it is drawn again.
 inline constexpr std::string_view stateMessage = "shell.state";
 
 }

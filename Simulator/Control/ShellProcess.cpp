@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <poll.h>
+#include <utility>
 
 namespace Simulator::Control {
 
@@ -57,6 +58,8 @@ int ShellProcess::run()
             sayState();
             return relaunchStatus;
         }
+        if (std::exchange(_isLookedAt, false))
+            sayState();
     }
 }
 
@@ -67,6 +70,7 @@ void ShellProcess::serve(const Json& document)
     sayState();
     if (reply)
         _channel.send(*reply);
+    _isLookedAt = _isLookedAt || document.value("method", "") == drawMessage;
 }
 
 void ShellProcess::sayState()

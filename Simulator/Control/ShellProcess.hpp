@@ -22,6 +22,7 @@ private:
     Channel _channel;
     Dispatcher _dispatcher;
     bool _isStarted = false;
+    bool _isLookedAt = false; // the screen was drawn, and nothing ran since that was not asked for
 };
 
 }

@@ -75,6 +75,20 @@ void Supervisor::notice()
     }
 }
 
+Json Supervisor::draw(const std::string& framePath)
+{
+    // Whatever changes while the process comes back, it draws afterwards.
+    const Json drawn = forward(std::string(drawMessage), {{"path", framePath}});
+    _mayLookOther = false;
+    return drawn;
+}
+
+Json Supervisor::standing() const
+{
+    return {{"running", _phone != nullptr}, {"safeMode", _phone && _phone->isSafeMode}, {"starts", _starts},
+        {"restarts", _restarts}};
+}
+
 void Supervisor::stop()
 {
     if (_phone && _phone->process && _phone->process->pid() > 0)
@@ -108,11 +122,11 @@ Json Supervisor::start(const Json& parameters)
 Json Supervisor::info()
 {
     notice();
+    Json known{{"pid", nullptr}, {"time", nullptr}, {"screen", nullptr}};
+    known.update(standing());
     if (!_phone)
-        return {{"running", false}, {"safeMode", false}, {"starts", _starts}, {"restarts", _restarts}, {"pid", nullptr},
-            {"time", nullptr}, {"screen", nullptr}};
+        return known;
 
-    Json known;
     try {
         known = forward("phone.info", Json::object());
     } catch (const ProtocolError& error) {
@@ -123,8 +137,8 @@ Json Supervisor::info()
             return info();
         known = forward("phone.info", Json::object());
     }
-    known.update({{"running", true}, {"safeMode", _phone->isSafeMode}, {"starts", _starts}, {"restarts", _restarts},
-        {"pid", _phone->process->pid()}});
+    known.update(standing());
+    known["pid"] = _phone->process->pid();
     return known;
 }
 
@@ -179,6 +193,7 @@ void Supervisor::noteState(const Json& document)
         return;
     _phone->state = document.at("params").at("state");
     _phone->wantsRelaunch = document.at("params").at("relaunch");
+    _mayLookOther = true;
 }
 
 std::string Supervisor::bringBack()

@@ -28,6 +28,16 @@ public:
     // Attends to that, without waiting for a shell process that is well.
     void notice();
 
+    // Draws the screen into the shared frame at that host path. Answers what the shell process says of it.
+    Json draw(const std::string& framePath);
+    // Something may look other than when it was last drawn.
+    bool mayLookOther() const { return _mayLookOther; }
+
+    // {"running", "safeMode", "starts", "restarts"}
+    Json standing() const;
+    // What the shell process last said of itself; null without a phone.
+    Json state() const { return _phone ? _phone->state : Json(); }
+
     // Ends the shell process and removes a temporary root.
     void stop();
 
@@ -68,6 +78,7 @@ private:
     std::string _whyNone = "no phone started";
     int _starts = 0;
     int _restarts = 0;
+    bool _mayLookOther = false;
     std::uint64_t _lastId = 0;
 };
 

@@ -41,7 +41,7 @@ TEST(CommandLine, SaysItsVersion)
 
 TEST(CommandLine, RefusesBadUsageInOneLine)
 {
-    expectBadUsage({}, "a command, render or serve, is required");
+    expectBadUsage({}, "a command, render, preview, look or serve, is required");
     expectBadUsage({"rendre"}, "rendre");
     expectBadUsage({"serve"}, "--stdio");
     expectBadUsage({"serve", "--stdio", "extra"}, "extra");

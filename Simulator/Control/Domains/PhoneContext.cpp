@@ -4,12 +4,22 @@ namespace Simulator::Control {
 
 void PhoneContext::add(const std::string& method, Dispatcher::Handler handler)
 {
-    _dispatcher.add(method, [this, handler = std::move(handler)](const Json& parameters) {
+    _dispatcher.add(method, asOneTurn(std::move(handler)));
+}
+
+void PhoneContext::add(const Method& method, Dispatcher::Handler handler)
+{
+    _dispatcher.add(method, asOneTurn(std::move(handler)));
+}
+
+Dispatcher::Handler PhoneContext::asOneTurn(Dispatcher::Handler handler)
+{
+    return [this, handler = std::move(handler)](const Json& parameters) {
         ObjC::AutoreleasePool pool;
         Json result = handler(parameters);
         shell.commit();
         return result;
-    });
+    };
 }
 
 void throwNotFound(const std::string& message)

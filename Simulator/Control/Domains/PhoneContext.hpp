@@ -3,6 +3,7 @@
 
 #include "Platform/ObjC/Object.hpp"
 #include "Simulator/Control/Dispatcher.hpp"
+#include "Simulator/Control/Domains/FrameFeed.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/UIKit/ScreenRenderer.hpp"
 
@@ -22,13 +23,18 @@ public:
     /// Adds a method of the protocol. What autoreleased objects it leaves goes with it, and the screen is laid out
     /// after it, as at the end of each turn of the phone's run loop.
     void add(const std::string& method, Dispatcher::Handler handler);
+    /// Likewise, a message between the supervisor and the shell process.
+    void add(const Method& method, Dispatcher::Handler handler);
 
     Simulator::Shell& shell;
     ScreenRenderer renderer;
+    FrameFeed frameFeed;
     /// Objects that `objc.new` keeps.
     std::map<std::string, ObjC::Object> named;
 
 private:
+    Dispatcher::Handler asOneTurn(Dispatcher::Handler handler);
+
     Dispatcher& _dispatcher;
 };
 

@@ -2,6 +2,8 @@
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
 #include "Platform/Foundation/NSData.hpp"
+#include "Simulator/Control/Shell.hpp"
+#include "Simulator/Control/Types.hpp"
 
 #include <cstdio>
 #include <fstream>
@@ -31,6 +33,10 @@ void addScreenMethods(PhoneContext& context)
         }
         auto data = NS::Data::dataWithBytes(png.data(), png.size());
         return Json{{"base64", data.send<NS::String, "base64EncodedStringWithOptions:">(0UL).utf8()}};
+    });
+    const Method draw{std::string(drawMessage), {{"path", nonEmptyText(), Presence::Required}}};
+    context.add(draw, [&context](const Json& parameters) {
+        return context.frameFeed.draw(context.shell.window(), parameters.at("path"));
     });
 }
 

@@ -1,0 +1,38 @@
+// Looks in files of the host.
+#include "Simulator/App/LookFile.hpp"
+
+#include "Simulator/App/StartFiles.hpp"
+#include "Simulator/Preview/Look.hpp"
+
+#include <fstream>
+#include <iostream>
+
+namespace Simulator::App {
+
+using Control::Json;
+
+int exportLook(const std::string& root, const std::string& file)
+{
+    const UnfinishedFile look(file, "a look");
+    std::ofstream stream(look.path(), std::ios::binary);
+    stream << Preview::readLook(root).dump(4) << std::endl;
+    if (!stream)
+        throw Failure(file + ": cannot be written");
+    look.finish();
+    return 0;
+}
+
+int importLook(const std::string& root, const std::string& file)
+{
+    const Json look = jsonOf(file, bytesOf(file));
+    try {
+        for (const std::string font : Preview::writeLook(root, look))
+            std::cerr << "lyr: the look uses the font " << Control::quote(font)
+                      << ", which this phone lacks; its file belongs into /Library/Application Support/LYRFont" << std::endl;
+    } catch (const Control::ProtocolError& error) {
+        throw Failure(file + ": " + error.what());
+    }
+    return 0;
+}
+
+}

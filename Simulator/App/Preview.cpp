@@ -1,0 +1,41 @@
+// Serves the phone until a signal ends it.
+#include "Simulator/App/Preview.hpp"
+
+#include "Simulator/App/FactoryContent.hpp"
+#include "Simulator/App/Lifeline.hpp"
+#include "Simulator/Control/RootFolder.hpp"
+#include "Simulator/Preview/Server.hpp"
+
+#include <iostream>
+
+namespace Simulator::App {
+
+using namespace Control;
+
+int preview(const PreviewOptions& options, Supervisor::Options supervisorOptions)
+{
+    int signal = 0;
+    try {
+        Lifeline lifeline;
+        supervisorOptions.wait = [&](int descriptor, short events) { lifeline.wait(descriptor, events); };
+        const Workshop workshop;
+        const RootFolder root = options.root.empty() ? RootFolder() : RootFolder(options.root);
+        Preview::ServerOptions server;
+        server.page = pageFolder();
+        server.port = static_cast<unsigned short>(options.port);
+        server.root = root.path();
+        server.start = startParameters(options.start, workshop);
+        server.interruption = lifeline.descriptor();
+        server.interrupt = [&] { lifeline.throwIfSignalled(); };
+        server.ready = [](const std::string& address) { std::cout << address << std::endl; };
+        Preview::serve(std::move(supervisorOptions), server);
+    } catch (const Interrupted& interrupted) {
+        signal = interrupted.signal;
+    }
+    // Only now, when the shell process is gone and its temporary root with it.
+    if (signal)
+        dieOf(signal);
+    return 0;
+}
+
+}

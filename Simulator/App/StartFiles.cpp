@@ -1,0 +1,124 @@
+// Reads the files that options name, and says in one line what is wrong with one.
+#include "Simulator/App/StartFiles.hpp"
+
+#include "Simulator/Control/Methods.hpp"
+#include "Simulator/Control/PropertyList.hpp"
+#include "Simulator/Control/Types.hpp"
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <unistd.h>
+
+namespace Simulator::App {
+
+using namespace Control;
+namespace fs = std::filesystem;
+
+namespace {
+
+bool looksLikeJson(const std::string& bytes)
+{
+    const auto first = bytes.find_first_not_of(" \t\r\n");
+    return first != std::string::npos && bytes[first] == '{';
+}
+
+// The host path of the file as the phone stores it: a property list as it is, JSON turned into one.
+std::string storedFile(const std::string& path, const std::string& name, const Workshop& workshop)
+{
+    const std::string bytes = bytesOf(path);
+    if (isPropertyListDictionary(bytes))
+        return path;
+    if (!looksLikeJson(bytes))
+        throw Failure(path + ": neither a property list (XML or binary) with a dictionary nor JSON with an object");
+    const Json values = jsonOf(path, bytes);
+    if (const auto wrong = complaint(name, mapOf(storedText(), propertyList()), values))
+        throw Failure(path + ": " + *wrong);
+    return workshop.put(name + ".plist", propertyListXml(values));
+}
+
+void addDevice(Json& start, const std::string& path)
+{
+    const Json device = jsonOf(path, bytesOf(path));
+    if (const auto wrong = complaint("device", object(deviceParameters()), device))
+        throw Failure(path + ": " + *wrong);
+    // What stands on the command line counts more.
+    for (const auto& [name, value] : device.items())
+        start.emplace(name, value);
+}
+
+std::string jpegFile(const std::string& path)
+{
+    if (!bytesOf(path).starts_with("\xFF\xD8\xFF"))
+        throw Failure(path + ": not a JPEG");
+    return path;
+}
+
+}
+
+std::string bytesOf(const std::string& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    std::ostringstream bytes;
+    if (!file || !fs::is_regular_file(path) || !(bytes << file.rdbuf()))
+        throw Failure(path + ": cannot be read; an existing file that is not empty is needed");
+    return bytes.str();
+}
+
+Json jsonOf(const std::string& path, const std::string& bytes)
+{
+    try {
+        return parseDocument(bytes);
+    } catch (const ProtocolError& error) {
+        throw Failure(path + ": " + error.what());
+    }
+}
+
+std::string Workshop::put(const std::string& name, const std::string& bytes) const
+{
+    const std::string path = _folder.path() + "/" + name;
+    std::ofstream file(path, std::ios::binary);
+    if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush())
+        throw Failure("cannot write " + path);
+    return path;
+}
+
+Json startParameters(const StartOptions& options, const Workshop& workshop)
+{
+    Json start = options.phone;
+    Json files = Json::object();
+    if (!options.settings.empty())
+        files[settingsPath] = storedFile(options.settings, "settings", workshop);
+    if (!options.colours.empty())
+        files[coloursPath] = storedFile(options.colours, "colours", workshop);
+    if (!files.empty())
+        start["files"] = files;
+    if (!options.wallpaper.empty())
+        start["wallpaper"] = jpegFile(options.wallpaper);
+    if (!options.fonts.empty())
+        start["fonts"] = options.fonts;
+    if (!options.device.empty())
+        addDevice(start, options.device);
+    return start;
+}
+
+UnfinishedFile::UnfinishedFile(const std::string& output, const std::string& what)
+    : _output(output)
+    , _path(output + ".part-" + std::to_string(getpid()))
+{
+    if (!hostDestination().accepts(output))
+        throw Failure(output + ": " + what + " needs a file name in a folder that exists and can be written");
+}
+
+UnfinishedFile::~UnfinishedFile()
+{
+    std::error_code ignored;
+    fs::remove(_path, ignored);
+}
+
+void UnfinishedFile::finish() const
+{
+    fs::rename(_path, _output);
+}
+
+}

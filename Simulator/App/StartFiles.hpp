@@ -1,0 +1,57 @@
+// What a phone is started with, gathered from options and files of the host.
+#pragma once
+
+#include "Simulator/Control/RootFolder.hpp"
+
+#include <stdexcept>
+
+namespace Simulator::App {
+
+// Something that the user can mend, said in one line.
+class Failure : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct StartOptions {
+    Control::Json phone = Control::Json::object(); // parameters of `phone.start`
+    std::string settings; // host paths of files; empty for none
+    std::string colours;
+    std::string wallpaper;
+    std::string device;
+    std::vector<std::string> fonts;
+};
+
+// A host folder for what is made on the way, removed with its owner.
+class Workshop {
+public:
+    std::string put(const std::string& name, const std::string& bytes) const;
+
+private:
+    Control::RootFolder _folder;
+};
+
+// The parameters of `phone.start`. Throws a Failure.
+Control::Json startParameters(const StartOptions&, const Workshop&);
+
+std::string bytesOf(const std::string& path);
+Control::Json jsonOf(const std::string& path, const std::string& bytes);
+
+// A file that takes its place when it is complete.
+class UnfinishedFile {
+public:
+    // `what` the file is, for the message of the Failure.
+    UnfinishedFile(const std::string& output, const std::string& what);
+    ~UnfinishedFile();
+    UnfinishedFile(const UnfinishedFile&) = delete;
+    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
+
+    const std::string& path() const { return _path; }
+    void finish() const;
+
+private:
+    std::string _output;
+    std::string _path;
+};
+
+}

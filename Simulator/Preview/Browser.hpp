@@ -1,0 +1,75 @@
+// One WebSocket: requests of the control protocol in, replies, news and frames out. What a slow reader has not taken
+// does not pile up: a frame waits until the last one was shown, news are sent as they stand when their turn comes.
+#pragma once
+
+#include "Simulator/Preview/Tiles.hpp"
+
+#include <boost/beast/core.hpp>
+#include <boost/beast/http.hpp>
+#include <boost/beast/websocket.hpp>
+#include <memory>
+
+namespace Simulator::Preview {
+
+using HttpRequest = boost::beast::http::request<boost::beast::http::empty_body>;
+
+class Browser : public std::enable_shared_from_this<Browser> {
+public:
+    // What a browser asks of the server.
+    class Host {
+    public:
+        virtual Control::Json call(const std::string& method, const Control::Json& parameters) = 0;
+        virtual Control::Json standing() const = 0;
+        // It can take a frame now; or wants the whole screen first.
+        virtual void wantsFrame() = 0;
+        virtual void wantsAll(Browser&) = 0;
+        virtual void entered(std::shared_ptr<Browser>) = 0;
+        virtual void left(Browser&) = 0;
+
+    protected:
+        ~Host() = default;
+    };
+
+    Browser(boost::beast::tcp_stream, Host&);
+    void accept(const HttpRequest&);
+    void close();
+
+    // It follows the screen, and has shown what it was sent.
+    bool isReady() const { return _follows && !_awaitsShown; }
+    bool follows() const { return _follows; }
+    // Tiles that differ from what it was sent last.
+    Tiles stale;
+    void send(std::shared_ptr<const std::string> frame);
+
+    void tellStanding();
+    void tellStored();
+
+private:
+    struct Outgoing {
+        enum class Kind { Reply, News, Frame };
+        std::shared_ptr<const std::string> bytes;
+        Kind kind = Kind::News;
+    };
+
+    void read();
+    void onRead(boost::beast::error_code);
+    Control::Json call(const std::string& method, const Control::Json& parameters);
+    void write();
+    void onWritten(boost::beast::error_code);
+    std::optional<Outgoing> next();
+
+    boost::beast::websocket::stream<boost::beast::tcp_stream> _stream;
+    Host& _host;
+    boost::beast::flat_buffer _arrived;
+    std::shared_ptr<const std::string> _reply;
+    std::shared_ptr<const std::string> _frame;
+    Outgoing _written;
+    bool _isWriting = false;
+    bool _isOpen = true;
+    bool _follows = false;
+    bool _awaitsShown = false;
+    bool _standingIsNews = false;
+    bool _storedIsNews = false;
+};
+
+}

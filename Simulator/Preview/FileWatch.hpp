@@ -1,0 +1,26 @@
+// Tells when files of a folder of the host have been written or replaced.
+#pragma once
+
+#include "Simulator/Files/Descriptor.hpp"
+
+#include <string>
+#include <vector>
+
+namespace Simulator::Preview {
+
+class FileWatch {
+public:
+    // Throws where the folder cannot be watched.
+    FileWatch(const std::string& folder, std::vector<std::string> names);
+
+    // Readable when something happened in the folder.
+    int descriptor() const { return _inotify.number(); }
+    // Whether it happened to one of the files since the last call.
+    bool tookPlace() const;
+
+private:
+    Descriptor _inotify;
+    std::vector<std::string> _names;
+};
+
+}

@@ -1,0 +1,51 @@
+// The one phone that all browsers look at: calls, its picture, and what is to be told of it.
+#pragma once
+
+#include "Simulator/Control/SharedFrame.hpp"
+#include "Simulator/Control/Supervisor.hpp"
+
+namespace Simulator::Preview {
+
+class LivePhone {
+public:
+    // The root is the phone's `/` for as long as the preview lives, whatever starts there.
+    LivePhone(Control::Supervisor&, std::string root);
+
+    void start(Control::Json parameters);
+    // A method of the protocol, or one of the preview's own; throws a ProtocolError.
+    Control::Json call(const std::string& method, const Control::Json& parameters);
+    // Attends to the shell process.
+    void notice() { _supervisor.notice(); }
+    // The stored settings or colours became others: the lock screen is to show them at once.
+    void refresh();
+
+    bool mayLookOther() const { return descriptor() >= 0 && _supervisor.mayLookOther(); }
+    // Draws. Answers the tiles that differ.
+    std::vector<std::size_t> draw();
+    const Control::SharedFrame& frame() const { return _frame; }
+    // Of the last drawing: the screen's size in points, and how long it took.
+    const Control::Json& screen() const { return _screen; }
+    double secondsDrawn() const { return _secondsDrawn; }
+
+    // What the page shows beside the picture.
+    Control::Json standing() const;
+    // How the last shell process ended that nobody had asked to.
+    void noteEnd(std::string line) { _lastEnd = std::move(line); }
+
+    int descriptor() const { return _supervisor.descriptor(); }
+    // Which of the phone's shell processes the descriptor is of.
+    int process() const { return _supervisor.standing().at("starts"); }
+    const std::string& root() const { return _root; }
+
+private:
+    Control::Json setLook(const Control::Json& look);
+
+    Control::Supervisor& _supervisor;
+    std::string _root;
+    Control::SharedFrame _frame;
+    Control::Json _screen;
+    double _secondsDrawn = 0;
+    std::string _lastEnd;
+};
+
+}

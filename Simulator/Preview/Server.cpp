@@ -1,0 +1,295 @@
+// One thread: the phone's calls are short, and a frame is drawn by the shell process.
+#include "Simulator/Preview/Server.hpp"
+
+#include "Simulator/Control/RootFolder.hpp"
+#include "Simulator/Preview/Connection.hpp"
+#include "Simulator/Preview/FileWatch.hpp"
+#include "Simulator/Preview/FrameMessage.hpp"
+#include "Simulator/Preview/LivePhone.hpp"
+
+#include <boost/asio/ip/tcp.hpp>
+#include <boost/asio/posix/stream_descriptor.hpp>
+#include <boost/asio/steady_timer.hpp>
+#include <algorithm>
+#include <set>
+
+namespace Simulator::Preview {
+
+namespace asio = boost::asio;
+using asio::ip::tcp;
+using namespace Control;
+
+namespace {
+
+// Sixty frames a second at most.
+constexpr std::chrono::microseconds frameInterval{16'667};
+constexpr std::size_t mostBrowsers = 64;
+
+// Milliseconds since 1970, the clock that a page has as well.
+double now()
+{
+    using namespace std::chrono;
+    return duration<double, std::milli>(system_clock::now().time_since_epoch()).count();
+}
+
+class Server final : public Browser::Host {
+public:
+    Server(Supervisor::Options options, const ServerOptions& given);
+
+    void run() { _io.run(); }
+
+private:
+    Supervisor::Options withLog(Supervisor::Options);
+    tcp::acceptor listen(unsigned short port);
+    void acceptNext();
+
+    void watchInterruption();
+    void watchShell();
+    void watchStored();
+
+    Json call(const std::string& method, const Json& parameters) override;
+    Json standing() const override { return _phone->standing(); }
+    void wantsFrame() override { schedule(); }
+    void wantsAll(Browser&) override;
+    void entered(std::shared_ptr<Browser>) override;
+    void left(Browser& browser) override;
+
+    // After anything that the phone did.
+    void attend();
+    void tellStanding();
+    void schedule();
+    void showScreen();
+    void draw();
+    void sendFrames();
+
+    const ServerOptions& _options;
+    asio::io_context _io{1};
+    tcp::acceptor _acceptor;
+    unsigned short _port;
+    std::unique_ptr<LivePhone> _phone;
+    Supervisor _supervisor;
+    asio::posix::stream_descriptor _interruption{_io};
+    asio::posix::stream_descriptor _shell{_io};
+    asio::posix::stream_descriptor _stored{_io};
+    std::unique_ptr<FileWatch> _watch;
+    asio::steady_timer _timer{_io};
+    asio::steady_timer::time_point _lastDrawn{};
+    std::set<std::shared_ptr<Browser>> _browsers;
+    Json _told; // how the phone stood when the browsers were last told
+    Json _times = Json::object(); // of the frame that is due, as the page has them
+    int _process = -1; // the watched shell process
+    bool _isScheduled = false;
+    std::uint64_t _frames = 0;
+};
+
+Server::Server(Supervisor::Options options, const ServerOptions& given)
+    : _options(given)
+    , _acceptor(listen(given.port))
+    , _port(_acceptor.local_endpoint().port())
+    , _supervisor(withLog(std::move(options)))
+{
+    _phone = std::make_unique<LivePhone>(_supervisor, given.root);
+    _phone->start(given.start);
+    const auto preferences = std::filesystem::path(given.root) / std::filesystem::path(settingsPath.substr(1)).parent_path();
+    _watch = std::make_unique<FileWatch>(preferences.string(),
+        std::vector{std::filesystem::path(settingsPath).filename().string(),
+            std::filesystem::path(coloursPath).filename().string()});
+    _stored.assign(dup(_watch->descriptor()));
+    _interruption.assign(dup(given.interruption));
+    watchInterruption();
+    watchStored();
+    attend();
+    acceptNext();
+    given.ready("http://127.0.0.1:" + std::to_string(_port) + "/");
+}
+
+Supervisor::Options Server::withLog(Supervisor::Options options)
+{
+    options.clock = "real";
+    options.log = [this, log = options.log](const std::string& line) {
+        log(line);
+        if (_phone)
+            _phone->noteEnd(line);
+    };
+    return options;
+}
+
+tcp::acceptor Server::listen(unsigned short port)
+{
+    const tcp::endpoint here(asio::ip::address_v4::loopback(), port);
+    try {
+        return tcp::acceptor(_io, here);
+    } catch (const boost::system::system_error& error) {
+        throw std::runtime_error("port " + std::to_string(port) + " cannot be had: " + error.code().message()
+            + "; without --port any free one is taken");
+    }
+}
+
+void Server::acceptNext()
+{
+    _acceptor.async_accept([this](boost::system::error_code error, tcp::socket socket) {
+        if (!error && _browsers.size() < mostBrowsers) {
+            boost::system::error_code ignored;
+            socket.set_option(tcp::no_delay(true), ignored);
+            serveConnection(boost::beast::tcp_stream(std::move(socket)), _options.page, _port,
+                [this](boost::beast::tcp_stream stream, const HttpRequest& request) {
+                    std::make_shared<Browser>(std::move(stream), *this)->accept(request);
+                });
+        }
+        acceptNext();
+    });
+}
+
+void Server::watchInterruption()
+{
+    _interruption.async_wait(asio::posix::descriptor_base::wait_read, [this](boost::system::error_code) {
+        _options.interrupt();
+        watchInterruption();
+    });
+}
+
+void Server::watchShell()
+{
+    _shell.async_wait(asio::posix::descriptor_base::wait_read, [this](boost::system::error_code error) {
+        if (error)
+            return;
+        _phone->notice();
+        attend();
+        if (_shell.is_open())
+            watchShell();
+    });
+}
+
+void Server::watchStored()
+{
+    _stored.async_wait(asio::posix::descriptor_base::wait_read, [this](boost::system::error_code) {
+        if (_watch->tookPlace()) {
+            _phone->refresh();
+            for (const auto& browser : _browsers)
+                browser->tellStored();
+            attend();
+        }
+        watchStored();
+    });
+}
+
+Json Server::call(const std::string& method, const Json& parameters)
+{
+    _times["received"] = now();
+    try {
+        Json result = _phone->call(method, parameters);
+        _times["answered"] = now();
+        attend();
+        return result;
+    } catch (const ProtocolError&) {
+        attend();
+        throw;
+    }
+}
+
+void Server::entered(std::shared_ptr<Browser> browser)
+{
+    _browsers.insert(std::move(browser));
+}
+
+void Server::left(Browser& browser)
+{
+    _browsers.erase(browser.shared_from_this());
+}
+
+void Server::wantsAll(Browser& browser)
+{
+    browser.stale.addAll(_phone->frame().tileCount());
+    schedule();
+}
+
+void Server::attend()
+{
+    if (std::exchange(_process, _phone->process()) != _phone->process()) {
+        _shell.close();
+        if (_phone->descriptor() >= 0) {
+            _shell.assign(dup(_phone->descriptor()));
+            watchShell();
+        }
+    }
+    tellStanding();
+    schedule();
+}
+
+void Server::tellStanding()
+{
+    Json standing = _phone->standing();
+    if (standing == _told)
+        return;
+    _told = std::move(standing);
+    for (const auto& browser : _browsers)
+        browser->tellStanding();
+}
+
+void Server::schedule()
+{
+    const auto isDue = [this](const std::shared_ptr<Browser>& browser) {
+        return browser->isReady() && (_phone->mayLookOther() || !browser->stale.isEmpty());
+    };
+    if (_isScheduled || std::none_of(_browsers.begin(), _browsers.end(), isDue))
+        return;
+    _isScheduled = true;
+    _timer.expires_at(_lastDrawn + frameInterval);
+    _timer.async_wait([this](boost::system::error_code) {
+        _isScheduled = false;
+        showScreen();
+    });
+}
+
+void Server::showScreen()
+{
+    if (_phone->mayLookOther())
+        draw();
+    sendFrames();
+    attend();
+}
+
+void Server::draw()
+{
+    _lastDrawn = asio::steady_timer::clock_type::now();
+    _times["asked"] = now();
+    try {
+        const auto tiles = _phone->draw();
+        for (const auto& browser : _browsers)
+            browser->stale.add(tiles);
+    } catch (const ProtocolError&) {
+        // It comes back, or is gone; the browsers are told. A phone that cannot be drawn is not tried all the time.
+        _lastDrawn += std::chrono::seconds(1);
+    }
+    _times["drawn"] = now();
+}
+
+void Server::sendFrames()
+{
+    std::vector<std::pair<Tiles, std::shared_ptr<const std::string>>> made;
+    for (const auto& browser : _browsers) {
+        if (!browser->isReady() || browser->stale.isEmpty())
+            continue;
+        auto found = std::find_if(made.begin(), made.end(), [&](const auto& one) { return one.first == browser->stale; });
+        if (found == made.end()) {
+            const auto& frame = _phone->frame();
+            const Json header{{"frame", ++_frames}, {"pixels", {frame.width(), frame.height()}},
+                {"screen", _phone->screen()}, {"secondsDrawn", _phone->secondsDrawn()}, {"times", _times}};
+            made.emplace_back(
+                browser->stale, std::make_shared<const std::string>(frameMessage(frame, browser->stale, header)));
+            found = std::prev(made.end());
+        }
+        browser->send(found->second);
+    }
+    if (!made.empty())
+        _times = Json::object();
+}
+
+}
+
+void serve(Supervisor::Options options, const ServerOptions& given)
+{
+    Server(std::move(options), given).run();
+}
+
+}
