@@ -53,7 +53,7 @@ Json LivePhone::setLook(const Json& look)
 void LivePhone::refresh()
 {
     try {
-        _supervisor.call("objc.send", {{"target", {{"instance", "SBFLockScreenDateView"}}}, {"selector", "updateTime"}});
+        _supervisor.call("objc.send", {{"target", {{"instance", "SBFLockScreenDateViewController"}}}, {"selector", "updateTime"}});
     } catch (const ProtocolError&) {
         // Without the extension, in safe mode or by choice, there is nothing to refresh.
     }
