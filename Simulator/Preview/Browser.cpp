@@ -117,12 +117,13 @@ std::optional<Browser::Outgoing> Browser::next()
     const auto news = [](const char* method, const Json& parameters) {
         return Outgoing{shared(toLine({{"jsonrpc", "2.0"}, {"method", method}, {"params", parameters}})), Outgoing::Kind::News};
     };
-    if (_reply)
-        return Outgoing{std::move(_reply), Outgoing::Kind::Reply};
+    // Who has the reply to a call knows what the call did.
     if (std::exchange(_standingIsNews, false))
         return news("preview.standing", _host.standing());
     if (std::exchange(_storedIsNews, false))
         return news("preview.stored", Json::object());
+    if (_reply)
+        return Outgoing{std::move(_reply), Outgoing::Kind::Reply};
     if (_frame)
         return Outgoing{std::move(_frame), Outgoing::Kind::Frame};
     return std::nullopt;

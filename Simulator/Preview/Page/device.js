@@ -28,7 +28,6 @@ function withSeconds(time) {
 export class DevicePanel {
     #device = null;
     #updates = [];
-    #screen = null;
 
     constructor({ connection, texts, report, screen }) {
         Object.assign(this, { connection, texts, text: texts.of, report, screen });
@@ -148,6 +147,10 @@ export class DevicePanel {
 
     #surroundings() {
         const time = element("input", { type: "datetime-local", step: 1 });
+        time.onfocus = async () => {
+            const { time: now } = await this.connection.call("phone.info");
+            time.value = now ?? "";
+        };
         time.onchange = () => time.value && this.#call("clock.set", { time: withSeconds(time.value) });
         const name = (locale) => called(locale, this.texts, "language");
         const languages = ["ar", "de", "en", "es", "fr", "he", "it", "ja", "pt", "ru", "zh-Hans", "zh-Hant"];
@@ -163,13 +166,15 @@ export class DevicePanel {
             const [width, height, scale] = size.value.split(",").map(Number);
             this.#call("phone.start", { ...this.#device, screen: { width, height, scale } });
         };
-        this.screen.canvas.addEventListener("frame", () => {
+        const landscape = toggle({ onchange: () => this.#call("phone.rotate", { landscape: landscape.checked }) });
+        const show = () => {
             const { width, height, scale } = this.screen.size;
             if (document.activeElement !== size)
                 size.value = [Math.min(width, height), Math.max(width, height), scale].join();
             landscape.checked = width > height;
-        });
-        const landscape = toggle({ onchange: () => this.#call("phone.rotate", { landscape: landscape.checked }) });
+        };
+        show();
+        this.screen.canvas.addEventListener("frame", show);
         return group(this.text("appearance"), [this.#choice("style", "style", ["light", "dark"], name),
             row(this.text("screenSize"), size), row(this.text("landscape"), landscape)]);
     }

@@ -26,9 +26,10 @@ export function buttonRow(label, run, properties = {}) {
     return element("div", { className: "row" }, element("button", { type: "button", onclick: run, ...properties }, label));
 }
 
-// Rows that belong together, under a heading if they have one.
+// Rows that belong together, under a heading if they have one. What the first row says is said once.
 export function group(title, rows, footer = null) {
-    const heading = title ? element("h3", {}, title) : null;
+    const isSaid = rows[0]?.querySelector("label")?.textContent === title;
+    const heading = title && !isSaid ? element("h3", {}, title) : null;
     return element("section", { className: "group" }, heading, element("div", { className: "rows" }, ...rows),
         footer ? element("p", { className: "footer" }, footer) : null);
 }

@@ -14,6 +14,7 @@ export class Hand {
     #hasTouch = true;
     #cursor;
     #moving = null;
+    #pressed = Promise.resolve();
 
     constructor({ screen, connection, cursor, bar, text, report, standing }) {
         Object.assign(this, { screen, connection, text, report, standing });
@@ -43,8 +44,10 @@ export class Hand {
         );
     }
 
+    // Pressed again before the phone has answered, it still does the other thing.
     sideButton() {
-        return this.#do(this.standing().isLit === false ? "phone.wake" : "phone.lock");
+        this.#pressed = this.#pressed.then(() =>
+            this.#do(this.standing().isLit === false ? "phone.wake" : "phone.lock"));
     }
 
     async #do(method, params) {

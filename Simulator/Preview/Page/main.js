@@ -65,7 +65,7 @@ async function build(connection, screen, store) {
     find("keys").textContent = text("keys");
     const tabs = new Tabs(find("tabs"), find("panels"), text("pages"));
     const settings = new SettingsPanels({
-        store, text, ofPage: texts.ofPage, connection, report, openPage: (name) => tabs.open(name, true),
+        store, ofPage: texts.ofPage, connection, report, openPage: (name) => tabs.open(name, true),
     });
     for (const page of pages)
         tabs.add(page.name, texts.ofPage(page.title), settings.panel(page));

@@ -13,7 +13,7 @@ function parse(buffer) {
 
 export class Screen {
     // In points, as touches are told.
-    size = { width: 375, height: 812 };
+    size = { width: 375, height: 812, scale: 3 };
 
     constructor(canvas, connection) {
         this.canvas = canvas;
@@ -37,6 +37,7 @@ export class Screen {
             this.context.putImageData(new ImageData(pixels, partWidth, partHeight), x, y);
             at += pixels.length;
         }
+        this.canvas.dataset.frame = header.frame;
         const painted = clock();
         this.connection.say("screen.shown");
         requestAnimationFrame(() => this.#told(header, { ...header.times, arrived, painted, shown: clock() }));

@@ -29,8 +29,8 @@ export function parseColour(text) {
 export class SettingsPanels {
     #updates = [];
 
-    constructor({ store, text, ofPage, connection, report, openPage }) {
-        Object.assign(this, { store, text, ofPage, connection, report, openPage });
+    constructor({ store, ofPage, connection, report, openPage }) {
+        Object.assign(this, { store, ofPage, connection, report, openPage });
         store.addEventListener("stored", () => this.update());
     }
 
@@ -50,11 +50,7 @@ export class SettingsPanels {
             else
                 last.rows.push(...this.#rows(cell));
         }
-        return groups.map(({ title, footer, rows }) => {
-            // A heading that says what its only row says is said once.
-            const isSaid = rows[0]?.querySelector("label")?.textContent === title;
-            return group(isSaid ? "" : title, rows, footer);
-        });
+        return groups.map(({ title, footer, rows }) => group(title, rows, footer));
     }
 
     #title(key) {
@@ -131,7 +127,7 @@ export class SettingsPanels {
         const { key, fallback } = cell.libsparkcolourpicker;
         const label = this.#title(cell.label);
         const colour = element("input", { type: "color" });
-        const opacity = slider(this.text("opacityOf", label), { min: 0, max: 1, step: 0.01 });
+        const opacity = slider(`${label}: ${this.ofPage("opacity")}`, { min: 0, max: 1, step: 0.01 });
         colour.dataset.key = key;
         opacity.control.dataset.opacityOf = key;
         const save = () => this.store.set("colours", key,
@@ -147,7 +143,7 @@ export class SettingsPanels {
     }
 
     #pageLink(cell) {
-        return buttonRow(`${this.#title(cell.label)}`, () => this.openPage(cell.id), { className: "link" });
+        return buttonRow(this.#title(cell.label), () => this.openPage(cell.id), { className: "link" });
     }
 
     #button(cell) {

@@ -22,7 +22,6 @@ const own = {
         took: "Taken over: *", tookLook: "The look of the link is in use.", undo: "Undo", undone: "Undone.",
         tooLarge: "* is too large.", unknownKind: "* is no settings file, look, font or picture.",
         badFile: "* cannot be used: ", missingFont: "The look uses the font *, which this phone lacks.",
-        opacityOf: "*: opacity",
     },
     de: {
         connected: "Verbunden", connecting: "Verbinden …", lost: "Verbindung verloren. Neuer Versuch …",
@@ -47,7 +46,6 @@ const own = {
         undone: "Zurückgenommen.", tooLarge: "* ist zu groß.",
         unknownKind: "* ist keine Einstellungsdatei, kein Aussehen, keine Schrift und kein Bild.",
         badFile: "* ist nicht zu gebrauchen: ", missingFont: "Das Aussehen verwendet die Schrift *, die diesem Telefon fehlt.",
-        opacityOf: "*: Deckkraft",
     },
 };
 

@@ -1,0 +1,118 @@
+// What the browser tests share: the program with its phone, a browser, and what a person would read off the page.
+import { spawn } from "node:child_process";
+import { once } from "node:events";
+import { mkdtempSync, readFileSync, rmSync } from "node:fs";
+import { createRequire } from "node:module";
+import { tmpdir } from "node:os";
+import { join } from "node:path";
+import { createInterface } from "node:readline";
+
+const { chromium } = createRequire(`${process.env.LYR_PREVIEW_MODULES}/`)("playwright-core");
+
+export const settingsFile = "var/mobile/Library/Preferences/com.ostrel.lyrprefs.plist";
+export const coloursFile = "var/mobile/Library/Preferences/com.ostrel.colorslyr.plist";
+export const wallpaperFile = "var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg";
+export const moment = "2020-11-15T21:41:00";
+
+export function makeRoot() {
+    return mkdtempSync(join(tmpdir(), "lyr-preview-"));
+}
+
+export function removeRoot(root) {
+    rmSync(root, { recursive: true, force: true });
+}
+
+// `lyr preview` on a root folder; the line that it prints is its address.
+export class Preview {
+    static async start(root, options = []) {
+        const preview = new Preview();
+        preview.root = root;
+        preview.process = spawn(process.env.LYR_PROGRAM, ["preview", "--root", root, "--time", moment,
+            "--screen", "375x812@1", ...options],
+            { stdio: ["ignore", "pipe", "ignore"] });
+        const [address] = await once(createInterface(preview.process.stdout), "line");
+        preview.address = address;
+        return preview;
+    }
+
+    get port() {
+        return Number(new URL(this.address).port);
+    }
+
+    read(path) {
+        return readFileSync(join(this.root, path), "utf8");
+    }
+
+    async stop(signal = "SIGTERM") {
+        const ended = once(this.process, "exit");
+        this.process.kill(signal);
+        return (await ended)[1];
+    }
+}
+
+export async function startBrowser() {
+    return chromium.launch({ executablePath: process.env.LYR_CHROMIUM ?? "/usr/bin/chromium", args: ["--no-sandbox"] });
+}
+
+// A page that is ready, with all that it complained about.
+export async function openPage(browser, address, options = {}) {
+    const context = await browser.newContext({ locale: "en-US", permissions: ["clipboard-read", "clipboard-write"], ...options });
+    const page = await context.newPage();
+    page.complaints = [];
+    page.requests = [];
+    page.on("console", (message) => ["error", "warning"].includes(message.type()) && page.complaints.push(message.text()));
+    page.on("pageerror", (error) => page.complaints.push(String(error)));
+    page.on("request", (request) => page.requests.push(request.url()));
+    await page.goto(address);
+    await page.waitForSelector("body[data-ready]");
+    await page.waitForSelector("#screen[data-frame]");
+    return page;
+}
+
+// What the phone shows, to be compared.
+export function picture(page) {
+    return page.evaluate(() => document.getElementById("screen").toDataURL());
+}
+
+export function untilPictureDiffers(page, before) {
+    return page.waitForFunction((old) => document.getElementById("screen").toDataURL() !== old, before);
+}
+
+export function untilPictureIs(page, wanted) {
+    return page.waitForFunction((one) => document.getElementById("screen").toDataURL() === one, wanted);
+}
+
+function untilScreenIs(page, wantsDark) {
+    return page.waitForFunction((wanted) => {
+        const canvas = document.getElementById("screen");
+        const pixels = canvas.getContext("2d").getImageData(0, 0, canvas.width, canvas.height).data;
+        return pixels.every((value, index) => index % 4 === 3 || value === 0) === wanted;
+    }, wantsDark);
+}
+
+export function untilDark(page) {
+    return untilScreenIs(page, true);
+}
+
+export function untilLit(page) {
+    return untilScreenIs(page, false);
+}
+
+// A method of the control protocol, as the page calls it, over a connection of its own.
+export function call(page, method, params = {}) {
+    return page.evaluate(({ method, params }) => new Promise((resolve) => {
+        const socket = new WebSocket(`ws://${location.host}/control`);
+        socket.onopen = () => socket.send(JSON.stringify({ jsonrpc: "2.0", id: "test", method, params }));
+        socket.onmessage = ({ data }) => {
+            const reply = JSON.parse(data);
+            if (reply.id !== "test")
+                return;
+            socket.close();
+            resolve(reply);
+        };
+    }), { method, params });
+}
+
+export function untilStatus(page, text) {
+    return page.waitForFunction((part) => document.getElementById("status").textContent.includes(part), text);
+}

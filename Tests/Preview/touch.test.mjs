@@ -1,0 +1,70 @@
+// Fingers on the page's phone.
+import assert from "node:assert/strict";
+import { after, before, test } from "node:test";
+import { call, makeRoot, openPage, picture, Preview, removeRoot, startBrowser, untilPictureDiffers } from "./support.mjs";
+
+let root, preview, browser;
+before(async () => {
+    root = makeRoot();
+    [preview, browser] = await Promise.all([Preview.start(root), startBrowser()]);
+});
+after(async () => {
+    await browser.close();
+    await preview.stop();
+    removeRoot(root);
+});
+
+async function untilEditorIsOpen(page) {
+    for (;;) {
+        const { result } = await call(page, "view.get", { id: "_segmentedControl" });
+        if (result?.onScreen)
+            return;
+    }
+}
+
+test("opens the editor when the mouse is held on the lock screen", async () => {
+    const page = await openPage(browser, preview.address);
+    const before = await picture(page);
+    const { x, y, width, height } = await page.locator("#screen").boundingBox();
+    await page.mouse.move(x + width / 2, y + height / 2);
+    await page.mouse.down();
+    await untilEditorIsOpen(page);
+    await page.mouse.up();
+    await untilPictureDiffers(page, before);
+    await call(page, "phone.lock");
+    await call(page, "phone.wake");
+    await page.context().close();
+});
+
+test("opens the editor by keyboard alone", async () => {
+    const page = await openPage(browser, preview.address);
+    await page.locator("#screen").focus();
+    await page.keyboard.press("ArrowDown");
+    await page.keyboard.down("Enter");
+    await untilEditorIsOpen(page);
+    await page.keyboard.up("Enter");
+    await call(page, "phone.lock");
+    await call(page, "phone.wake");
+    await page.context().close();
+});
+
+test("opens the editor with the button for touching and holding", async () => {
+    const page = await openPage(browser, preview.address);
+    await page.click("#hand-touchAndHold");
+    await untilEditorIsOpen(page);
+    assert.equal(await page.textContent("#status"), "Connected");
+    await page.context().close();
+});
+
+test("opens the editor by a finger on a touch screen", async () => {
+    const page = await openPage(browser, preview.address, { hasTouch: true });
+    await call(page, "phone.lock");
+    await call(page, "phone.wake");
+    const { x, y, width, height } = await page.locator("#screen").boundingBox();
+    const session = await page.context().newCDPSession(page);
+    const touchPoints = [{ x: x + width / 2, y: y + height / 2 }];
+    await session.send("Input.dispatchTouchEvent", { type: "touchStart", touchPoints });
+    await untilEditorIsOpen(page);
+    await session.send("Input.dispatchTouchEvent", { type: "touchEnd", touchPoints: [] });
+    await page.context().close();
+});
