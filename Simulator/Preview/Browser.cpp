@@ -32,6 +32,8 @@ void Browser::accept(const HttpRequest& request)
     beast::get_lowest_layer(_stream).expires_never();
     _stream.set_option(timeouts);
     _stream.read_message_max(longestRequest);
+    // A frame of several megabytes in pieces of a few kilobytes takes many times as long.
+    _stream.auto_fragment(false);
     _stream.async_accept(request, [self = shared_from_this()](beast::error_code error) {
         if (error)
             return;

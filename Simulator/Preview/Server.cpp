@@ -163,12 +163,7 @@ void Server::watchShell()
 void Server::watchStored()
 {
     _stored.async_wait(asio::posix::descriptor_base::wait_read, [this](boost::system::error_code) {
-        if (_watch->tookPlace()) {
-            _phone->refresh();
-            for (const auto& browser : _browsers)
-                browser->tellStored();
-            attend();
-        }
+        attend();
         watchStored();
     });
 }
@@ -180,6 +175,7 @@ Json Server::call(const std::string& method, const Json& parameters)
         Json result = _phone->call(method, parameters);
         _times["answered"] = now();
         attend();
+        _times["attended"] = now();
         return result;
     } catch (const ProtocolError&) {
         attend();
@@ -211,6 +207,12 @@ void Server::attend()
             _shell.assign(dup(_phone->descriptor()));
             watchShell();
         }
+    }
+    // The shell process writes before it answers, so that what a call has stored is seen right after it.
+    if (_watch->tookPlace()) {
+        _phone->refresh();
+        for (const auto& browser : _browsers)
+            browser->tellStored();
     }
     tellStanding();
     schedule();

@@ -24,12 +24,11 @@ export function removeRoot(root) {
 
 // `lyr preview` on a root folder; the line that it prints is its address.
 export class Preview {
-    static async start(root, options = []) {
+    static async start(root, options = [], screen = "375x812@1") {
         const preview = new Preview();
         preview.root = root;
         preview.process = spawn(process.env.LYR_PROGRAM, ["preview", "--root", root, "--time", moment,
-            "--screen", "375x812@1", ...options],
-            { stdio: ["ignore", "pipe", "ignore"] });
+            "--screen", screen, ...options], { stdio: ["ignore", "pipe", "ignore"] });
         const [address] = await once(createInterface(preview.process.stdout), "line");
         preview.address = address;
         return preview;
