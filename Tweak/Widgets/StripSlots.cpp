@@ -21,7 +21,9 @@ constexpr CGFloat gap = 8;
 // One cell of weather beside a bar: the bar has a fixed place, for which the strip moves to the left.
 constexpr CGFloat shiftForBar = 40;
 constexpr CGFloat barPlace = 260;
-constexpr CGFloat widestCellsBesideBar = 384;
+/// The weather's place in the moved strip is on the screen.
+constexpr CGFloat cellsBesideBar = 20;
+constexpr CGFloat widestCellsBesideBar = 360;
 /// What the bar leaves of a phone's width: its place in the moved strip, and a margin.
 constexpr CGFloat besideBar = barPlace - shiftForBar + margins / 2;
 constexpr CGFloat longestBar = 144;
@@ -34,11 +36,11 @@ Slot cells(CGSize screen)
     return {(screen.width - width) / 2, width};
 }
 
-/// A part of the cells that ends within the strip, with its content in the part's middle.
-Slot part(const Slot& all, CGFloat from, CGFloat to, CGFloat stripWidth)
+/// A part of the cells that stops at the given end, with its content in the part's middle.
+Slot part(const Slot& all, CGFloat from, CGFloat to, CGFloat end)
 {
     CGFloat centre = all.x + all.width * (from + to) / 2;
-    CGFloat half = std::min(all.width * (to - from) / 2 - gap / 2, stripWidth - centre);
+    CGFloat half = std::min(all.width * (to - from) / 2 - gap / 2, end - centre);
     return {centre - half, 2 * half};
 }
 
@@ -76,9 +78,10 @@ void divideForBar(StripGeometry& geometry, const Slot& all, CGFloat length)
 void divideBesideBar(StripGeometry& geometry, Slot all, CGFloat length)
 {
     geometry.frame.origin.x -= shiftForBar;
-    all.x = margins / 2;
+    all.x = cellsBesideBar;
     all.width = std::min(all.width, widestCellsBesideBar);
-    divideInThirds(geometry, all);
+    geometry.weather = part(all, 0, 1.0 / 3, barPlace - gap);
+    geometry.agenda = part(all, 1.0 / 3, 2.0 / 3, barPlace - gap);
     geometry.battery = {barPlace, length};
 }
 
