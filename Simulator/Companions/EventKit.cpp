@@ -19,7 +19,7 @@ public:
 constexpr double usualDuration = 3600;
 
 struct Occurrence {
-    std::string title;
+    std::optional<std::string> title;
     double start;
     double end;
     bool allDay;
@@ -46,7 +46,7 @@ public:
         standIn<EKEvent>(event.raw()).occurrence_ = occurrence;
         return event;
     }
-    NS::String title() const { return NS::String::fromUTF8(occurrence_.title); }
+    NS::String title() const { return occurrence_.title ? NS::String::fromUTF8(*occurrence_.title) : NS::String(); }
     NS::Date startDate() const { return NS::Date::dateWithTimeIntervalSinceReferenceDate(occurrence_.start); }
     NS::Date endDate() const { return NS::Date::dateWithTimeIntervalSinceReferenceDate(occurrence_.end); }
     bool isAllDay() const { return occurrence_.allDay; }

@@ -2,6 +2,7 @@
 #include "Platform/Companions/WeatherApp.hpp"
 
 #include "Platform/UIKit/UIImage.hpp"
+#include "Simulator/Companions/PropertyListValues.hpp"
 #include "Simulator/Companions/Registrations.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
@@ -14,12 +15,14 @@ namespace Simulator {
 
 namespace {
 
-struct WeatherText {
+using Value = WeatherReport::Value;
+
+struct WeatherMember {
     const char* key;
-    std::string WeatherReport::*member;
+    Value WeatherReport::*member;
 };
 
-constexpr WeatherText weatherTexts[] = {
+constexpr WeatherMember weatherMembers[] = {
     {"location", &WeatherReport::location},
     {"conditions", &WeatherReport::conditions},
     {"temperature", &WeatherReport::temperature},
@@ -27,9 +30,9 @@ constexpr WeatherText weatherTexts[] = {
     {"sunset", &WeatherReport::sunset},
 };
 
-NS::String textOrNil(const std::string& text)
+NS::Object objectOrNil(const Value& value)
 {
-    return text.empty() ? NS::String() : NS::String::fromUTF8(text);
+    return value == "" ? NS::Object() : valueOfJson(value);
 }
 
 /// The picture of the conditions lies on the host.
@@ -60,8 +63,8 @@ public:
         if (!weather)
             return {};
         const auto data = NS::MutableDictionary::make();
-        for (const auto& [key, member] : weatherTexts) {
-            if (const NS::String value = textOrNil((*weather).*member))
+        for (const auto& [key, member] : weatherMembers) {
+            if (const NS::Object value = objectOrNil((*weather).*member))
                 data.setObject(value, NS::String::fromUTF8(key));
         }
         if (const UI::Image image = weather->image.empty() ? UI::Image() : imageOnHost(weather->image))
@@ -69,14 +72,14 @@ public:
         return data;
     }
 
-    NS::String lowestTemperature() const { return reported(&WeatherReport::low); }
-    NS::String highestTemperature() const { return reported(&WeatherReport::high); }
+    NS::Object lowestTemperature() const { return reported(&WeatherReport::low); }
+    NS::Object highestTemperature() const { return reported(&WeatherReport::high); }
 
 private:
-    static NS::String reported(std::string WeatherReport::*member)
+    static NS::Object reported(Value WeatherReport::*member)
     {
         const auto& weather = DeviceState::shared().weather;
-        return weather ? textOrNil((*weather).*member) : NS::String();
+        return weather ? objectOrNil((*weather).*member) : NS::Object();
     }
 };
 

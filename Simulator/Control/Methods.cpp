@@ -19,19 +19,23 @@ Schema joined(Schema first, const Schema& second)
 
 Type battery()
 {
-    return object({{"level", number(-1, 1)}, {"state", oneOf({"unplugged", "charging", "full", "unknown"})},
+    // A broken gauge reports no number.
+    return object({{"level", orNull(number(-1, 1))}, {"state", oneOf({"unplugged", "charging", "full", "unknown"})},
         {"lowPower", boolean()}});
 }
 
+// Texts; but a library that has gone wrong gives out anything.
 Type weather()
 {
-    return orNull(object({{"temperature", text()}, {"high", text()}, {"low", text()}, {"conditions", text()},
-        {"location", text()}, {"sunrise", text()}, {"sunset", text()}, {"image", hostFile("a PNG")}}));
+    const Type value = propertyList();
+    return orNull(object({{"temperature", value}, {"high", value}, {"low", value}, {"conditions", value},
+        {"location", value}, {"sunrise", value}, {"sunset", value}, {"image", hostFile("a PNG")}}));
 }
 
 Type events()
 {
-    return listOf(object({{"title", text(), required}, {"start", localTime(), required}, {"allDay", boolean()}}));
+    return listOf(
+        object({{"title", orNull(text()), required}, {"start", localTime(), required}, {"allDay", boolean()}}));
 }
 
 // An object on the phone: a class, the shell's object of a class, a view, or one that `objc.new` made.

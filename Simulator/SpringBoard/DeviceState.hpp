@@ -2,6 +2,8 @@
 // Plain values; whoever changes them tells the shell (Shell::deviceChanged).
 #pragma once
 
+#include <nlohmann/json.hpp>
+
 #include <optional>
 #include <set>
 #include <string>
@@ -14,27 +16,32 @@ enum class BatteryState { Unknown = 0, Unplugged = 1, Charging = 2, Full = 3 };
 enum class InterfaceStyle { Light = 1, Dark = 2 };
 
 struct Battery {
+    /// From 0 to 1; below 0 while it is not known, and not a number where the gauge is broken.
     double level = 1;
     BatteryState state = BatteryState::Unplugged;
     bool lowPower = false;
 };
 
-/// Finished texts, as the weather library holds them. An empty one is absent.
+/// Finished texts, as the weather library holds them. An empty one is absent. A value of another kind is given out as
+/// the object of that kind, as a library does that has gone wrong.
 struct WeatherReport {
-    std::string temperature;
-    std::string high;
-    std::string low;
-    std::string conditions;
-    std::string location;
-    std::string sunrise;
-    std::string sunset;
+    using Value = nlohmann::ordered_json;
+
+    Value temperature;
+    Value high;
+    Value low;
+    Value conditions;
+    Value location;
+    Value sunrise;
+    Value sunset;
     /// Host path of a PNG.
     std::string image;
 };
 
 /// Local times are "2020-11-15T21:41:00" in the phone's time zone, whichever that is when they are used.
 struct CalendarEvent {
-    std::string title;
+    /// Nothing for an event without one.
+    std::optional<std::string> title;
     std::string start;
     bool allDay = false;
 };

@@ -107,7 +107,7 @@ TEST_F(Render, NamesWhatIsWrongWithAFile)
         null + ": parameter \"settings.a\" takes a value without null and without NUL in a text, not null");
     const std::string device = folder.put("d.json", R"({"battery": {"level": 5}})");
     expectFailure(
-        {"--device", device}, device + ": parameter \"device.battery.level\" takes a number from -1 to 1, not 5");
+        {"--device", device}, device + ": parameter \"device.battery.level\" takes a number from -1 to 1 or null, not 5");
     const std::string png = folder.put("w.png", "\x89PNG");
     expectFailure({"--wallpaper", png}, png + ": not a JPEG");
     expectFailure(

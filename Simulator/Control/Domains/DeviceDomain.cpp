@@ -4,6 +4,7 @@
 #include "Simulator/Foundation/PhoneLocale.hpp"
 
 #include <array>
+#include <cmath>
 
 namespace Simulator::Control {
 
@@ -17,20 +18,20 @@ constexpr std::array batteryStates{BatteryStateName{"unknown", BatteryState::Unk
     BatteryStateName{"unplugged", BatteryState::Unplugged}, BatteryStateName{"charging", BatteryState::Charging},
     BatteryStateName{"full", BatteryState::Full}};
 
-struct WeatherText {
+struct WeatherMember {
     const char* name;
-    std::string WeatherReport::*text;
+    WeatherReport::Value WeatherReport::*value;
 };
-constexpr std::array weatherTexts{WeatherText{"temperature", &WeatherReport::temperature},
-    WeatherText{"high", &WeatherReport::high}, WeatherText{"low", &WeatherReport::low},
-    WeatherText{"conditions", &WeatherReport::conditions}, WeatherText{"location", &WeatherReport::location},
-    WeatherText{"sunrise", &WeatherReport::sunrise}, WeatherText{"sunset", &WeatherReport::sunset},
-    WeatherText{"image", &WeatherReport::image}};
+constexpr std::array weatherMembers{WeatherMember{"temperature", &WeatherReport::temperature},
+    WeatherMember{"high", &WeatherReport::high}, WeatherMember{"low", &WeatherReport::low},
+    WeatherMember{"conditions", &WeatherReport::conditions}, WeatherMember{"location", &WeatherReport::location},
+    WeatherMember{"sunrise", &WeatherReport::sunrise}, WeatherMember{"sunset", &WeatherReport::sunset}};
 
 void applyBattery(const Json& json)
 {
     Battery& battery = DeviceState::shared().battery;
-    battery.level = json.value("level", battery.level);
+    if (json.contains("level"))
+        battery.level = json.at("level").is_null() ? std::nan("") : json.at("level").get<double>();
     battery.lowPower = json.value("lowPower", battery.lowPower);
     for (const auto& [name, state] : batteryStates)
         if (json.contains("state") && json.at("state") == name)
@@ -53,8 +54,9 @@ void applyWeather(const Json& json)
     if (json.is_null())
         return;
     WeatherReport report;
-    for (const auto& [name, text] : weatherTexts)
-        report.*text = json.value(name, "");
+    for (const auto& [name, value] : weatherMembers)
+        report.*value = json.value(name, Json());
+    report.image = json.value("image", "");
     DeviceState::shared().weather = report;
 }
 
@@ -64,9 +66,11 @@ Json describeWeather()
     if (!weather)
         return nullptr;
     Json json = Json::object();
-    for (const auto& [name, text] : weatherTexts)
-        if (!((*weather).*text).empty())
-            json[name] = (*weather).*text;
+    for (const auto& [name, value] : weatherMembers)
+        if (!((*weather).*value).is_null())
+            json[name] = (*weather).*value;
+    if (!weather->image.empty())
+        json["image"] = weather->image;
     return json;
 }
 
@@ -75,14 +79,17 @@ void applyEvents(const Json& json)
     auto& events = DeviceState::shared().events;
     events.clear();
     for (const Json& event : json)
-        events.push_back({event.at("title"), event.at("start"), event.value("allDay", false)});
+        events.push_back(
+            {event.at("title").is_null() ? std::nullopt : std::optional(event.at("title").get<std::string>()),
+                event.at("start"), event.value("allDay", false)});
 }
 
 Json describeEvents()
 {
     Json json = Json::array();
     for (const CalendarEvent& event : DeviceState::shared().events)
-        json.push_back({{"title", event.title}, {"start", event.start}, {"allDay", event.allDay}});
+        json.push_back(
+            {{"title", event.title ? Json(*event.title) : Json()}, {"start", event.start}, {"allDay", event.allDay}});
     return json;
 }
 
