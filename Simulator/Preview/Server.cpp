@@ -23,6 +23,7 @@ namespace {
 
 // Sixty frames a second at most.
 constexpr std::chrono::microseconds frameInterval{16'667};
+constexpr std::chrono::milliseconds refreshInterval{100};
 constexpr std::size_t mostBrowsers = 64;
 
 // Milliseconds since 1970, the clock that a page has as well.
@@ -56,6 +57,7 @@ private:
 
     // After anything that the phone did.
     void attend();
+    void refreshClock();
     void tellStanding();
     void schedule();
     void showScreen();
@@ -73,12 +75,15 @@ private:
     asio::posix::stream_descriptor _stored{_io};
     std::unique_ptr<FileWatch> _watch;
     asio::steady_timer _timer{_io};
+    asio::steady_timer _refreshTimer{_io};
     asio::steady_timer::time_point _lastDrawn{};
     std::set<std::shared_ptr<Browser>> _browsers;
     Json _told; // how the phone stood when the browsers were last told
     Json _times = Json::object(); // of the frame that is due, as the page has them
     int _process = -1; // the watched shell process
     bool _isScheduled = false;
+    bool _isRefreshing = false;
+    bool _wantsRefresh = false;
     std::uint64_t _frames = 0;
 };
 
@@ -210,12 +215,29 @@ void Server::attend()
     }
     // The shell process writes before it answers, so that what a call has stored is seen right after it.
     if (_watch->tookPlace()) {
-        _phone->refresh();
+        refreshClock();
         for (const auto& browser : _browsers)
             browser->tellStored();
     }
     tellStanding();
     schedule();
+}
+
+// A slider is moved more often than the clock can follow.
+void Server::refreshClock()
+{
+    _wantsRefresh = _isRefreshing;
+    if (_isRefreshing)
+        return;
+    _isRefreshing = true;
+    _phone->refresh();
+    _refreshTimer.expires_after(refreshInterval);
+    _refreshTimer.async_wait([this](boost::system::error_code) {
+        _isRefreshing = false;
+        if (_wantsRefresh)
+            refreshClock();
+        attend();
+    });
 }
 
 void Server::tellStanding()

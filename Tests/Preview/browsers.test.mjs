@@ -66,6 +66,9 @@ test("says that the phone crashed and shows it in safe mode", async () => {
     await untilStatus(page, "Safe mode");
     await untilPictureDiffers(page, before);
     assert.equal((await call(page, "phone.info")).result.safeMode, true);
+    await page.getByRole("button", { name: "Restart the home screen" }).click();
+    await untilPictureIs(page, before);
+    assert.equal((await call(page, "phone.info")).result.safeMode, false);
 });
 
 test("says that the home screen was restarted and goes on", async () => {

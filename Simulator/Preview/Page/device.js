@@ -1,5 +1,6 @@
 // The panel of the phone's state: power, weather, alarm, events, time and place, appearance, timer.
 import { buttonRow, choice, element, group, row, slider, toggle } from "./elements.js";
+import { restart } from "./restart.js";
 
 const weatherTexts = [
     ["temperature", "itemTemperature", "21°"], ["high", "high", "24°"], ["low", "low", "15°"],
@@ -164,7 +165,7 @@ export class DevicePanel {
         const size = choice(screens.map((screen) => [screen.join(), `${screen[0]} × ${screen[1]} @ ${screen[2]}`]), {});
         size.onchange = () => {
             const [width, height, scale] = size.value.split(",").map(Number);
-            this.#call("phone.start", { ...this.#device, screen: { width, height, scale } });
+            restart(this.connection, this.#device, { width, height, scale }).catch((error) => this.report(error.message));
         };
         const landscape = toggle({ onchange: () => this.#call("phone.rotate", { landscape: landscape.checked }) });
         const show = () => {

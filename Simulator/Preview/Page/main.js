@@ -3,6 +3,7 @@ import { Connection } from "./connection.js";
 import { DevicePanel } from "./device.js";
 import { Hand } from "./hand.js";
 import { LookPanel } from "./look.js";
+import { restart } from "./restart.js";
 import { Screen } from "./screen.js";
 import { bundle, loadPages, SettingsPanels } from "./settings.js";
 import { Store } from "./store.js";
@@ -48,6 +49,13 @@ function takeStanding(next) {
         report(texts.of("restarted"));
 }
 
+// In safe mode nobody hears of a wanted restart; a new start has the extension again.
+function post(connection, screen, name) {
+    if (standing.safeMode)
+        return restart(connection, standing.device, screen.size);
+    return connection.call("notify.post", { name });
+}
+
 async function loadTexts(connection) {
     const { names } = await connection.call("file.list", { path: bundle });
     const present = names.filter((name) => name.endsWith(".json")).map((name) => name.slice(0, -5));
@@ -65,7 +73,7 @@ async function build(connection, screen, store) {
     find("keys").textContent = text("keys");
     const tabs = new Tabs(find("tabs"), find("panels"), text("pages"));
     const settings = new SettingsPanels({
-        store, ofPage: texts.ofPage, connection, report, openPage: (name) => tabs.open(name, true),
+        store, ofPage: texts.ofPage, report, post: (name) => post(connection, screen, name), openPage: (name) => tabs.open(name, true),
     });
     for (const page of pages)
         tabs.add(page.name, texts.ofPage(page.title), settings.panel(page));

@@ -29,8 +29,8 @@ export function parseColour(text) {
 export class SettingsPanels {
     #updates = [];
 
-    constructor({ store, ofPage, connection, report, openPage }) {
-        Object.assign(this, { store, ofPage, connection, report, openPage });
+    constructor({ store, ofPage, post, report, openPage }) {
+        Object.assign(this, { store, ofPage, post, report, openPage });
         store.addEventListener("stored", () => this.update());
     }
 
@@ -147,9 +147,7 @@ export class SettingsPanels {
     }
 
     #button(cell) {
-        return buttonRow(this.#title(cell.label), () => {
-            const { PostNotification: name } = cell;
-            this.connection.call("notify.post", { name }).catch((error) => this.report(error.message));
-        });
+        return buttonRow(this.#title(cell.label), () =>
+            this.post(cell.PostNotification).catch((error) => this.report(error.message)));
     }
 }
