@@ -176,7 +176,7 @@ export class DevicePanel {
         };
         show();
         this.screen.canvas.addEventListener("frame", show);
-        return group(this.text("appearance"), [this.#choice("style", "style", ["light", "dark"], name),
+        return group(this.text("appearance"), [this.#choice("appearance", "style", ["light", "dark"], name),
             row(this.text("screenSize"), size), row(this.text("landscape"), landscape)]);
     }
 

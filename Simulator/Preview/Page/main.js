@@ -8,11 +8,11 @@ import { Screen } from "./screen.js";
 import { bundle, loadPages, SettingsPanels } from "./settings.js";
 import { Store } from "./store.js";
 import { Tabs } from "./tabs.js";
-import { chooseLanguage, Texts } from "./texts.js";
+import { chooseLanguage, ownTexts, Texts } from "./texts.js";
 
 const find = (id) => document.getElementById(id);
 
-let texts = new Texts(chooseLanguage(navigator.languages, Texts.languages), {});
+let texts;
 let standing = {};
 
 function report(message) {
@@ -61,7 +61,7 @@ async function loadTexts(connection) {
     const present = names.filter((name) => name.endsWith(".json")).map((name) => name.slice(0, -5));
     const language = chooseLanguage(navigator.languages, present);
     const { json } = await connection.call("file.read", { path: `${bundle}${language}.json` });
-    texts = new Texts(language, json);
+    texts = new Texts(texts.own, language, json);
     Object.assign(document.documentElement, { lang: language, dir: texts.direction });
 }
 
@@ -89,7 +89,8 @@ async function build(connection, screen, store) {
     document.body.dataset.ready = "";
 }
 
-function start() {
+async function start() {
+    texts = new Texts(await ownTexts(navigator.languages));
     const connection = new Connection();
     const screen = new Screen(find("screen"), connection);
     const store = new Store(connection, report);

@@ -1,0 +1,46 @@
+// The page's texts: every language has every one, and the page asks for none that there is not.
+import assert from "node:assert/strict";
+import { readdirSync, readFileSync } from "node:fs";
+import { test } from "node:test";
+import { chooseLanguage } from "../../Simulator/Preview/Page/texts.js";
+
+const page = new URL("../../Simulator/Preview/Page/", import.meta.url);
+const bundle = new URL("../../Resources/LYRPrefs.bundle/", import.meta.url);
+const read = (name, folder = page) => readFileSync(new URL(name, folder), "utf8");
+const languages = readdirSync(bundle).filter((name) => name.endsWith(".json")).map((name) => name.slice(0, -5));
+const english = JSON.parse(read("text.en.json"));
+
+test("the page has the languages of the settings pages", () => {
+    const own = readdirSync(page).map((name) => /^text\.(.+)\.json$/.exec(name)?.[1]).filter(Boolean);
+    assert.deepEqual(own.sort(), languages.sort());
+});
+
+for (const language of languages) {
+    test(`every text is there in ${language}, with its star where it has one`, () => {
+        const texts = JSON.parse(read(`text.${language}.json`));
+        assert.deepEqual(Object.keys(texts).sort(), Object.keys(english).sort());
+        for (const [key, text] of Object.entries(texts)) {
+            assert.ok(text.trim(), key);
+            assert.equal(text.includes("*"), english[key].includes("*"), key);
+        }
+    });
+}
+
+test("every text that a panel asks for by its key is there", () => {
+    const known = new Set([...Object.keys(english), ...Object.keys(JSON.parse(read("en.json", bundle)))]);
+    const asked = readdirSync(page).filter((name) => name.endsWith(".js")).flatMap((name) =>
+        [...read(name).matchAll(/(?:\.text|\btext|texts\.of)\("(\w+)"/g)].map(([, key]) => key));
+    assert.ok(asked.length > 40);
+    assert.deepEqual(asked.filter((key) => !known.has(key)), []);
+});
+
+test("the browser's preferences choose the language", () => {
+    const choose = (...wanted) => chooseLanguage(wanted, languages);
+    assert.equal(choose("de-AT", "en"), "de");
+    assert.equal(choose("zh-TW"), "zh-hant");
+    assert.equal(choose("zh-Hant-HK"), "zh-hant");
+    assert.equal(choose("zh-CN"), "zh-hans");
+    assert.equal(choose("nl", "pt-BR"), "pt");
+    assert.equal(choose("nl"), "en");
+    assert.equal(choose(), "en");
+});
