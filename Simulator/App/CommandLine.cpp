@@ -205,7 +205,7 @@ int runCommand(const CLI::App& app, Values& values, const PhoneKind& kind)
         return runShell(values, kind);
     if (app.got_subcommand("look"))
         return app.get_subcommand("look")->got_subcommand("export") ? exportLook(values.root, values.look)
-                                                                     : importLook(values.root, values.look);
+                                                                    : importLook(values.root, values.look);
     Supervisor::Options options;
     options.shellCommand = shellCommand(values, kind);
     options.methods = kind.methods;

@@ -28,7 +28,8 @@ int importLook(const std::string& root, const std::string& file)
     try {
         for (const std::string font : Preview::writeLook(root, look))
             std::cerr << "lyr: the look uses the font " << Control::quote(font)
-                      << ", which this phone lacks; its file belongs into /Library/Application Support/LYRFont" << std::endl;
+                      << ", which this phone lacks; its file belongs into /Library/Application Support/LYRFont"
+                      << std::endl;
     } catch (const Control::ProtocolError& error) {
         throw Failure(file + ": " + error.what());
     }

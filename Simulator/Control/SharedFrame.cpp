@@ -58,7 +58,7 @@ bool SharedFrame::resize(int width, int height)
     if (_pixels && width == _width && height == _height)
         return false;
     unmap();
-    struct stat status {};
+    struct stat status { };
     const auto wanted = static_cast<off_t>(byteCount(width, height));
     // It only grows: a mapping of the other process stays good until that learns of the new size.
     if (fstat(_file.number(), &status) != 0 || (status.st_size < wanted && ftruncate(_file.number(), wanted) != 0))

@@ -30,11 +30,17 @@ public:
     bool resize(int width, int height);
     int width() const { return _width; }
     int height() const { return _height; }
-    std::uint8_t* row(int y) const { return _pixels + static_cast<std::size_t>(y) * static_cast<std::size_t>(_width) * 4; }
+    std::uint8_t* row(int y) const
+    {
+        return _pixels + static_cast<std::size_t>(y) * static_cast<std::size_t>(_width) * 4;
+    }
 
     int tilesAcross() const { return (_width + tileSide - 1) / tileSide; }
     int tilesDown() const { return (_height + tileSide - 1) / tileSide; }
-    std::size_t tileCount() const { return static_cast<std::size_t>(tilesAcross()) * static_cast<std::size_t>(tilesDown()); }
+    std::size_t tileCount() const
+    {
+        return static_cast<std::size_t>(tilesAcross()) * static_cast<std::size_t>(tilesDown());
+    }
     Part tile(std::size_t index) const;
 
 private:

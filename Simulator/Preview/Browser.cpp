@@ -51,9 +51,8 @@ void Browser::close()
 
 void Browser::read()
 {
-    _stream.async_read(_arrived, [self = shared_from_this()](beast::error_code error, std::size_t) {
-        self->onRead(error);
-    });
+    _stream.async_read(
+        _arrived, [self = shared_from_this()](beast::error_code error, std::size_t) { self->onRead(error); });
 }
 
 // The next request is read when the reply to this one is on its way, so that no replies pile up.
@@ -117,7 +116,8 @@ void Browser::tellStored()
 std::optional<Browser::Outgoing> Browser::next()
 {
     const auto news = [](const char* method, const Json& parameters) {
-        return Outgoing{shared(toLine({{"jsonrpc", "2.0"}, {"method", method}, {"params", parameters}})), Outgoing::Kind::News};
+        return Outgoing{
+            shared(toLine({{"jsonrpc", "2.0"}, {"method", method}, {"params", parameters}})), Outgoing::Kind::News};
     };
     // Who has the reply to a call knows what the call did.
     if (std::exchange(_standingIsNews, false))
@@ -141,8 +141,8 @@ void Browser::write()
     _written = std::move(*outgoing);
     _isWriting = true;
     _stream.binary(_written.kind == Outgoing::Kind::Frame);
-    _stream.async_write(boost::asio::buffer(*_written.bytes), [self = shared_from_this()](beast::error_code error,
-                                                                  std::size_t) { self->onWritten(error); });
+    _stream.async_write(boost::asio::buffer(*_written.bytes),
+        [self = shared_from_this()](beast::error_code error, std::size_t) { self->onWritten(error); });
 }
 
 void Browser::onWritten(beast::error_code error)

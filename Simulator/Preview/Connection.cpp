@@ -35,10 +35,11 @@ public:
         _parser.emplace();
         _parser->header_limit(longestHeader);
         _stream.expires_after(idleTime);
-        http::async_read(_stream, _arrived, *_parser, [self = shared_from_this()](beast::error_code error, std::size_t) {
-            if (!error)
-                self->answer(self->_parser->release());
-        });
+        http::async_read(
+            _stream, _arrived, *_parser, [self = shared_from_this()](beast::error_code error, std::size_t) {
+                if (!error)
+                    self->answer(self->_parser->release());
+            });
     }
 
 private:
@@ -46,7 +47,8 @@ private:
     {
         const bool isControl = request.target() == "/control";
         if (!isOwnHost(field(request, http::field::host), _port))
-            return send(request, http::status::forbidden, "This page is served to this machine by its own name only.\n");
+            return send(
+                request, http::status::forbidden, "This page is served to this machine by its own name only.\n");
         if (!isControl)
             return answerFile(request);
         if (!beast::websocket::is_upgrade(request))
@@ -98,8 +100,7 @@ private:
 
 }
 
-void serveConnection(
-    beast::tcp_stream stream, const std::filesystem::path& page, unsigned short port, Upgrade upgrade)
+void serveConnection(beast::tcp_stream stream, const std::filesystem::path& page, unsigned short port, Upgrade upgrade)
 {
     std::make_shared<Connection>(std::move(stream), page, port, std::move(upgrade))->read();
 }

@@ -11,7 +11,6 @@ namespace Simulator::Preview {
 using Upgrade = std::function<void(boost::beast::tcp_stream, const HttpRequest&)>;
 
 // Lives by itself until its end; `upgrade` takes over from there.
-void serveConnection(
-    boost::beast::tcp_stream, const std::filesystem::path& page, unsigned short port, Upgrade upgrade);
+void serveConnection(boost::beast::tcp_stream, const std::filesystem::path& page, unsigned short port, Upgrade upgrade);
 
 }

@@ -27,7 +27,8 @@ Json LivePhone::call(const std::string& method, const Json& parameters)
     static const Method setLookMethod{"look.set", {{"look", anything(), Presence::Required}}};
     if (method == "phone.start") {
         if (parameters.contains("root"))
-            throw ProtocolError(ErrorCode::BadParameters, "parameter \"root\" is not taken here: the preview has its own");
+            throw ProtocolError(
+                ErrorCode::BadParameters, "parameter \"root\" is not taken here: the preview has its own");
         start(parameters);
         return Json::object();
     }
@@ -53,7 +54,8 @@ Json LivePhone::setLook(const Json& look)
 void LivePhone::refresh()
 {
     try {
-        _supervisor.call("objc.send", {{"target", {{"instance", "SBFLockScreenDateViewController"}}}, {"selector", "updateTime"}});
+        _supervisor.call(
+            "objc.send", {{"target", {{"instance", "SBFLockScreenDateViewController"}}}, {"selector", "updateTime"}});
     } catch (const ProtocolError&) {
         // Without the extension, in safe mode or by choice, there is nothing to refresh.
     }

@@ -7,8 +7,8 @@
 #include "Simulator/Graphics/FontCatalogue.hpp"
 
 #include <algorithm>
-#include <cstring>
 #include <cerrno>
+#include <cstring>
 #include <fstream>
 #include <set>
 #include <span>
@@ -104,12 +104,15 @@ void checkLook(const Json& look)
             refuse("the look has the unknown member " + quote(name) + "; this program knows looks of version "
                 + std::to_string(lookVersion));
     }
-    checkValues(look, "settings", lookSettings(), [](const Json& value) {
-        return value.is_string() || value.is_boolean() || value.is_number();
-    }, "text, a number, true or false");
-    checkValues(look, "colours", lookColours(), [](const Json& value) { return value.is_string(); }, "text");
+    checkValues(
+        look, "settings", lookSettings(),
+        [](const Json& value) { return value.is_string() || value.is_boolean() || value.is_number(); },
+        "text, a number, true or false");
+    checkValues(
+        look, "colours", lookColours(), [](const Json& value) { return value.is_string(); }, "text");
     const Json fonts = look.value("fonts", Json::array());
-    if (!fonts.is_array() || !std::all_of(fonts.begin(), fonts.end(), [](const Json& name) { return name.is_string(); }))
+    if (!fonts.is_array()
+        || !std::all_of(fonts.begin(), fonts.end(), [](const Json& name) { return name.is_string(); }))
         refuse("the look's \"fonts\" takes a list of names");
 }
 
@@ -127,7 +130,8 @@ std::string nameOfFont(const fs::path& path)
 std::set<std::string> fontsOfPhone(const PhoneFiles& files)
 {
     std::vector<fs::path> paths = Graphics::installedSystemFonts();
-    for (const std::string_view folder : {std::string_view("/Library/Application Support/lyr.bundle/"), userFontFolder}) {
+    for (const std::string_view folder :
+        {std::string_view("/Library/Application Support/lyr.bundle/"), userFontFolder}) {
         std::error_code error;
         for (const auto& entry : fs::directory_iterator(files.hostPath(folder), error)) {
             if (entry.is_regular_file(error))
@@ -154,7 +158,8 @@ Json readLook(const std::string& root)
     const Json settings = storedIn(files, settingsPath, lookSettings());
     Json fonts = Json::array();
     for (const std::string& key : fontSettings) {
-        if (settings.contains(key) && settings[key].is_string() && std::count(fonts.begin(), fonts.end(), settings[key]) == 0)
+        if (settings.contains(key) && settings[key].is_string()
+            && std::count(fonts.begin(), fonts.end(), settings[key]) == 0)
             fonts.push_back(settings[key]);
     }
     return {{"lyrlook", lookVersion}, {"settings", settings}, {"colours", storedIn(files, coloursPath, lookColours())},

@@ -1,4 +1,5 @@
-// A look: the stored settings and colours and the names of the fonts that they use, as one JSON document with a version.
+// A look: the stored settings and colours and the names of the fonts that they use, as one JSON document with a
+// version.
 #pragma once
 
 #include "Simulator/Control/Envelope.hpp"
@@ -9,8 +10,8 @@ inline constexpr int lookVersion = 1;
 
 // Of the phone with that root folder. Throws a ProtocolError for files that are damaged.
 Control::Json readLook(const std::string& root);
-// Replaces the phone's settings and colours; both or none. Answers the names of the fonts that the phone lacks. Throws a
-// ProtocolError that says in one line what is wrong with the look.
+// Replaces the phone's settings and colours; both or none. Answers the names of the fonts that the phone lacks. Throws
+// a ProtocolError that says in one line what is wrong with the look.
 Control::Json writeLook(const std::string& root, const Control::Json& look);
 
 // The keys that a look may hold.

@@ -47,7 +47,8 @@ std::optional<PageFile> pageFile(const fs::path& folder, std::string_view target
 
 std::string contentSecurityPolicy(std::string_view host)
 {
-    return "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data: blob:; connect-src 'self' ws://"
+    return "default-src 'none'; script-src 'self'; style-src 'self'; img-src 'self' data: blob:; connect-src 'self' "
+           "ws://"
         + std::string(host) + "; base-uri 'none'; form-action 'none'; frame-ancestors 'none'";
 }
 

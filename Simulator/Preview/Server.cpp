@@ -7,10 +7,10 @@
 #include "Simulator/Preview/FrameMessage.hpp"
 #include "Simulator/Preview/LivePhone.hpp"
 
+#include <algorithm>
 #include <boost/asio/ip/tcp.hpp>
 #include <boost/asio/posix/stream_descriptor.hpp>
 #include <boost/asio/steady_timer.hpp>
-#include <algorithm>
 #include <set>
 
 namespace Simulator::Preview {
@@ -95,7 +95,8 @@ Server::Server(Supervisor::Options options, const ServerOptions& given)
 {
     _phone = std::make_unique<LivePhone>(_supervisor, given.root);
     _phone->start(given.start);
-    const auto preferences = std::filesystem::path(given.root) / std::filesystem::path(settingsPath.substr(1)).parent_path();
+    const auto preferences
+        = std::filesystem::path(given.root) / std::filesystem::path(settingsPath.substr(1)).parent_path();
     _watch = std::make_unique<FileWatch>(preferences.string(),
         std::vector{std::filesystem::path(settingsPath).filename().string(),
             std::filesystem::path(coloursPath).filename().string()});
@@ -294,7 +295,8 @@ void Server::sendFrames()
     for (const auto& browser : _browsers) {
         if (!browser->isReady() || browser->stale.isEmpty())
             continue;
-        auto found = std::find_if(made.begin(), made.end(), [&](const auto& one) { return one.first == browser->stale; });
+        auto found
+            = std::find_if(made.begin(), made.end(), [&](const auto& one) { return one.first == browser->stale; });
         if (found == made.end()) {
             const auto& frame = _phone->frame();
             const Json header{{"frame", ++_frames}, {"pixels", {frame.width(), frame.height()}},

@@ -33,8 +33,8 @@ std::vector<Part> Tiles::parts(const SharedFrame& frame) const
     const int across = frame.tilesAcross();
     for (int row = 0; row < frame.tilesDown(); ++row) {
         for (int column = 0; column < across; ++column) {
-            const auto index = static_cast<std::size_t>(row) * static_cast<std::size_t>(across)
-                + static_cast<std::size_t>(column);
+            const auto index
+                = static_cast<std::size_t>(row) * static_cast<std::size_t>(across) + static_cast<std::size_t>(column);
             if (!has(index))
                 continue;
             const Part tile = frame.tile(index);

@@ -46,7 +46,8 @@ protected:
 TEST_F(Look, GoesIntoAFileAndOntoAnotherPhone)
 {
     folder.put(settingsOnPhone,
-        propertyListXml({{"timeFormat", "HH:mm"}, {"enableDate", false}, {"alignTime", 3}, {"customFontPickerTime", "Lato-Bold"}}));
+        propertyListXml(
+            {{"timeFormat", "HH:mm"}, {"enableDate", false}, {"alignTime", 3}, {"customFontPickerTime", "Lato-Bold"}}));
     folder.put(coloursOnPhone, propertyListXml({{"colourTime", "#FF0000:1.00"}}));
     EXPECT_EQ(look("export", "mine.lyrlook").status, 0);
     EXPECT_EQ(Json::parse(folder.read("mine.lyrlook")),
@@ -71,7 +72,8 @@ TEST_F(Look, OfANewPhoneIsEmpty)
 
 TEST_F(Look, LeavesOutWhatThisProgramWouldNotTakeBack)
 {
-    folder.put(settingsOnPhone, propertyListXml({{"stranger", "1"}, {"timeFormat", Json::array({"a"})}, {"alignTime", "1"}}));
+    folder.put(
+        settingsOnPhone, propertyListXml({{"stranger", "1"}, {"timeFormat", Json::array({"a"})}, {"alignTime", "1"}}));
     look("export", "mine.lyrlook");
     EXPECT_EQ(Json::parse(folder.read("mine.lyrlook"))["settings"], Json({{"alignTime", "1"}}));
     EXPECT_EQ(look("import", "mine.lyrlook").status, 0);
@@ -110,8 +112,8 @@ TEST_F(Look, IsRefusedWhereItIsNone)
         "the look's \"colourTime\" takes text, not 1");
     expectRefusal(R"({"lyrlook": 1, "settings": {"timeFormat": "a\u0000b"}, "colours": {}})",
         "the look's \"timeFormat\" takes text, a number, true or false, not \"a\\u0000b\"");
-    expectRefusal(R"({"lyrlook": 1, "settings": {}, "colours": {}, "fonts": [1]})",
-        "the look's \"fonts\" takes a list of names");
+    expectRefusal(
+        R"({"lyrlook": 1, "settings": {}, "colours": {}, "fonts": [1]})", "the look's \"fonts\" takes a list of names");
 }
 
 TEST_F(Look, LeavesTheSettingsAloneWhereTheColoursCannotBeWritten)

@@ -1,5 +1,6 @@
 // Who is let in: this machine by its own name, and the page's own origin.
 import assert from "node:assert/strict";
+import { spawnSync } from "node:child_process";
 import { readFileSync } from "node:fs";
 import { request } from "node:http";
 import { after, before, test } from "node:test";
@@ -80,4 +81,37 @@ test("listens on this machine only", async () => {
     const port = preview.port.toString(16).toUpperCase().padStart(4, "0");
     const listening = readFileSync("/proc/net/tcp", "utf8").split("\n").filter((line) => line.includes(`:${port} 00000000:0000 0A`));
     assert.deepEqual(listening.map((line) => line.trim().split(/\s+/)[1]), [`0100007F:${port}`]);
+});
+
+test("says in one line why it cannot start", () => {
+    const run = (...options) => {
+        const { status, stdout, stderr } = spawnSync(process.env.LYR_PROGRAM, ["preview", ...options], { encoding: "utf8" });
+        assert.equal(stdout, "");
+        return { status, stderr };
+    };
+    assert.deepEqual(run("--port", String(preview.port)), { status: 1,
+        stderr: `lyr: port ${preview.port} cannot be had: Address already in use; without --port any free one is taken\n` });
+    for (const options of [["--port", "0"], ["--port", "70000"], ["--root", "/none"], ["--screen", "big"]]) {
+        const { status, stderr } = run(...options);
+        assert.equal(status, 2, options.join(" "));
+        assert.match(stderr, /^lyr: .+\n$/);
+    }
+});
+
+test("has a phone of its own and keeps to its root", async () => {
+    const socket = await new Promise((resolve, reject) => {
+        const asked = request({ host: "127.0.0.1", port: preview.port, path: "/control", headers: upgrade });
+        asked.on("upgrade", (response, socket) => resolve(socket));
+        asked.on("error", reject);
+        asked.end();
+    });
+    const text = JSON.stringify({ jsonrpc: "2.0", id: 1, method: "phone.start", params: { root: "/tmp" } });
+    socket.write(Buffer.concat([Buffer.from([0x81, 0x80 | text.length, 0, 0, 0, 0]), Buffer.from(text)]));
+    let heard = "";
+    for await (const part of socket) {
+        heard += part.toString("latin1");
+        if (heard.includes('"id":1'))
+            break;
+    }
+    assert.match(heard, /"code":-32602,"message":"parameter \\"root\\" is not taken here: the preview has its own"/);
 });

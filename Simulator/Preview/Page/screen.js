@@ -30,7 +30,6 @@ export class Screen {
         if (this.canvas.width !== width || this.canvas.height !== height)
             Object.assign(this.canvas, { width, height });
         this.size = header.screen;
-        this.canvas.style.setProperty("--shape", `${width} / ${height}`);
         let at = start;
         for (const [x, y, partWidth, partHeight] of header.parts) {
             const pixels = new Uint8ClampedArray(buffer, at, partWidth * partHeight * 4);
