@@ -43,10 +43,11 @@ void Browser::accept(const HttpRequest& request)
     });
 }
 
-void Browser::close()
+void Browser::leave()
 {
     _isOpen = false;
     beast::get_lowest_layer(_stream).close();
+    _host.left(*this);
 }
 
 void Browser::read()
@@ -58,11 +59,8 @@ void Browser::read()
 // The next request is read when the reply to this one is on its way, so that no replies pile up.
 void Browser::onRead(beast::error_code error)
 {
-    if (error || !_isOpen) {
-        _isOpen = false;
-        _host.left(*this);
-        return;
-    }
+    if (error)
+        return leave();
     auto reply = answerLine(beast::buffers_to_string(_arrived.data()),
         [this](const std::string& method, const Json& parameters) { return call(method, parameters); });
     _arrived.consume(_arrived.size());
@@ -148,8 +146,8 @@ void Browser::write()
 void Browser::onWritten(beast::error_code error)
 {
     _isWriting = false;
-    if (error || !_isOpen)
-        return;
+    if (error)
+        return leave();
     _written.bytes.reset();
     if (_written.kind == Outgoing::Kind::Reply)
         read();

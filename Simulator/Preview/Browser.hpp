@@ -32,7 +32,6 @@ public:
 
     Browser(boost::beast::tcp_stream, Host&);
     void accept(const HttpRequest&);
-    void close();
 
     // It follows the screen, and has shown what it was sent.
     bool isReady() const { return _follows && !_awaitsShown; }
@@ -51,6 +50,7 @@ private:
         Kind kind = Kind::News;
     };
 
+    void leave();
     void read();
     void onRead(boost::beast::error_code);
     Control::Json call(const std::string& method, const Control::Json& parameters);

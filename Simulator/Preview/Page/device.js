@@ -148,10 +148,8 @@ export class DevicePanel {
 
     #surroundings() {
         const time = element("input", { type: "datetime-local", step: 1 });
-        time.onfocus = async () => {
-            const { time: now } = await this.connection.call("phone.info");
-            time.value = now ?? "";
-        };
+        time.onfocus = () => this.connection.call("phone.info").then(
+            (info) => (time.value = info.time ?? ""), (error) => this.report(error.message));
         time.onchange = () => time.value && this.#call("clock.set", { time: withSeconds(time.value) });
         const name = (locale) => called(locale, this.texts, "language");
         const languages = ["ar", "de", "en", "es", "fr", "he", "it", "ja", "pt", "ru", "zh-Hans", "zh-Hant"];

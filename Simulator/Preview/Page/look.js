@@ -41,7 +41,7 @@ export class LookPanel {
     constructor({ connection, store, screen, text, report, offerUndo }) {
         Object.assign(this, { connection, store, screen, text, report, offerUndo });
         this.link = element("input", { type: "text", readOnly: true, id: "look-link", onfocus: () => this.link.select() });
-        store.addEventListener("stored", () => this.#showLink());
+        store.addEventListener("stored", () => this.#showLink().catch((error) => this.report(error.message)));
         document.addEventListener("dragover", (event) => event.preventDefault());
         document.addEventListener("drop", (event) => this.#drop(event));
         addEventListener("hashchange", () => this.takeLink());

@@ -97,6 +97,7 @@ async function start() {
     let isBuilt = false;
     connection.addEventListener("preview.standing", ({ detail }) => takeStanding(detail));
     connection.addEventListener("lost", () => {
+        standing = {};
         report(texts.of("lost"));
         veil(texts.of("lost"));
     });
