@@ -53,6 +53,7 @@ struct Values {
     std::vector<std::string> languages;
     bool stdio = false;
     std::string extension; // a host path
+    std::string shell = "/proc/self/exe"; // the program of the shell process
     int socket = -1;
 };
 
@@ -60,6 +61,12 @@ void addExtension(CLI::App& command, Values& values)
 {
     command.add_option("--extension", values.extension, "The extension: a library of Linux or of the phone")
         ->type_name("FILE");
+}
+
+// A shell process for another processor, under an emulator; nothing for users.
+void addShellProgram(CLI::App& command, Values& values)
+{
+    command.add_option("--shell", values.shell)->group("");
 }
 
 void addStartOptions(CLI::App& command, Values& values)
@@ -102,6 +109,7 @@ void addRender(CLI::App& app, Values& values)
     CLI::App& command = *app.add_subcommand("render", "Draw a picture of the lock screen");
     command.add_option("-o,--output", values.output, "PNG file to write")->required()->type_name("FILE");
     addExtension(command, values);
+    addShellProgram(command, values);
     addStartOptions(command, values);
 }
 
@@ -110,6 +118,7 @@ void addServe(CLI::App& app, Values& values)
     CLI::App& command = *app.add_subcommand("serve", "Serve the control protocol to scripts and tests");
     command.add_flag("--stdio", values.stdio, "One JSON-RPC request a line in, one reply a line out")->required();
     addExtension(command, values);
+    addShellProgram(command, values);
 }
 
 CLI::Option* addRoot(CLI::App& command, Values& values, const char* help)
@@ -187,7 +196,7 @@ int runShell(const Values& values, const PhoneKind& kind)
 // The file itself is looked at first, so that what is wrong with it is said at once.
 std::vector<std::string> shellCommand(const Values& values, const PhoneKind& kind)
 {
-    std::vector<std::string> command{"/proc/self/exe", "shell"};
+    std::vector<std::string> command{values.shell, "shell"};
     if (values.extension.empty())
         return command;
     try {

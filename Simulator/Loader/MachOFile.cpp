@@ -15,11 +15,16 @@ constexpr std::uint32_t magicOfSlices = 0xcafebabe; // big endian
 constexpr std::uint64_t pageSize = 4096;
 constexpr std::uint64_t largestSpan = std::uint64_t(256) << 20;
 constexpr std::uint32_t kindLibrary = 6;
-constexpr std::uint32_t platformSimulator = 7;
 
 constexpr std::uint32_t processorX86 = 0x01000007;
 constexpr std::uint32_t processorArm = 0x0100000c;
+#if defined(__aarch64__)
+constexpr std::uint32_t ownProcessor = processorArm;
+constexpr std::uint32_t ownPlatform = 2; // the phone itself
+#else
 constexpr std::uint32_t ownProcessor = processorX86;
+constexpr std::uint32_t ownPlatform = 7; // the simulator of its system
+#endif
 
 std::string processorName(std::uint32_t processor)
 {
@@ -112,8 +117,8 @@ public:
         const auto count = header.number<std::uint32_t>();
         const auto size = header.number<std::uint32_t>();
         readCommands(_slice.part(32, size, "the list of load commands"), count);
-        if (!_isForSimulator)
-            throw LoadError("it is not built for the simulator of the phone's system");
+        if (!_isForPhone)
+            throw LoadError("it is built for another system than the phone's");
         if (!_isSigned)
             throw LoadError("it is not signed, and the phone's loader takes nothing unsigned");
         readFixups();
@@ -155,7 +160,7 @@ private:
             return;
         }
         case Command::platform:
-            _isForSimulator = command.number<std::uint32_t>() == platformSimulator;
+            _isForPhone = command.number<std::uint32_t>() == ownPlatform;
             return;
         case Command::fixups:
             for (const char* name : {"rebase", "bind", "weak bind", "lazy bind", "export"}) {
@@ -277,7 +282,7 @@ private:
     ByteReader _slice;
     std::map<std::string_view, ByteReader> _tables;
     SymbolTable _symbolTable;
-    bool _isForSimulator = false;
+    bool _isForPhone = false;
     bool _isSigned = false;
 };
 

@@ -88,23 +88,19 @@ void* address(Function* function)
 
 const std::unordered_map<std::string, void*>& ownSymbols()
 {
-    static const std::unordered_map<std::string, void*> symbols{
+    static const std::unordered_map<std::string, void*> symbols
+    {
         {"_objc_msgSend", address(lyr_objc_msgSend)},
-        {"_objc_msgSend_stret", address(lyr_objc_msgSend_stret)},
-        {"_objc_retain", address(ObjC::retain)},
-        {"_objc_release", address(ObjC::release)},
-        {"_objc_autorelease", address(ObjC::autorelease)},
-        {"_objc_autoreleasePoolPush", address(pushPool)},
-        {"_objc_autoreleasePoolPop", address(popPool)},
-        {"_object_getClass", address(classOf)},
-        {"_dlopen", address(openLibrary)},
-        {"_dlsym", address(findSymbol)},
-        {"_memset_pattern4", address(fillWithPattern<4>)},
-        {"_memset_pattern8", address(fillWithPattern<8>)},
-        {"_memset_pattern16", address(fillWithPattern<16>)},
-        {"___sincos_stret", address(sineAndCosine<double>)},
-        {"___sincosf_stret", address(sineAndCosine<float>)},
-        {"dyld_stub_binder", address(bindLate)},
+#if defined(__x86_64__)
+            {"_objc_msgSend_stret", address(lyr_objc_msgSend_stret)},
+#endif
+            {"_objc_retain", address(ObjC::retain)}, {"_objc_release", address(ObjC::release)},
+            {"_objc_autorelease", address(ObjC::autorelease)}, {"_objc_autoreleasePoolPush", address(pushPool)},
+            {"_objc_autoreleasePoolPop", address(popPool)}, {"_object_getClass", address(classOf)},
+            {"_dlopen", address(openLibrary)}, {"_dlsym", address(findSymbol)},
+            {"_memset_pattern4", address(fillWithPattern<4>)}, {"_memset_pattern8", address(fillWithPattern<8>)},
+            {"_memset_pattern16", address(fillWithPattern<16>)}, {"___sincos_stret", address(sineAndCosine<double>)},
+            {"___sincosf_stret", address(sineAndCosine<float>)}, {"dyld_stub_binder", address(bindLate)},
     };
     return symbols;
 }

@@ -98,7 +98,7 @@ TEST(MachOFile, ALibraryThatAPhoneWouldNotTakeIsNotTakenHere)
     EXPECT_THAT(reasonAfter([](auto& bytes) { setNumber(bytes, commandOffset(bytes, signatureCommand), 0x26); }),
         HasSubstr("it is not signed"));
     EXPECT_THAT(reasonAfter([](auto& bytes) { setNumber(bytes, commandOffset(bytes, platformCommand) + 8, 1); }),
-        HasSubstr("not built for the simulator"));
+        HasSubstr("built for another system"));
     EXPECT_THAT(reasonAfter([](auto& bytes) { setNumber(bytes, commandOffset(bytes, fixupsCommand), 0x80000034); }),
         HasSubstr("chained fixups"));
     EXPECT_THAT(reasonAfter([](auto& bytes) { setNumber(bytes, commandOffset(bytes, fixupsCommand), 0x800000ff); }),
