@@ -16,6 +16,7 @@ namespace {
 
 // A lock screen of the longest settings has long settled by then.
 constexpr double settlingSeconds = 2;
+constexpr double longestTimer = 86400;
 
 // One line on standard error that the next one replaces; silent unless that is a terminal.
 class Progress {
@@ -38,6 +39,8 @@ void takePicture(const RenderOptions& options, Supervisor& supervisor)
     const UnfinishedFile picture(options.output, "a picture");
     progress.show("starting the phone …");
     supervisor.call("phone.start", startParameters(options.start, workshop));
+    if (const auto seconds = timerSeconds(options.start))
+        supervisor.call("phone.timer", {{"seconds", *seconds}});
     progress.show("waiting for the lock screen to settle …");
     supervisor.call("clock.settle", {{"seconds", settlingSeconds}});
     progress.show("taking the picture …");

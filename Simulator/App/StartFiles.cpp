@@ -37,14 +37,27 @@ std::string storedFile(const std::string& path, const std::string& name, const W
     return workshop.put(name + ".plist", propertyListXml(values));
 }
 
+constexpr const char* timerMember = "timer";
+constexpr double longestTimer = 86400;
+
+// What `device.set` takes, and the seconds of a timer that runs.
+Json deviceIn(const std::string& path)
+{
+    Schema members = deviceParameters();
+    members.push_back({timerMember, number(0, longestTimer)});
+    Json device = jsonOf(path, bytesOf(path));
+    if (const auto wrong = complaint("device", object(members), device))
+        throw Failure(path + ": " + *wrong);
+    return device;
+}
+
 void addDevice(Json& start, const std::string& path)
 {
-    const Json device = jsonOf(path, bytesOf(path));
-    if (const auto wrong = complaint("device", object(deviceParameters()), device))
-        throw Failure(path + ": " + *wrong);
     // What stands on the command line counts more.
-    for (const auto& [name, value] : device.items())
-        start.emplace(name, value);
+    for (const auto& [name, value] : deviceIn(path).items()) {
+        if (name != timerMember)
+            start.emplace(name, value);
+    }
 }
 
 std::string jpegFile(const std::string& path)
@@ -100,6 +113,12 @@ Json startParameters(const StartOptions& options, const Workshop& workshop)
     if (!options.device.empty())
         addDevice(start, options.device);
     return start;
+}
+
+std::optional<double> timerSeconds(const StartOptions& options)
+{
+    const Json device = options.device.empty() ? Json::object() : deviceIn(options.device);
+    return device.contains(timerMember) ? std::optional(device.at(timerMember).get<double>()) : std::nullopt;
 }
 
 UnfinishedFile::UnfinishedFile(const std::string& output, const std::string& what)

@@ -3,6 +3,7 @@
 
 #include "Simulator/Control/RootFolder.hpp"
 
+#include <optional>
 #include <stdexcept>
 
 namespace Simulator::App {
@@ -33,6 +34,8 @@ private:
 
 // The parameters of `phone.start`. Throws a Failure.
 Control::Json startParameters(const StartOptions&, const Workshop&);
+// Of the timer that the device's file has running. Throws a Failure.
+std::optional<double> timerSeconds(const StartOptions&);
 
 std::string bytesOf(const std::string& path);
 Control::Json jsonOf(const std::string& path, const std::string& bytes);

@@ -94,11 +94,18 @@ private:
             _time += parameters.value("seconds", 0.0);
             return Json::object();
         };
+        dispatcher.add("phone.timer", [this](const Json& parameters) {
+            _timer = parameters.at("seconds");
+            return Json::object();
+        });
         dispatcher.add("clock.advance", pass);
         dispatcher.add("clock.settle", pass);
         dispatcher.add("screen.capture", [this](const Json& parameters) {
             const std::string path = parameters.at("path");
-            std::ofstream(path) << toLine(toJson(_start));
+            Json picture = toJson(_start);
+            if (!_timer.is_null())
+                picture["timer"] = _timer;
+            std::ofstream(path) << toLine(picture);
             return Json::object();
         });
     }
@@ -119,6 +126,7 @@ private:
     ShellStart _start;
     bool _isStarted = false;
     double _time = 0;
+    Json _timer;
     Json _notes = Json::array();
     std::string _later;
     bool _wantsRelaunch = false;

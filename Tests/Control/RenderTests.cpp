@@ -87,6 +87,13 @@ TEST_F(Render, PassesOnWallpaperFontsAndDevice)
             {"alarm", nullptr}, {"style", "dark"}}));
 }
 
+TEST_F(Render, StartsTheTimerOfTheDevicesFile)
+{
+    const std::string device = folder.put("d.json", R"({"timer": 300, "battery": {"level": 0.5}})");
+    EXPECT_EQ(startedWith({"--device", device}), Json({{"clock", "virtual"}, {"battery", {{"level", 0.5}}}}));
+    EXPECT_EQ(Json::parse(folder.read("lock.png"))["timer"], 300);
+}
+
 TEST_F(Render, LeavesNothingBesideThePicture)
 {
     startedWith({});
@@ -106,8 +113,11 @@ TEST_F(Render, NamesWhatIsWrongWithAFile)
     expectFailure({"--settings", null},
         null + ": parameter \"settings.a\" takes a value without null and without NUL in a text, not null");
     const std::string device = folder.put("d.json", R"({"battery": {"level": 5}})");
+    expectFailure({"--device", device},
+        device + ": parameter \"device.battery.level\" takes a number from -1 to 1 or null, not 5");
+    const std::string timer = folder.put("t.json", R"({"timer": "soon"})");
     expectFailure(
-        {"--device", device}, device + ": parameter \"device.battery.level\" takes a number from -1 to 1 or null, not 5");
+        {"--device", timer}, timer + ": parameter \"device.timer\" takes a number from 0 to 86400, not \"soon\"");
     const std::string png = folder.put("w.png", "\x89PNG");
     expectFailure({"--wallpaper", png}, png + ": not a JPEG");
     expectFailure(
