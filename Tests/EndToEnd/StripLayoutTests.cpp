@@ -79,9 +79,12 @@ std::vector<std::string> complaints(const Support::View& strip, const Screen& sc
 TEST(StripLayout, NothingOverlapsAndNothingLiesBeyondTheScreen)
 {
     const Json event = Json::array({{{"title", "Dentist with a long name"}, {"start", "2020-11-16T09:30:00"}}});
+    auto weather = sunnyWeather;
+    weather["image"] = LYR_GOLDEN_FOLDER "/weather.png";
     int walks = 0;
     for (const Screen& screen : screens) {
         auto phone = settled(stripPhone()
+                                 .weather(weather)
                                  .screen(screen.width, screen.height, 1)
                                  .alarm("2020-11-16T06:30:00")
                                  .events(event)

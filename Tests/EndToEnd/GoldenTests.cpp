@@ -1,0 +1,146 @@
+// Pictures of the whole lock screen, beside those that someone has looked at. tools/update-golden draws them anew.
+#include "Tests/Support/Picture.hpp"
+#include "Tests/Support/Program.hpp"
+#include "Tests/Support/TemporaryFolder.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <nlohmann/json.hpp>
+
+namespace {
+
+using Json = nlohmann::json;
+using Support::Picture;
+namespace fs = std::filesystem;
+
+const fs::path goldenFolder = LYR_GOLDEN_FOLDER;
+
+struct Scene {
+    const char* name;
+    const char* settings;
+    // On top of the weather, alarm and events that all scenes share.
+    const char* device;
+    std::vector<std::string> options;
+};
+
+const Scene scenes[] = {
+    {"one-cell-percentage", R"({"highLowOption": "0", "battOption": "1"})", "{}", {}},
+    {"one-cell-phone", R"({"highLowOption": "0", "battOption": "2", "sunOption": "3"})", "{}", {}},
+    {"one-cell-bar", R"({"highLowOption": "0", "battOption": "3", "sunOption": "2"})", "{}", {}},
+    {"two-cells-percentage", R"({"battOption": "1", "sunOption": "4", "dateOption": "7"})", "{}", {}},
+    {"two-cells-phone", R"({"battOption": "2", "dateOption": "6", "twentyFour": true, "sunOption": "3"})", "{}", {}},
+    {"two-cells-bar", R"({"battOption": "3", "dateOption": "1"})", "{}", {}},
+    {"charging", R"({"battOption": "1"})", R"({"battery": {"level": 0.42, "state": "charging"}})", {}},
+    {"charging-phone", R"({"battOption": "2"})", R"({"battery": {"level": 0.77, "state": "charging"}})", {}},
+    {"low-power", R"({"battOption": "3", "shadowText": true})", R"({"battery": {"level": 0.18, "lowPower": true}})",
+        {}},
+    {"own-colours", R"({"dateOption": "3", "dateFormat": "EEE ", "colourIconWeather": false})", "{}", {}},
+    {"dark", R"({"dateOption": "5"})", "{}", {"--style", "dark"}},
+    {"timer", R"({"battOption": "2"})", R"({"timer": 754})", {}},
+    {"narrow", R"({"highLowOption": "0", "battOption": "3", "sunOption": "4"})", "{}", {"--screen", "320x693@1"}},
+    {"tablet", R"({"highLowOption": "1", "battOption": "1"})", "{}", {"--screen", "1024x768@1"}},
+    {"right-to-left", R"({"sunOption": "4", "dateOption": "4", "sizeWidget": "1.1"})",
+        R"({"events": [{"title": "רופא שיניים", "start": "2020-11-16T09:30:00"}], "weather": {"temperature": "21°",
+            "high": "24°", "low": "15°", "conditions": "מעונן חלקית", "location": "חיפה", "sunrise": "6:12",
+            "sunset": "16:41"}})",
+        {"--locale", "he_IL", "--language", "he", "--time-zone", "Asia/Jerusalem"}},
+};
+
+constexpr const char* sharedDevice = R"({
+    "weather": {"temperature": "21°", "high": "24°", "low": "15°", "conditions": "Partly Cloudy", "location": "Haifa",
+        "sunrise": "6:12", "sunset": "16:41"},
+    "battery": {"level": 0.87}, "alarm": "2020-11-16T06:30:00",
+    "events": [{"title": "Dentist", "start": "2020-11-16T09:30:00"}]})";
+
+bool isUpdate()
+{
+    const char* wish = std::getenv("LYR_UPDATE_GOLDEN");
+    return wish && *wish;
+}
+
+/// New pictures that are not the golden ones stay there to be looked at.
+fs::path newPictures()
+{
+    const fs::path folder = fs::temp_directory_path() / "lyr-golden";
+    fs::create_directories(folder);
+    return folder;
+}
+
+void draw(const Scene& scene, const fs::path& output)
+{
+    const Support::TemporaryFolder folder;
+    Json device = Json::parse(sharedDevice);
+    device.merge_patch(Json::parse(scene.device));
+    device["weather"]["image"] = goldenFolder / "weather.png";
+    std::vector<std::string> arguments{"render", "--time", "2020-11-15T21:41:00", "--settings",
+        folder.put("settings.json", scene.settings), "--device", folder.put("device.json", device.dump()),
+        "--wallpaper", goldenFolder / "wallpaper.jpg", "-o", output};
+    arguments.insert(arguments.end(), scene.options.begin(), scene.options.end());
+    if (std::find(arguments.begin(), arguments.end(), "--screen") == arguments.end())
+        arguments.insert(arguments.end(), {"--screen", "375x812@2"});
+    const auto finished = Support::runProgram(arguments);
+    ASSERT_EQ(finished.status, 0) << finished.errors;
+}
+
+void PrintTo(const Scene& scene, std::ostream* stream)
+{
+    *stream << scene.name;
+}
+
+class Golden : public testing::TestWithParam<Scene> { };
+
+}
+
+TEST_P(Golden, PictureIsAsItWas)
+{
+    const Scene& scene = GetParam();
+    const std::string name = std::string(scene.name) + ".png";
+    const fs::path golden = goldenFolder / name, drawn = newPictures() / name;
+    ASSERT_NO_FATAL_FAILURE(draw(scene, drawn));
+    const auto now = Picture::read(drawn);
+    ASSERT_TRUE(now) << drawn << " cannot be read";
+    if (isUpdate()) {
+        ASSERT_TRUE(now->write(golden)) << golden << " cannot be written";
+        return;
+    }
+    const auto before = Picture::read(golden);
+    ASSERT_TRUE(before) << golden << " is missing; the new picture is " << drawn
+                        << ", and tools/update-golden keeps it";
+    const Support::PictureTolerance tolerance;
+    const double share = differingShare(*before, *now);
+    if (share <= tolerance.share) {
+        fs::remove(drawn);
+        return;
+    }
+    const fs::path marked = newPictures() / (std::string(scene.name) + "-differences.png");
+    differences(*before, *now).write(marked);
+    ADD_FAILURE() << share * 100 << " % of the pixels of " << golden << " differ by more than " << tolerance.channel
+                  << "; the new picture is " << drawn << ", white in " << marked
+                  << " is what differs, and tools/update-golden keeps the new one";
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, Golden, testing::ValuesIn(scenes), [](const auto& scene) {
+    std::string name = scene.param.name;
+    std::replace(name.begin(), name.end(), '-', '_');
+    return name;
+});
+
+TEST(PictureComparison, NoticesALetterAndOverlooksTheShadeOfAnEdge)
+{
+    const Picture plain{750, 1624, std::vector<std::uint8_t>(750 * 1624 * 3, 100)};
+    const Support::PictureTolerance tolerance;
+    auto shaded = plain;
+    for (std::size_t i = 0; i < shaded.pixels.size(); i += 5)
+        shaded.pixels[i] += tolerance.channel;
+    EXPECT_EQ(differingShare(plain, shaded), 0);
+    auto written = plain;
+    constexpr std::size_t side = 12;
+    for (std::size_t row = 0; row < side; ++row)
+        std::fill_n(&written.pixels[(row * 750 + 300) * 3], side * 3, 255);
+    EXPECT_GT(differingShare(plain, written), tolerance.share);
+    const auto marked = differences(plain, written).pixels;
+    EXPECT_EQ(std::count(marked.begin(), marked.end(), 255), side * side * 3);
+    EXPECT_EQ(differingShare(plain, Picture()), 1);
+}
