@@ -169,6 +169,7 @@ void registerUIViewController()
         .def<"willMoveToParentViewController:", &UIViewController::ignoreParent>()
         .def<"didMoveToParentViewController:", &UIViewController::ignoreParent>()
         .property<"title", "setTitle:", &UIViewController::title>()
+        .property<"modalPresentationStyle", "setModalPresentationStyle:", &UIViewController::modalPresentationStyle>()
         .add();
 }
 

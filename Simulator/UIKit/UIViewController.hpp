@@ -40,6 +40,7 @@ struct UIViewController : UIResponder {
     void removeFromParentViewController();
 
     NS::String title;
+    UI::ModalPresentationStyle modalPresentationStyle = UI::ModalPresentationStyle::fullScreen;
     UIViewController* parent = nullptr;
     std::vector<UI::ViewController> children;
     Appearance appearance = Appearance::disappeared;

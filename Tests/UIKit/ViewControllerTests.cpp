@@ -107,6 +107,15 @@ TEST_F(ViewController, TheResponderChainGoesThroughTheController)
     EXPECT_EQ(next(controller), outer);
 }
 
+TEST_F(ViewController, KeepsTheStyleThatItWasGivenForItsPresentation)
+{
+    const auto controller = UI::ViewController::make();
+    const auto style = [&] { return controller.send<UI::ModalPresentationStyle, "modalPresentationStyle">(); };
+    EXPECT_EQ(style(), UI::ModalPresentationStyle::fullScreen);
+    controller.setModalPresentationStyle(UI::ModalPresentationStyle::formSheet);
+    EXPECT_EQ(style(), UI::ModalPresentationStyle::formSheet);
+}
+
 TEST_F(ViewController, AViewOutlivesItsController)
 {
     auto controller = UI::ViewController::make();
