@@ -4,7 +4,6 @@
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
 #include "Simulator/UIKit/Geometry.hpp"
-#include "Simulator/UIKit/UITouch.hpp"
 
 #include <nlohmann/json.hpp>
 
@@ -21,8 +20,6 @@ constexpr double defaultRowHeight = 32;
 constexpr double sideMargin = 9;
 constexpr double titleSize = 21;
 constexpr double indicatorRadius = 8;
-/// A finger that moves less only taps.
-constexpr double leastDrag = 4;
 /// How far around the wheel its rows are seen.
 constexpr double farthestAngle = 1.4;
 /// Rows beside the selected one are paler, the farther the more.
@@ -214,79 +211,6 @@ void UIPickerView::layoutSubviews()
     loadIfNeeded();
     for (long i = 0; i < static_cast<long>(wheels.size()); ++i)
         placeRows(i);
-}
-
-void UIPickerView::chosen(long row, long component)
-{
-    const auto kept = self();
-    const ObjC::Object told = delegate();
-    if (told.respondsTo<"pickerView:didSelectRow:inComponent:">())
-        told.send<void, "pickerView:didSelectRow:inComponent:">(kept, row, component);
-}
-
-void UIPickerView::choose(long row)
-{
-    selectRow(row, 0, false);
-    chosen(row, 0);
-}
-
-/// The rows only show; the wheel takes every touch.
-UI::View UIPickerView::hitTest(CGPoint point, const NS::Object& event) const
-{
-    return UIView::hitTest(point, event) ? self<UI::View>() : UI::View();
-}
-
-void UIPickerView::touchesBegan(const NS::Object& touches, const NS::Object&)
-{
-    touchStart = touchOf(touches)->locationInView(self<UI::View>());
-    isDragging = false;
-    heldComponent = -1;
-    for (long i = 0; i < numberOfComponents(); ++i) {
-        if (touchStart.x < frameOf(i).right() || i + 1 == numberOfComponents()) {
-            heldComponent = i;
-            wheels[i]->hold();
-            break;
-        }
-    }
-}
-
-void UIPickerView::touchesMoved(const NS::Object& touches, const NS::Object&)
-{
-    PickerWheel* wheel = wheelAt(heldComponent);
-    if (!wheel)
-        return;
-    const UITouch& touch = *touchOf(touches);
-    const auto view = self<UI::View>();
-    const CGPoint point = touch.locationInView(view);
-    const bool begins = !isDragging && std::abs(point.y - touchStart.y) >= leastDrag;
-    isDragging |= begins;
-    if (isDragging) {
-        const double from = begins ? touchStart.y : touch.previousLocationInView(view).y;
-        wheel->drag((from - point.y) / heightOfRow(heldComponent));
-    }
-}
-
-void UIPickerView::touchesEnded(const NS::Object& touches, const NS::Object& event)
-{
-    PickerWheel* wheel = wheelAt(heldComponent);
-    if (!wheel)
-        return;
-    UITouch& touch = *touchOf(touches);
-    if (touch.location != touch.previousLocation)
-        touchesMoved(touches, event);
-    const long component = std::exchange(heldComponent, -1);
-    const double y = touch.locationInView(self<UI::View>()).y;
-    const double below = (y - frameOf(component).center().y) / heightOfRow(component);
-    if (isDragging)
-        wheel->release();
-    else
-        wheel->tap(std::lround(below));
-}
-
-void UIPickerView::touchesCancelled(const NS::Object&, const NS::Object&)
-{
-    if (PickerWheel* wheel = wheelAt(std::exchange(heldComponent, -1)))
-        wheel->select(wheel->selectedRow(), true);
 }
 
 void UIPickerView::decorate(Graphics::Layer& layer) const
