@@ -53,8 +53,9 @@ Json deviceIn(const std::string& path)
 
 void addDevice(Json& start, const std::string& path)
 {
+    const Json device = deviceIn(path);
     // What stands on the command line counts more.
-    for (const auto& [name, value] : deviceIn(path).items()) {
+    for (const auto& [name, value] : device.items()) {
         if (name != timerMember)
             start.emplace(name, value);
     }
