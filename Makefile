@@ -2,7 +2,7 @@
 JOBS ?= $(shell nproc)
 GENERATE = cmake
 
-.PHONY: run build test test-sanitize bench package pictures packages clean
+.PHONY: run build test test-sanitize test-phone bench package pictures packages clean
 
 # A picture of the lock screen; the last line is its path.
 run: build
@@ -19,6 +19,17 @@ test-sanitize: packages
 	@$(GENERATE) --preset sanitize
 	ninja -C build-sanitize -j $(JOBS)
 	ctest --test-dir build-sanitize --output-on-failure -j $(JOBS) -LE phone
+
+# The phone's own code, on an emulator of its processor: the end-to-end tests, and the comparison with the Linux library.
+ARM64 = $(CURDIR)/Phone/Arm64
+test-phone: build
+	@tools/install-packages $(ARM64)/packages.txt
+	$(ARM64)/prepare build-arm64
+	@cmake -S . -B build-arm64 -G Ninja --toolchain $(ARM64)/toolchain.cmake -DCMAKE_BUILD_TYPE=Release
+	ninja -C build-arm64 -j $(JOBS) bin/lyr
+	LYR_PROGRAM=$(ARM64)/lyr LYR_EXTENSION=$(CURDIR)/build/phone/iphoneos-arm/LYR_Pro.dylib \
+		build/bin/EndToEndTests --gtest_brief=1
+	LYR_PHONE_PROGRAM=$(ARM64)/lyr build/bin/MachOTests --gtest_brief=1 --gtest_filter=SameBehaviour.*
 
 bench: packages
 	@$(GENERATE) --preset bench
