@@ -8,6 +8,6 @@
 namespace Simulator::App {
 
 /// The extension is a library on the host; without one it is this build's own.
-std::unique_ptr<Control::Shell> makeSimulatedPhone(const std::string& extension);
+std::unique_ptr<Control::Shell> makeSimulatedPhone(const std::string& extension = "");
 
 }

@@ -1,7 +1,9 @@
-// lyr with the fake phone.
+// lyr with the fake phone, which has no extension to load.
 #include "Tests/Control/FakePhone.hpp"
 
 int main(int argumentCount, char** arguments)
 {
-    return Simulator::App::run(argumentCount, arguments, {FakePhone::make, FakePhone::methods()});
+    const auto make = [](const std::string&) { return FakePhone::make(); };
+    const auto checkNothing = [](const std::string&) {};
+    return Simulator::App::run(argumentCount, arguments, {make, checkNothing, FakePhone::methods()});
 }
