@@ -36,6 +36,13 @@ inline void refresh(Phone& phone)
     phone.settle(1);
 }
 
+/// A finger rests on the lock screen until the editor is there.
+inline void openEditor(Phone& phone)
+{
+    phone.pressAt(160, 300);
+    phone.advance(1);
+}
+
 inline void postReload(Phone& phone)
 {
     phone.call("notify.post", {{"name", "com.ostrel.lyrprefs/ReloadPrefs"}});

@@ -2,6 +2,7 @@
 
 #include "Platform/ObjC/Hook.hpp"
 #include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
+#include "Tweak/Editor/BatterySaverButtons.hpp"
 #include "Tweak/Settings.hpp"
 
 namespace LYR {
@@ -66,6 +67,7 @@ void UIBatteryView_setSaverModeActive(UI::View self, SEL cmd, bool active)
 {
     stock<UIBatteryView_setSaverModeActive>(self, cmd, active);
     _isLPM = active;
+    showBatterySaverState();
 }
 
 void CSTeachableMomentsContainerViewController_updateText(UI::ViewController self, SEL cmd, NS::String text)

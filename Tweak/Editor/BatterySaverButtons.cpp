@@ -65,6 +65,11 @@ void buildBatterySaverButtons(const CS::CoverSheetViewController& controller)
         controller);
     build(_buttonCL2, "_buttonCL2"_ns, "battery.25"_ns, ObjC::selector<"didPressButtonCL2:">(),
         UI::Color::systemYellowColor(), controller);
+    showBatterySaverState();
+}
+
+void showBatterySaverState()
+{
     _buttonCL->setHidden(_isLPM);
     _buttonCL2->setHidden(!_isLPM);
 }

@@ -6,6 +6,8 @@
 namespace LYR {
 
 void buildBatterySaverButtons(const CS::CoverSheetViewController& controller);
+/// Shows the one of the two that leads out of the mode that the phone is in.
+void showBatterySaverState();
 
 // Both added: low-power mode on, and off.
 void CSCoverSheetViewController_didPressButtonCL(CS::CoverSheetViewController self, SEL cmd, ObjC::Object sender);
