@@ -3,7 +3,9 @@
 #include "Simulator/App/SimulatedPhone.hpp"
 #include "Simulator/Control/RootFolder.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
+#include "Simulator/Runtime/ActivityLog.hpp"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
@@ -55,6 +57,28 @@ void advance(double seconds)
 {
     ObjC::AutoreleasePool pool;
     Simulator::Loop::shared().advance(seconds);
+}
+
+void refreshFully()
+{
+    constexpr double delay = 0.1;
+    phone().instance("SBFLockScreenDateViewController").send<void, "updateTime">();
+    advance(delay);
+}
+
+void forgetLog()
+{
+    Simulator::ActivityLog::shared().take();
+}
+
+WithoutWallpaper::WithoutWallpaper()
+{
+    Simulator::PhoneFiles::shared().setFault(Simulator::Control::wallpaperPath, Simulator::FileOperation::Read, EACCES);
+}
+
+WithoutWallpaper::~WithoutWallpaper()
+{
+    Simulator::PhoneFiles::shared().clearFaults();
 }
 
 std::vector<std::filesystem::path> builtInFonts()

@@ -15,6 +15,20 @@ Simulator::Shell& phone();
 /// Moves the phone's clock ahead and runs what falls due.
 void advance(double seconds);
 
+/// A full refresh now, and all that is in it.
+void refreshFully();
+/// Each refresh writes log lines, which must not pile up.
+void forgetLog();
+
+/// As long as it lives, the wallpaper cannot be read.
+class WithoutWallpaper {
+public:
+    WithoutWallpaper();
+    ~WithoutWallpaper();
+    WithoutWallpaper(const WithoutWallpaper&) = delete;
+    WithoutWallpaper& operator=(const WithoutWallpaper&) = delete;
+};
+
 /// The host's paths of the five fonts that the extension brings with it.
 std::vector<std::filesystem::path> builtInFonts();
 

@@ -6,7 +6,6 @@
 #include "Benchmarks/Pictures.hpp"
 
 #include "Simulator/Files/PhoneFiles.hpp"
-#include "Simulator/Runtime/ActivityLog.hpp"
 
 #include <cstddef>
 
@@ -14,20 +13,8 @@ namespace {
 
 using namespace Benchmarks;
 
-// Each refresh writes log lines, which must not pile up.
-void forgetLog()
-{
-    Simulator::ActivityLog::shared().take();
-}
-
-/// The delays after which the refreshes run.
-constexpr double fullRefreshDelay = 0.1;
+/// The delay after which it runs.
 constexpr double quickRefreshDelay = 0.01;
-
-ObjC::Object dateViewController()
-{
-    return phone().instance("SBFLockScreenDateViewController");
-}
 
 /// The texts alone, set on the labels.
 void clockTexts(benchmark::State& state)
@@ -47,12 +34,6 @@ std::vector<std::byte> contentOf(const std::string& phonePath)
     const auto content = Simulator::PhoneFiles::shared().read(phonePath);
     const auto* first = reinterpret_cast<const std::byte*>(content.value.data());
     return {first, first + content.value.size()};
-}
-
-void refreshFully()
-{
-    dateViewController().send<void, "updateTime">();
-    advance(fullRefreshDelay);
 }
 
 /// All of it, beside what each refresh has to look at anew: the texts, the wallpaper and the clock's fonts.
@@ -83,7 +64,7 @@ void fullRefreshBesideFormats(benchmark::State& state)
 /// The time alone, set on the label.
 void quickRefresh(benchmark::State& state)
 {
-    ObjC::Object controller = dateViewController();
+    ObjC::Object controller = phone().instance("SBFLockScreenDateViewController");
     CachedFormats formats;
     auto work = [&] {
         controller.send<void, "requestUpdateTime">();
