@@ -1,6 +1,8 @@
 // Small changes to the stock lock screen.
 #include "Tests/EndToEnd/Scenario.hpp"
 
+using namespace std::string_literals;
+
 namespace {
 
 Json insets(Phone& phone)
@@ -44,6 +46,19 @@ TEST(Adjustments, TheHintIsTheUsersText)
     EXPECT_EQ(settledWith({{"customText", ""}}).label("stock.hint").text, "");
     auto stock = settled(eveningPhone().withoutExtension()).label("stock.hint").text;
     EXPECT_EQ(settledWith({{"enabledCT", false}, {"customText", "Come in"}}).label("stock.hint").text, stock);
+}
+
+TEST(Adjustments, TheEndOfTheListHasTheUsersTextInTheMiddle)
+{
+    const auto endOfList = [](const Json& settings) {
+        const Support::View hint(settledWith(settings).get("stock.revealHint.title"));
+        return std::pair(hint.json.at("text").get<std::string>(), hint.json.at("alignment").get<int>());
+    };
+    const auto stock = endOfList({{"ctNoOlder", "Nothing before"}});
+    EXPECT_EQ(stock.first, "No Older Notifications") << "the switch is off";
+    EXPECT_EQ(endOfList({{"enabledCT2", true}, {"ctNoOlder", "Nothing before"}}), std::pair("Nothing before"s, 1));
+    EXPECT_EQ(endOfList({{"enabledCT2", true}, {"ctNoOlder", ""}}), std::pair(stock.first, 1))
+        << "centred all the same";
 }
 
 TEST(Adjustments, TheLowPowerFlagIsNoted)

@@ -20,6 +20,25 @@ TEST(Subtitle, ItsLabelsNeverShow)
     EXPECT_TRUE(phone.has("stock.subtitle"));
 }
 
+TEST(Subtitle, ItsLabelsAreTakenOffEachTimeItComesIntoAWindow)
+{
+    auto phone = settledWith();
+    for (const char* view : {"SBFLockScreenDateSubtitleView", "SBFLockScreenDateSubtitleDateView"}) {
+        const bool isDate = view == std::string("SBFLockScreenDateSubtitleDateView");
+        const char* variable = isDate ? "_alternateDateLabel" : "_label";
+        const char* id = isDate ? "stock.subtitle.alternate" : "stock.subtitle.label";
+        for (int i = 0; i < 3; ++i) {
+            phone.call("objc.new", {{"class", "UILabel"}, {"name", "label"}});
+            phone.send({{"named", "label"}}, "setAccessibilityIdentifier:", {{{"text", id}}});
+            phone.send({{"instance", view}}, "addSubview:", Json::array({{{"named", "label"}}}));
+            phone.send({{"instance", view}}, "setValue:forKey:", {{{"named", "label"}}, {{"text", variable}}});
+            EXPECT_TRUE(phone.has(id)) << view;
+            phone.send({{"instance", view}}, "didMoveToWindow");
+            EXPECT_FALSE(phone.has(id)) << view;
+        }
+    }
+}
+
 TEST(Subtitle, ATextWithAColonIsARunningTimer)
 {
     auto phone = settledWith();
