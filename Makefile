@@ -4,9 +4,10 @@ GENERATE = cmake
 
 .PHONY: run build test test-sanitize test-phone bench package pictures packages clean
 
-# A picture of the lock screen; the last line is its path.
+# A picture of the lock screen and, on a terminal, the live phone.
 run: build
 	build/bin/lyr render -o build/lock.png
+	@if [ -t 1 ]; then build/bin/lyr preview; fi
 
 build: packages
 	@$(GENERATE) --preset release

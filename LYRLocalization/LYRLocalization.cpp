@@ -24,44 +24,25 @@ constexpr Digit digits[] = {{"0", "٠"}, {"1", "١"}, {"2", "٢"}, {"3", "٣"}, 
 constexpr const char* languageVariable = "_language";
 constexpr const char* translationsVariable = "_translations";
 
-template <class T>
-T read(id self, const char* name)
-{
-    return T(ObjC::InstanceVariable<id>(self, name).get());
-}
-
-void store(id self, const char* name, const ObjC::Object& value)
-{
-    ObjC::InstanceVariable<id> stored(self, name);
-    id previous = stored.get();
-    stored.set(ObjC::retain(value.raw()));
-    ObjC::release(previous);
-}
-
-IMP inherited(SEL command)
-{
-    return NS::Object::sendClass<IMP, "instanceMethodForSelector:">(command);
-}
-
 NS::String language(id self, SEL)
 {
-    return read<NS::String>(self, languageVariable);
+    return ObjC::ownedVariable<NS::String>(self, languageVariable);
 }
 
 void setLanguage(id self, SEL, ObjC::Object name)
 {
-    store(self, languageVariable, name.as<NS::String>());
+    ObjC::setOwnedVariable(self, languageVariable, name.as<NS::String>());
 }
 
 NS::MutableDictionary translations(id self, SEL)
 {
-    return read<NS::MutableDictionary>(self, translationsVariable);
+    return ObjC::ownedVariable<NS::MutableDictionary>(self, translationsVariable);
 }
 
 void setTranslations(id self, SEL, ObjC::Object texts)
 {
     bool isMutable = texts.is<NS::MutableDictionary>();
-    store(self, translationsVariable, isMutable ? texts : texts.as<NS::Dictionary>().mutableCopy());
+    ObjC::setOwnedVariable(self, translationsVariable, isMutable ? texts : texts.as<NS::Dictionary>().mutableCopy());
 }
 
 void loadLayers(const LYRLocalization& catalogue)
@@ -81,19 +62,19 @@ void loadLayers(const LYRLocalization& catalogue)
 
 id init(id self, SEL command)
 {
-    self = ObjC::callImplementation<id>(inherited(command), self, command);
+    self = ObjC::callImplementation<id>(ObjC::inheritedImplementation<NS::Object>(command), self, command);
     if (!self)
         return nullptr;
-    store(self, translationsVariable, NS::MutableDictionary::dictionary());
+    ObjC::setOwnedVariable(self, translationsVariable, NS::MutableDictionary::dictionary());
     loadLayers(LYRLocalization(self));
     return self;
 }
 
 void dealloc(id self, SEL command)
 {
-    store(self, languageVariable, nullptr);
-    store(self, translationsVariable, nullptr);
-    ObjC::callImplementation<void>(inherited(command), self, command);
+    ObjC::setOwnedVariable(self, languageVariable, nullptr);
+    ObjC::setOwnedVariable(self, translationsVariable, nullptr);
+    ObjC::callImplementation<void>(ObjC::inheritedImplementation<NS::Object>(command), self, command);
 }
 
 void loadTranslations(LYRLocalization self, SEL, ObjC::Object file)

@@ -10,37 +10,23 @@ namespace {
 constexpr const char* entryVariables[] = {"_background", "_primary", "_secondary", "_detail"};
 enum Entry { background, primary, secondary, detail };
 
-ObjC::InstanceVariable<id> variable(id self, const char* name)
-{
-    return {self, name};
-}
-
 template <Entry entry>
 UI::Color getEntry(id self, SEL)
 {
-    return UI::Color(variable(self, entryVariables[entry]).get());
-}
-
-void storeEntry(id self, const char* name, id color)
-{
-    ObjC::InstanceVariable<id> stored = variable(self, name);
-    id previous = stored.get();
-    stored.set(ObjC::retain(color));
-    ObjC::release(previous);
+    return ObjC::ownedVariable<UI::Color>(self, entryVariables[entry]);
 }
 
 template <Entry entry>
 void setEntry(id self, SEL, ObjC::Object color)
 {
-    storeEntry(self, entryVariables[entry], color.as<UI::Color>().raw());
+    ObjC::setOwnedVariable(self, entryVariables[entry], color.as<UI::Color>());
 }
 
 void dealloc(id self, SEL command)
 {
     for (const char* name : entryVariables)
-        storeEntry(self, name, nullptr);
-    IMP inherited = NS::Object::sendClass<IMP, "instanceMethodForSelector:">(command);
-    ObjC::callImplementation<void>(inherited, self, command);
+        ObjC::setOwnedVariable(self, name, nullptr);
+    ObjC::callImplementation<void>(ObjC::inheritedImplementation<NS::Object>(command), self, command);
 }
 
 }

@@ -38,6 +38,13 @@ struct Adapter<function, owned> {
     static const char* types() { return methodEncoding<Result, Arguments...>.text.data(); }
 };
 
+/// What a class of ours inherits for a message, to be called from its own method.
+template <class Superclass>
+inline IMP inheritedImplementation(SEL command)
+{
+    return Superclass::template sendClass<IMP, "instanceMethodForSelector:">(command);
+}
+
 /// Makes a new class. Its methods are plain functions; `build` registers it with the runtime.
 class ClassBuilder {
 public:

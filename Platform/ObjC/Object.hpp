@@ -118,6 +118,21 @@ private:
     T* storage_ = nullptr;
 };
 
+/// The object in an instance variable that owns what it holds.
+template <Handle T>
+T ownedVariable(id object, const char* name)
+{
+    return T(InstanceVariable<id>(object, name).get());
+}
+
+inline void setOwnedVariable(id object, const char* name, const Object& value)
+{
+    InstanceVariable<id> variable(object, name);
+    id previous = variable.get();
+    variable.set(ObjC::retain(value.raw()));
+    ObjC::release(previous);
+}
+
 template <class T>
 InstanceVariable<T> Object::variable(const char* name) const
 {

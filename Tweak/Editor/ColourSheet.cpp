@@ -18,14 +18,9 @@ constinit ObjC::Variable<ColourSheet> _colorWellSheet;
 
 namespace {
 
-IMP inherited(SEL command)
-{
-    return UI::ViewController::sendClass<IMP, "instanceMethodForSelector:">(command);
-}
-
 id init(id self, SEL command)
 {
-    self = ObjC::callImplementation<id>(inherited(command), self, command);
+    self = ObjC::callImplementation<id>(ObjC::inheritedImplementation<UI::ViewController>(command), self, command);
     if (self)
         ColourSheet(self).setModalPresentationStyle(UI::ModalPresentationStyle::fullScreen);
     return self;
@@ -33,7 +28,7 @@ id init(id self, SEL command)
 
 void viewDidLoad(ColourSheet self, SEL command)
 {
-    ObjC::callImplementation<void>(inherited(command), self.raw(), command);
+    ObjC::callImplementation<void>(ObjC::inheritedImplementation<UI::ViewController>(command), self.raw(), command);
     buildColourSheet(self);
     NS::NotificationCenter::defaultCenter().addObserver(self,
         ObjC::selector<"handleProtectedDataWillBecomeUnavailable">(),
@@ -45,7 +40,7 @@ void dealloc(id self, SEL command)
     // A handle would retain what is on its way out.
     ObjC::sendMessage<void>(NS::NotificationCenter::defaultCenter().raw(), ObjC::selector<"removeObserver:">(), self);
     releaseColourSheetViews(self);
-    ObjC::callImplementation<void>(inherited(command), self, command);
+    ObjC::callImplementation<void>(ObjC::inheritedImplementation<UI::ViewController>(command), self, command);
 }
 
 void detach(const ColourSheet& sheet)

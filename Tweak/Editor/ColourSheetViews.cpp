@@ -48,25 +48,11 @@ const Row rows[tabCount] = {
         [] { return _BG->tintColor(); }},
 };
 
-template <class T>
-T property(id sheet, const char* name)
-{
-    return T(ObjC::InstanceVariable<id>(sheet, name).get());
-}
-
-void setProperty(id sheet, const char* name, const ObjC::Object& value)
-{
-    ObjC::InstanceVariable<id> variable(sheet, name);
-    id previous = variable.get();
-    variable.set(ObjC::retain(value.raw()));
-    ObjC::release(previous);
-}
-
 /// The accessor of a property, whose variable has its name with a stroke before it.
 template <ObjC::FixedString variable>
 ObjC::Object accessor(id self, SEL)
 {
-    return property<ObjC::Object>(self, variable.text);
+    return ObjC::ownedVariable<ObjC::Object>(self, variable.text);
 }
 
 NS::String text(const char* characters)
@@ -102,7 +88,7 @@ void buildPanel(const ColourSheet& sheet, const Colours& colours)
     panel.layer().setCornerRadius(panelRadius);
     takePlace(panel, _optionView);
     sheet.view().addSubview(panel);
-    setProperty(sheet.raw(), panelVariable, panel);
+    ObjC::setOwnedVariable(sheet.raw(), panelVariable, panel);
 }
 
 void buildWell(const ColourSheet& sheet, const Row& row, const UI::View& panel, CGFloat y)
@@ -115,7 +101,7 @@ void buildWell(const ColourSheet& sheet, const Row& row, const UI::View& panel, 
     well.addTarget(sheet, row.touched(), UI::ControlEvents::touchUpInside);
     well.setFrame(CGRectMake(wellX, y, wellSide, wellSide));
     panel.addSubview(well);
-    setProperty(sheet.raw(), row.wellVariable, well);
+    ObjC::setOwnedVariable(sheet.raw(), row.wellVariable, well);
 }
 
 void buildSwatch(const ColourSheet& sheet, const Row& row, const UI::View& panel, CGFloat y)
@@ -128,7 +114,7 @@ void buildSwatch(const ColourSheet& sheet, const Row& row, const UI::View& panel
     swatch.layer().setBorderColor(UI::Color::systemGrayColor().CGColor());
     swatch.setFrame(CGRectMake(swatchX, y + wellSide / 2 - swatchRadius, 3 * swatchRadius, 2 * swatchRadius));
     panel.addSubview(swatch);
-    setProperty(sheet.raw(), row.swatchVariable, swatch);
+    ObjC::setOwnedVariable(sheet.raw(), row.swatchVariable, swatch);
 }
 
 void buildCaption(const Row& row, const UI::View& panel, const Colours& colours, CGFloat y)
@@ -175,7 +161,7 @@ void buildColourSheet(const ColourSheet& sheet)
 {
     auto colours = styleColours();
     buildPanel(sheet, colours);
-    auto panel = property<UI::View>(sheet.raw(), panelVariable);
+    auto panel = ObjC::ownedVariable<UI::View>(sheet.raw(), panelVariable);
     CGFloat y = firstRow;
     for (const Row& row : rows) {
         buildWell(sheet, row, panel, y);
@@ -189,16 +175,16 @@ void buildColourSheet(const ColourSheet& sheet)
 void showOnSheet(const ColourSheet& sheet, Tab tab, const UI::Color& colour)
 {
     const Row& row = rows[static_cast<std::size_t>(tab)];
-    property<UI::View>(sheet.raw(), row.swatchVariable).setBackgroundColor(colour);
-    property<UI::View>(sheet.raw(), panelVariable).setAlpha(1);
+    ObjC::ownedVariable<UI::View>(sheet.raw(), row.swatchVariable).setBackgroundColor(colour);
+    ObjC::ownedVariable<UI::View>(sheet.raw(), panelVariable).setAlpha(1);
 }
 
 void releaseColourSheetViews(id sheet)
 {
-    setProperty(sheet, panelVariable, {});
+    ObjC::setOwnedVariable(sheet, panelVariable, {});
     for (const Row& row : rows) {
-        setProperty(sheet, row.wellVariable, {});
-        setProperty(sheet, row.swatchVariable, {});
+        ObjC::setOwnedVariable(sheet, row.wellVariable, {});
+        ObjC::setOwnedVariable(sheet, row.swatchVariable, {});
     }
 }
 

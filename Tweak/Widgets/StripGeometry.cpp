@@ -39,9 +39,11 @@ constexpr Place batteryWithPercentage[] = {
     aboutMiddle(_BC, 0, 32, 12, 16),
     throughout(_batteryLabel, 0, 0, 33, 19),
 };
+// The bolt stands at the right end of its picture, beside where the battery is; over the phone it is in the middle.
+constexpr CGFloat boltFromMiddle = -12;
 constexpr Place batteryUnderPhone[] = {
     aboutMiddle(_phoneImage, 0, 32, 4, 32),
-    aboutMiddle(_BC2, 0, 32, 12, 16),
+    aboutMiddle(_BC2, boltFromMiddle, 32, 12, 16),
     aboutMiddle(_BG, 0, 32, 40, 16),
     aboutMiddle(_BL, 0, 32, 40, 16),
 };
