@@ -86,7 +86,7 @@ TEST(BadData, IconsThatAreNoPicturesAreNotShown)
 {
     auto phone = settled(fullPhone());
     for (const char* file : {"SS16/up.png", "Battery16/BG.png", "HL16/13.png"})
-        phone.writeFile(resourceFolder + file, std::string("\x89PNG\r\n\x1a\n and no more", 22));
+        phone.writeFile(resourceFolder + file, "\x89PNG\r\n\x1a\n and no more");
     phone.writeFile(resourceFolder + "Battery16/Battery100.png", "");
     refresh(phone);
     for (const char* icon : {"_SL", "_BG", "_HL", "_BL"})
