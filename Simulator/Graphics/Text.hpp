@@ -51,4 +51,7 @@ struct Text {
 // whole pixels of the scale. Nothing shrinks for the measurement.
 Size measure(FontCatalogue& catalogue, const Text& text, Size limit, double scale = 1);
 
+// Whether a label of that size shows the text to its end, shrunk if the text allows it.
+bool fits(FontCatalogue& catalogue, const Text& text, Size bounds, double scale = 1);
+
 }

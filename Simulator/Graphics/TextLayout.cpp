@@ -279,6 +279,14 @@ void TextLayout::draw(cairo_t* canvas, double opacity) const
     }
 }
 
+bool TextLayout::isWhole() const
+{
+    constexpr double tolerance = 0.5;
+    return !pango_layout_is_ellipsized(m_layout.get())
+        && static_cast<int>(m_lines.size()) == pango_layout_get_line_count(m_layout.get())
+        && m_usedSize.width <= m_bounds.width + tolerance && m_usedSize.height <= m_bounds.height + tolerance;
+}
+
 Size measure(FontCatalogue& catalogue, const Text& text, Size limit, double scale)
 {
     Text measured = text;
@@ -290,6 +298,12 @@ Size measure(FontCatalogue& catalogue, const Text& text, Size limit, double scal
         return {};
     const auto roundUp = [scale](double length) { return std::ceil(length * scale - 1e-3) / scale; };
     return {roundUp(layout->usedSize().width), roundUp(layout->usedSize().height)};
+}
+
+bool fits(FontCatalogue& catalogue, const Text& text, Size bounds, double scale)
+{
+    const auto layout = TextLayout::make(catalogue.typesetter(), text, bounds, scale);
+    return !layout || layout->isWhole();
 }
 
 }

@@ -25,6 +25,8 @@ public:
     static std::shared_ptr<const TextLayout> make(Typesetter& typesetter, const Text& text, Size bounds, double scale);
 
     Size usedSize() const { return m_usedSize; }
+    // Every line is there, to its end, and within the bounds.
+    bool isWhole() const;
     // Of the glyphs alone.
     const Rect& inkBounds() const { return m_inkBounds; }
     const std::vector<PlacedAttachment>& attachments() const { return m_attachments; }

@@ -81,4 +81,10 @@ Graphics::Size measureText(const std::string& text, const UI::Font& font)
                         : Graphics::measure(fontCatalogue(), lineOf(text, font, {}), {}, screenSettings().scale);
 }
 
+bool textFits(const std::string& text, const UI::Font& font, const Graphics::Rect& frame)
+{
+    return Graphics::fits(
+        fontCatalogue(), lineOf(text, font, {}), {frame.width, frame.height}, screenSettings().scale);
+}
+
 }

@@ -21,5 +21,7 @@ Graphics::Layer makeText(
     const Graphics::Rect& frame, const std::string& text, const UI::Font& font, const Graphics::Color& color);
 /// As wide and high as such a line is.
 Graphics::Size measureText(const std::string& text, const UI::Font& font);
+/// Whether such a line has room.
+bool textFits(const std::string& text, const UI::Font& font, const Graphics::Rect& frame);
 
 }

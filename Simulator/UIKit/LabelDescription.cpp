@@ -1,11 +1,13 @@
 // What the control protocol tells of a label.
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
+#include "Simulator/UIKit/Fonts.hpp"
 #include "Simulator/UIKit/NSTextAttachment.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIFont.hpp"
 #include "Simulator/UIKit/UIImage.hpp"
 #include "Simulator/UIKit/UILabel.hpp"
+#include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/ViewDescription.hpp"
 
 namespace Simulator {
@@ -44,6 +46,9 @@ void UILabel::describe(nlohmann::json& description) const
     description["textColor"] = describeColor(resolvedColor(textColor()));
     description["alignment"] = describeAlignment(textAlignment);
     description["lines"] = numberOfLines;
+    const CGSize size = bounds().size;
+    description["truncated"]
+        = !Graphics::fits(fontCatalogue(), graphicsText(), {size.width, size.height}, screenSettings().scale);
 }
 
 }

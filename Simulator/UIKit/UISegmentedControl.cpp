@@ -217,6 +217,12 @@ Graphics::Layer UISegmentedControl::contentOf(std::size_t index) const
     return layer;
 }
 
+bool UISegmentedControl::isTruncated(std::size_t index) const
+{
+    const bool isSelected = static_cast<long>(index) == selectedSegmentIndex;
+    return !textFits(plainUtf8(segments[index].title), fontOf(isSelected), frameOf(index).insetBy(inset, inset));
+}
+
 /// Between two segments of which neither is the selected one.
 bool UISegmentedControl::hasDividerAfter(std::size_t index) const
 {
@@ -248,10 +254,13 @@ void UISegmentedControl::decorate(Graphics::Layer& layer) const
 void UISegmentedControl::describe(nlohmann::json& description) const
 {
     description["segments"] = nlohmann::json::array();
-    for (const Segment& segment : segments) {
-        const UIImage* picture = imageStandIn(segment.image);
-        description["segments"].push_back(picture ? picture->path : plainUtf8(segment.title));
+    bool truncated = false;
+    for (std::size_t i = 0; i < segments.size(); ++i) {
+        const UIImage* picture = imageStandIn(segments[i].image);
+        description["segments"].push_back(picture ? picture->path : plainUtf8(segments[i].title));
+        truncated = truncated || isTruncated(i);
     }
+    description["truncated"] = truncated;
     description["selected"] = selectedSegmentIndex;
 }
 

@@ -52,6 +52,7 @@ private:
     long indexUnder(const NS::Object& touch) const;
     Graphics::Layer contentOf(std::size_t index) const;
     UI::Font fontOf(bool isSelected) const;
+    bool isTruncated(std::size_t index) const;
     bool hasDividerAfter(std::size_t index) const;
 
     std::vector<Segment> segments;

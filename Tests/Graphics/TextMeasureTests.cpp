@@ -99,4 +99,25 @@ TEST(TextMeasure, ALabelOfTheMeasuredSizeIsNotTruncated)
     }
 }
 
+TEST(TextMeasure, ATextFitsWhereItIsShownToItsEnd)
+{
+    const auto isWhole = [](const Text& text, Size bounds) { return fits(systemCatalogue(), text, bounds, 1); };
+    Text line = text("Wednesday");
+    const Size size = measured(line);
+    EXPECT_TRUE(isWhole(line, size));
+    EXPECT_FALSE(isWhole(line, {size.width - 2, size.height}));
+    EXPECT_FALSE(isWhole(line, {size.width, size.height - 2}));
+    EXPECT_FALSE(isWhole(line, {}));
+    line.adjustsFontSizeToFitWidth = true;
+    EXPECT_TRUE(isWhole(line, {size.width / 2, size.height}));
+    line.minimumScale = 0.9;
+    EXPECT_FALSE(isWhole(line, {size.width / 2, size.height}));
+    Text lines = text("one two three four five six");
+    lines.numberOfLines = 2;
+    EXPECT_TRUE(isWhole(lines, {200, 2 * size.height}));
+    EXPECT_FALSE(isWhole(lines, {80, 2 * size.height}));
+    EXPECT_FALSE(isWhole(lines, {200, size.height}));
+    EXPECT_TRUE(isWhole(Text(), {}));
+}
+
 }

@@ -42,6 +42,9 @@ TEST_F(Description, TellsALabelsTextAndRuns)
     EXPECT_EQ(plain["lines"], 1);
     EXPECT_EQ(plain["font"]["size"], 17);
     EXPECT_EQ(plain["font"]["name"], textOf(label.font().fontName()));
+    EXPECT_EQ(plain["truncated"], true) << "it has no size yet";
+    label.sizeToFit();
+    EXPECT_EQ(of(label)["truncated"], false);
 }
 
 TEST_F(Description, TellsThePicturesInALabel)

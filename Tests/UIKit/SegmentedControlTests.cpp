@@ -85,4 +85,12 @@ TEST_F(Segments, AreRenamedAndShowSymbols)
     EXPECT_EQ(described["selected"], 0);
 }
 
+TEST_F(Segments, TellWhetherATitleIsCutOff)
+{
+    const auto truncated = [this] { return describeView(viewOf(control), false)["truncated"]; };
+    EXPECT_EQ(truncated(), false);
+    control.setTitleForSegmentAtIndex("A title that has no room beside the others at all"_ns, 0);
+    EXPECT_EQ(truncated(), true);
+}
+
 }
