@@ -17,7 +17,8 @@ namespace {
 /// Variables of the extension that hold no object.
 const std::set<std::string> flags = {"isTimerRunning", "_isLPM", "_axonVisible", "_screenOn", "_timePress",
     "_datePress", "_widgetPress", "_colorPickerPress"};
-const std::set<std::string> numbers = {"_startTime", "_startLastLook"};
+const std::set<std::string> numbers = {"_startTime", "_startLastLook", "_allowableMovement"};
+const std::set<std::string> counts = {"_initialSegmentCount"};
 
 id classNamed(const std::string& name)
 {
@@ -112,6 +113,8 @@ Json globalValue(const std::string& name)
         return *static_cast<bool*>(address);
     if (numbers.contains(name))
         return *static_cast<double*>(address);
+    if (counts.contains(name))
+        return *static_cast<unsigned long*>(address);
     return jsonOfObject(NS::Object(*static_cast<id*>(address)));
 }
 
