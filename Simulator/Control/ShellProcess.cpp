@@ -45,22 +45,28 @@ int ShellProcess::run()
     for (;;) {
         while (const auto document = _channel.receiveArrived()) {
             serve(*document);
-            if (_shell.wantsRelaunch())
+            if (_shell.wantsRelaunch() || !runDue())
                 return relaunchStatus;
         }
         if (!_channel.isOpen())
             return 0;
         waitForWork();
-        // A long start message arrives piece by piece.
-        if (_isStarted)
-            _shell.runDue();
-        if (_shell.wantsRelaunch()) {
-            sayState();
+        if (!runDue())
             return relaunchStatus;
-        }
         if (std::exchange(_isLookedAt, false))
             sayState();
     }
+}
+
+/// After every request, however fast the next one follows: what a script sees must not depend on that.
+bool ShellProcess::runDue()
+{
+    // A long start message arrives piece by piece.
+    if (_isStarted)
+        _shell.runDue();
+    if (_shell.wantsRelaunch())
+        sayState();
+    return !_shell.wantsRelaunch();
 }
 
 void ShellProcess::serve(const Json& document)

@@ -15,6 +15,8 @@ public:
 
 private:
     void serve(const Json& document);
+    /// What is due now; false once the phone wants to start anew.
+    bool runDue();
     void sayState();
     void waitForWork();
 
