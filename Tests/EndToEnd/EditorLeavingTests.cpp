@@ -1,0 +1,193 @@
+// Leaving the lock screen while its editor is open, in every way there is.
+#include "Tests/EndToEnd/EditorScenario.hpp"
+
+namespace {
+
+constexpr const char* panelViews[] = {"_optionView", "_done", "_timeButton", "_dateButton"};
+
+void expectClosed(Phone& phone)
+{
+    EXPECT_EQ(activeFlags(phone), Journal{});
+    for (const char* view : panelViews)
+        EXPECT_FALSE(phone.has(view)) << view;
+    EXPECT_FALSE(phone.has("_widgetButton"));
+    EXPECT_TRUE(phone.view("_timeBorderView").hidden);
+    EXPECT_TRUE(phone.view("_dateBorderView").hidden);
+    EXPECT_FALSE(phone.view("stock.notificationList").hidden);
+}
+
+void expectItOpens(Phone& phone)
+{
+    openEditor(phone);
+    EXPECT_EQ(activeFlags(phone), Journal{"_timePress"});
+    EXPECT_TRUE(phone.view("_optionView").onScreen);
+    EXPECT_TRUE(phone.view("_widgetButton").onScreen);
+    pressDone(phone);
+    phone.settle();
+    expectClosed(phone);
+}
+
+/// Adds and removals; only the last of them counts.
+bool holdsTheLight(const Journal& journal)
+{
+    bool holds = false;
+    for (const std::string& line : journal) {
+        if (line.starts_with("idle timer:"))
+            holds = line == "idle timer: add LYR";
+    }
+    return holds;
+}
+
+}
+
+TEST(EditorLeaving, LockingClosesItFromEachPanel)
+{
+    for (const EditorTab& tab : editorTabs) {
+        auto phone = editing();
+        phone.tap(tab.button);
+        phone.call("phone.lock");
+        EXPECT_FALSE(holdsTheLight(takeJournal(phone)));
+        for (const char* view : panelViews)
+            EXPECT_FALSE(phone.has(view)) << view << " goes at once";
+        phone.settle();
+        expectClosed(phone);
+        EXPECT_FALSE(phone.global("_longPress").is_null());
+        phone.call("phone.wake");
+        phone.settle();
+        expectItOpens(phone);
+    }
+}
+
+TEST(EditorLeaving, LockingMakesNoSound)
+{
+    auto phone = editing();
+    phone.call("phone.lock");
+    phone.settle();
+    for (const std::string& line : takeJournal(phone))
+        EXPECT_FALSE(line.starts_with("sound")) << line;
+}
+
+TEST(EditorLeaving, UnlockingClosesItAndTheNextLockScreenOpensItAgain)
+{
+    auto phone = editing();
+    phone.tap("_dateButton");
+    phone.call("phone.unlock");
+    phone.settle();
+    EXPECT_EQ(activeFlags(phone), Journal{});
+    EXPECT_TRUE(phone.global("_longPress").is_null()) << "the home screen has no use for it";
+    phone.call("phone.coverSheet");
+    phone.settle();
+    expectClosed(phone);
+    EXPECT_FALSE(phone.global("_longPress").is_null());
+    expectItOpens(phone);
+}
+
+TEST(EditorLeaving, TheRecogniserGoesWithTheLockScreenAndComesBackOnce)
+{
+    auto phone = settledWith();
+    for (int i = 0; i < 3; ++i) {
+        phone.call("phone.unlock");
+        phone.settle();
+        EXPECT_TRUE(phone.global("_longPress").is_null());
+        phone.call("phone.coverSheet");
+        phone.settle();
+        EXPECT_FALSE(phone.global("_longPress").is_null());
+    }
+    phone.takeLog();
+    openEditor(phone);
+    const Journal journal = takeJournal(phone);
+    EXPECT_EQ(std::count(journal.begin(), journal.end(), "sound 1519"), 1);
+}
+
+TEST(EditorLeaving, AMemoryWarningTakesTheViewsAwayAndALockMakesItRight)
+{
+    auto phone = editing();
+    phone.tap("_widgetButton");
+    phone.call("phone.memoryWarning");
+    for (const char* view : panelViews)
+        EXPECT_FALSE(phone.has(view)) << view;
+    EXPECT_FALSE(phone.has("_widgetButton"));
+    phone.settle();
+    phone.call("phone.lock");
+    phone.call("phone.wake");
+    phone.settle();
+    expectClosed(phone);
+    expectItOpens(phone);
+}
+
+TEST(EditorLeaving, AnAppInFrontTakesThePanelAwayButForTheWidgetTab)
+{
+    auto phone = editing();
+    phone.call("phone.openApp", {{"bundle", "com.example.app"}});
+    for (const char* view : panelViews)
+        EXPECT_FALSE(phone.has(view)) << view;
+    phone.settle();
+    phone.call("phone.lock");
+    phone.call("phone.wake");
+    phone.settle();
+    expectItOpens(phone);
+}
+
+TEST(EditorLeaving, TheFrontDisplayCountsOnlyWithAnApplicationAndWhileEnabled)
+{
+    auto phone = editing();
+    phone.send({{"instance", "SpringBoard"}}, "frontDisplayDidChange:", {nullptr});
+    EXPECT_TRUE(phone.has("_optionView"));
+    phone.call("settings.set", {{"values", {{"enabled", false}}}});
+    phone.send({{"instance", "SpringBoard"}}, "frontDisplayDidChange:", {"app"});
+    EXPECT_TRUE(phone.has("_optionView"));
+    phone.call("settings.set", {{"values", {{"enabled", true}}}});
+    phone.send({{"instance", "SpringBoard"}}, "frontDisplayDidChange:", {"app"});
+    EXPECT_FALSE(phone.has("_optionView"));
+    EXPECT_TRUE(phone.has("_widgetButton"));
+}
+
+TEST(EditorLeaving, LockingDuringAnAnimationLeavesNothingBehind)
+{
+    for (double moment : {0.1, 0.4}) {
+        auto phone = settledWith();
+        phone.pressAt(160, 300);
+        phone.advance(moment);
+        phone.call("phone.lock");
+        phone.settle();
+        expectClosed(phone);
+        phone.call("phone.wake");
+        phone.settle();
+        openEditor(phone);
+        phone.tap("_done");
+        phone.advance(moment);
+        phone.call("phone.lock");
+        phone.call("phone.wake");
+        phone.settle();
+        expectClosed(phone);
+        expectItOpens(phone);
+    }
+}
+
+TEST(EditorLeaving, OpenedAgainWhileItStillClosesItStaysOpen)
+{
+    auto phone = editing();
+    phone.tap("_done");
+    phone.pressAt(160, 300, 0.55);
+    phone.advance(2);
+    EXPECT_EQ(activeFlags(phone), Journal{"_timePress"});
+    EXPECT_TRUE(phone.view("_optionView").onScreen);
+    EXPECT_TRUE(phone.view("_done").onScreen);
+    pressDone(phone);
+    phone.settle();
+    expectClosed(phone);
+}
+
+TEST(EditorLeaving, TheBatteryButtonGoesWithTheLightAndComesWithIt)
+{
+    auto phone = settledWith();
+    EXPECT_TRUE(phone.view("_buttonCL").onScreen);
+    EXPECT_TRUE(phone.view("_buttonCL2").hidden);
+    phone.call("phone.lock");
+    EXPECT_TRUE(phone.view("_buttonCL").hidden);
+    phone.call("phone.wake");
+    EXPECT_FALSE(phone.view("_buttonCL").hidden);
+    phone.send({{"id", "_buttonCL"}}, "setHidden:", {true});
+    phone.call("phone.wake");
+    EXPECT_TRUE(phone.view("_buttonCL").hidden) << "light on a lit screen arms nothing";
+}
