@@ -74,7 +74,7 @@ void applyPanelLook()
 {
     auto ground = isDark() ? UI::Color::blackColor() : UI::Color::whiteColor();
     _optionView->setBackgroundColor(ground.colorWithAlphaComponent(0.8));
-    _alertView->setBackgroundColor(ground.colorWithAlphaComponent(0.97));
+    _alertView->setBackgroundColor(ground);
     applyPlainLook(_done);
     applyTabLook(_timeButton, isActive(Tab::time));
     applyTabLook(_dateButton, isActive(Tab::date));

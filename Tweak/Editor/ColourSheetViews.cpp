@@ -5,6 +5,7 @@
 #include "Platform/UIKit/UIScreen.hpp"
 #include "Tweak/Clock/ScreenWidth.hpp"
 #include "Tweak/Editor/EditorViews.hpp"
+#include "Tweak/Editor/Overlay.hpp"
 #include "Tweak/Views.hpp"
 
 namespace LYR {
@@ -74,19 +75,17 @@ Colours styleColours()
     return {UI::Color::whiteColor(), UI::Color::blackColor()};
 }
 
-/// Takes the place that the editor's view has while it is open.
-void takePlace(const UI::View& view, const UI::View& of)
-{
-    view.setFrame(of.frame());
-}
-
 void buildPanel(const ColourSheet& sheet, const Colours& colours)
 {
     auto panel = UI::View::make();
     panel.setAccessibilityIdentifier("colorWellView"_ns);
     panel.setBackgroundColor(colours.ground.colorWithAlphaComponent(0.85));
     panel.layer().setCornerRadius(panelRadius);
-    takePlace(panel, _optionView);
+    // In the place of the editor's own panel, or what of it the screen shows.
+    CGRect frame = _optionView->frame();
+    frame.origin.x += panelOutsideScreen();
+    frame.size.width -= 2 * panelOutsideScreen();
+    panel.setFrame(frame);
     sheet.view().addSubview(panel);
     ObjC::setOwnedVariable(sheet.raw(), panelVariable, panel);
 }
@@ -138,7 +137,9 @@ void buildDone(const ColourSheet& sheet, const Colours& colours)
     done.setBackgroundColor(colours.ground.colorWithAlphaComponent(0.85));
     done.layer().setCornerRadius(doneRadius);
     done.addTarget(sheet, action<"closeMyCSCoverSheetViewController">(), UI::ControlEvents::touchUpInside);
-    takePlace(done, _done);
+    CGRect frame = _done->frame();
+    frame.origin.x -= panelOutsideScreen();
+    done.setFrame(frame);
     sheet.view().addSubview(done);
 }
 

@@ -34,7 +34,8 @@ void placeOverlay(CGFloat panelTop, CGFloat buttonsTop)
     CGFloat x = middle - layout->width / 2 + margin;
     CGFloat width = layout->width - 2 * margin;
     _optionView->setFrame(CGRectMake(x, panelTop, width, panelHeight));
-    placePanel(width);
+    CGFloat outside = panelOutsideScreen();
+    placePanel({outside, width - 2 * outside});
     _done->setFrame(CGRectMake(x + width - doneWidth, buttonsTop, doneWidth, buttonHeight));
     for (const auto* button : tabButtons) {
         (*button)->setFrame(CGRectMake(x, buttonsTop, tabWidth, buttonHeight));
@@ -61,6 +62,11 @@ void animateOverlay(void (*changes)(), void (*completion)(bool))
 {
     UI::View::animateWithDuration(0.5, 0, UI::AnimationOptions::curveEaseIn, changes,
         completion ? ObjC::Block<void(bool)>(completion) : ObjC::Block<void(bool)>());
+}
+
+CGFloat panelOutsideScreen()
+{
+    return std::max<CGFloat>(-_optionView->frame().origin.x, 0);
 }
 
 void addOverlay()

@@ -1,6 +1,8 @@
 // The panel and the row of buttons above it: on the screen, off it, and on the way.
 #pragma once
 
+#include "Platform/CoreGraphics/CGGeometry.hpp"
+
 namespace LYR {
 
 /// Half a second, starting slowly.
@@ -12,6 +14,8 @@ void addOverlay();
 void showOverlay();
 /// Sends them off the bottom of the screen.
 void parkOverlay();
+/// How much of the panel lies beyond either side of the screen: it is wider than a tablet that is held upright.
+CGFloat panelOutsideScreen();
 // The button of the widgets goes its own way.
 void hideOverlay();
 void removeOverlay();

@@ -20,7 +20,7 @@ constexpr CGFloat buttonRadius = 12;
 constexpr CGFloat wellRadius = 19;
 constexpr CGFloat stripRadius = 12;
 /// Enough for the widest panel.
-constexpr int checkerboardSquares = 64;
+constexpr int checkerboardSquares = 96;
 
 NS::String text(const char* characters)
 {
@@ -235,6 +235,10 @@ void finishButtons()
     for (const auto* well : {&_colorWheel1, &_colorWheel2, &_colorWheel3, &_colorWheel4, &_colorWheel5, &_showWell}) {
         auto layer = (*well)->layer();
         layer.setBorderColor(UI::Color::systemBlueColor().CGColor());
+        // A white one on a white panel must be seen.
+        layer.setShadowOpacity(0.3f);
+        layer.setShadowRadius(2);
+        layer.setShadowOffset({0, 1});
         (*well)->setBackgroundColor(UI::Color::whiteColor());
     }
     _showWell->setTintColor(UI::Color::systemGrayColor());

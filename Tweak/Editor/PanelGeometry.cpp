@@ -1,7 +1,6 @@
 #include "Tweak/Editor/PanelGeometry.hpp"
 
 #include "Tweak/Editor/EditorViews.hpp"
-#include "Tweak/Placement.hpp"
 
 namespace LYR {
 
@@ -19,27 +18,28 @@ constexpr Place places[] = {
     throughout(_segmentedControl, 12, 12, 10, 32),
 
     throughout(_pickerView1, 12, 12, 48, 134),
-    fromLeft(_stepperLabel2, 12, 88, 186, 14),
+    fromLeft(_stepperLabel2, 12, 88, 184, 14),
     fromLeft(_stepperLabel, 12, 88, 198, 24),
     fromLeft(_stepperView, 104, 94, 194, 32),
     fromRight(_stepperButton, 44, 52, 194, 32),
     fromRight(_alertOpen, 8, 32, 194, 32),
 
-    aboutShare(_colorWheel1, sixth(0), 38, 66, 38),
-    aboutShare(_colorWheel2, sixth(1), 38, 66, 38),
-    aboutShare(_colorWheel3, sixth(2), 38, 66, 38),
-    aboutShare(_colorWheel4, sixth(3), 38, 66, 38),
-    aboutShare(_colorWheel5, sixth(4), 38, 66, 38),
-    aboutShare(_showWell, sixth(5), 38, 66, 38),
-    throughout(_alphaCheckBoard, 16, 16, 148, 24),
-    throughout(_alphaView, 16, 16, 148, 24),
-    throughout(_sliderAlpha, 14, 14, 144, 32),
+    aboutShare(_colorWheel1, sixth(0), 38, 82, 38),
+    aboutShare(_colorWheel2, sixth(1), 38, 82, 38),
+    aboutShare(_colorWheel3, sixth(2), 38, 82, 38),
+    aboutShare(_colorWheel4, sixth(3), 38, 82, 38),
+    aboutShare(_colorWheel5, sixth(4), 38, 82, 38),
+    aboutShare(_showWell, sixth(5), 38, 82, 38),
+    throughout(_alphaCheckBoard, 16, 16, 162, 24),
+    throughout(_alphaView, 16, 16, 162, 24),
+    throughout(_sliderAlpha, 14, 14, 158, 32),
 
     fromLeft(_alignLabel, 16, 80, 62, 32),
     throughout(_segmentAlign, 104, 12, 62, 32),
     throughout(_sliderX, 12, 60, 118, 32),
     fromRight(_sliderLabelX, 12, 44, 118, 32),
-    throughout(_sliderY, 12, 60, 174, 32),
+    // Its symbols are narrower, so that the two tracks are one above the other.
+    throughout(_sliderY, 19, 67, 174, 32),
     fromRight(_sliderLabelY, 12, 44, 174, 32),
 
     throughout(_pickerView2, 12, 12, 46, 106),
@@ -54,6 +54,10 @@ constexpr Place places[] = {
     throughout(_segmentWidget3, 46, 12, 174, 32),
 
     throughout(_alertView, 0, 0, 0, 240),
+};
+
+/// On the notice itself.
+constexpr Place noticePlaces[] = {
     fromRight(_alertClose, 8, 36, 8, 36),
     throughout(_alertLabel, 16, 52, 14, 48),
     throughout(_alertLabel2, 16, 16, 70, 36),
@@ -71,9 +75,10 @@ void layCheckerboard()
 
 }
 
-void placePanel(CGFloat width)
+void placePanel(const Slot& shown)
 {
-    place(places, {0, width});
+    place(places, shown);
+    place(noticePlaces, {0, shown.width});
     layCheckerboard();
     _gradient->setFrame(_alphaView->bounds());
 }

@@ -1,11 +1,11 @@
 // Where the controls lie on the panel, in points.
 #pragma once
 
-#include "Platform/CoreGraphics/CGGeometry.hpp"
+#include "Tweak/Placement.hpp"
 
 namespace LYR {
 
-/// Gives every control of a panel of that width its frame.
-void placePanel(CGFloat width);
+/// Gives every control of the panel its frame, within the part of the panel's width that the screen shows.
+void placePanel(const Slot& shown);
 
 }
