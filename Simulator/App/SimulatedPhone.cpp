@@ -9,6 +9,7 @@
 #include "Simulator/Foundation/Foundation.hpp"
 #include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
+#include "Simulator/Loader/LackingParts.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/SpringBoard/SpringBoard.hpp"
@@ -100,6 +101,7 @@ private:
             Control::applyDevice(start.state.at("device"));
         DeviceState& device = DeviceState::shared();
         device.installed = start.parameters.value("installed", std::set<std::string>());
+        lackingParts() = start.parameters.value("lacking", std::set<std::string>());
         ScreenSettings& screen = screenSettings();
         screen.style = static_cast<UserInterfaceStyle>(device.style);
         if (start.parameters.contains("screen")) {

@@ -51,7 +51,8 @@ Schema startParameters()
                       {"root", hostFolder()}, {"files", mapOf(phonePath(), hostPath())},
                       {"settings", mapOf(storedText(), scalar())}, {"colours", mapOf(storedText(), propertyList())},
                       {"wallpaper", orNull(hostFile("a JPEG"))}, {"fonts", listOf(hostFile("a font file"))},
-                      {"installed", listOf(oneOf({"AFont", "LastLook", "Axon", "Filza"}))}, {"extension", boolean()}},
+                      {"installed", listOf(oneOf({"AFont", "LastLook", "Axon", "Filza"}))}, {"extension", boolean()},
+                      {"lacking", listOf(text())}},
         deviceParameters());
 }
 

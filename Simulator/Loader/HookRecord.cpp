@@ -2,6 +2,7 @@
 #include "Simulator/Loader/HookRecord.hpp"
 
 #include "Platform/Substrate/MSHookMessageEx.hpp"
+#include "Simulator/Loader/LackingParts.hpp"
 #include "Simulator/Runtime/MethodTable.hpp"
 
 #include <dlfcn.h>
@@ -62,7 +63,7 @@ BOOL class_addMethod(Class type, SEL selector, IMP implementation, const char* t
 // A class without an implementation of its own gets one, and what it inherits is the stock one.
 void MSHookMessageEx(Class type, SEL selector, IMP replacement, IMP* stock)
 {
-    Method method = type ? class_getInstanceMethod(type, selector) : nullptr;
+    Method method = type && !isLacking(type, selector) ? class_getInstanceMethod(type, selector) : nullptr;
     record(HookRecord::Kind::hook, type, selector, method ? method_getTypeEncoding(method) : nullptr);
     if (!method)
         return;

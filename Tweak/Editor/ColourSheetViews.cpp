@@ -93,6 +93,9 @@ void buildPanel(const ColourSheet& sheet, const Colours& colours)
 void buildWell(const ColourSheet& sheet, const Row& row, const UI::View& panel, CGFloat y)
 {
     auto well = UI::ColorWell::make();
+    // Older systems have none.
+    if (!well)
+        return;
     well.setAccessibilityIdentifier(text(row.wellVariable + 1));
     well.setTitle(text(row.title));
     well.setSelectedColor(row.colour());

@@ -1,0 +1,83 @@
+// A phone of another system, which lacks a class or a method that the extension uses: the rest goes on.
+#include "Tests/EndToEnd/Scenario.hpp"
+
+#include <set>
+
+namespace {
+
+/// Every class that the tables of interceptions name, and every method with its class.
+std::set<std::string> interceptedParts()
+{
+    auto phone = eveningPhone({{"hideNotifHeader", true}}).installed({"Axon"}).start();
+    std::set<std::string> parts;
+    const Json hooks = phone.call("objc.hooks").at("hooks");
+    for (const Json& hook : hooks) {
+        parts.insert(hook.at("class").get<std::string>());
+        if (hook.at("kind") == "hook")
+            parts.insert(hook.at("class").get<std::string>() + " " + hook.at("selector").get<std::string>());
+    }
+    return parts;
+}
+
+const char* const optionalClasses[] = {"UIColorWell", "UISegmentedControl", "UIStepper", "UISlider", "UIPickerView",
+    "CAGradientLayer", "UILongPressGestureRecognizer", "NSLayoutConstraint", "NSTextAttachment", "WeatherApp",
+    "SBScheduledAlarmObserver", "EKEventStore", "_CDBatterySaver", "FBSystemService", "HBPreferences",
+    "SparkColourPickerUtils", "SBCoverSheetPresentationManager", "NSJSONSerialization", "NSNotificationCenter",
+    "UIDevice", "NSTimer", "UIScreen"};
+
+/// What a user does on an evening; the phone is to come through it without a crash.
+void live(Phone& phone)
+{
+    phone.settle(3);
+    openEditor(phone);
+    for (const char* id : {"_dateButton", "_widgetButton", "_timeButton", "_showWell", "_done"}) {
+        if (phone.has(id) && phone.view(id).onScreen)
+            phone.tap(id);
+        phone.advance(1);
+    }
+    phone.call("phone.lock");
+    phone.advance(2);
+    phone.call("phone.wake");
+    phone.call("phone.charge", {{"charging", true}});
+    phone.advance(5);
+    phone.call("phone.unlock");
+    phone.advance(1);
+    phone.call("phone.coverSheet");
+    phone.settle(3);
+}
+
+void expectLifeWithout(const std::string& part)
+{
+    SCOPED_TRACE(part);
+    auto phone = eveningPhone({{"hideNotifHeader", true}}).installed({"Axon"}).with("lacking", {part}).start();
+    ASSERT_NO_THROW(live(phone));
+    auto info = phone.info();
+    EXPECT_EQ(info.at("safeMode"), false);
+    EXPECT_EQ(info.at("starts"), 1);
+}
+
+}
+
+TEST(Lacking, AnyInterceptedClassOrMethodLeavesTheRestWorking)
+{
+    for (const std::string& part : interceptedParts())
+        expectLifeWithout(part);
+}
+
+TEST(Lacking, AnyOptionalClassLeavesTheRestWorking)
+{
+    for (const char* part : optionalClasses)
+        expectLifeWithout(part);
+}
+
+TEST(Lacking, AClassIsLookedUpInVainByTheExtensionAlone)
+{
+    auto phone = settled(eveningPhone().with("lacking", {"CSQuickActionsViewController"}));
+    int unresolved = 0;
+    const Json hooks = phone.call("objc.hooks").at("hooks");
+    for (const Json& hook : hooks)
+        unresolved += hook.at("resolved") == false;
+    EXPECT_EQ(unresolved, 4) << "two quick actions, and the other extension's view";
+    EXPECT_EQ(phone.label("_timeLabel").text, "09.41");
+    phone.call("objc.new", {{"class", "CSQuickActionsViewController"}, {"name", "stock"}});
+}
