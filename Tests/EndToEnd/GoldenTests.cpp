@@ -1,21 +1,17 @@
 // Pictures of the whole lock screen, beside those that someone has looked at. tools/update-golden draws them anew.
-#include "Tests/Support/Picture.hpp"
+#include "Tests/EndToEnd/GoldenPicture.hpp"
 #include "Tests/Support/Program.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <nlohmann/json.hpp>
 
 namespace {
 
 using Json = nlohmann::json;
 using Support::Picture;
-namespace fs = std::filesystem;
-
-const fs::path goldenFolder = LYR_GOLDEN_FOLDER;
 
 struct Scene {
     const char* name;
@@ -54,20 +50,6 @@ constexpr const char* sharedDevice = R"({
     "battery": {"level": 0.87}, "alarm": "2020-11-16T06:30:00",
     "events": [{"title": "Dentist", "start": "2020-11-16T09:30:00"}]})";
 
-bool isUpdate()
-{
-    const char* wish = std::getenv("LYR_UPDATE_GOLDEN");
-    return wish && *wish;
-}
-
-/// New pictures that are not the golden ones stay there to be looked at.
-fs::path newPictures()
-{
-    const fs::path folder = fs::temp_directory_path() / "lyr-golden";
-    fs::create_directories(folder);
-    return folder;
-}
-
 void draw(const Scene& scene, const fs::path& output)
 {
     const Support::TemporaryFolder folder;
@@ -96,36 +78,13 @@ class Golden : public testing::TestWithParam<Scene> { };
 TEST_P(Golden, PictureIsAsItWas)
 {
     const Scene& scene = GetParam();
-    const std::string name = std::string(scene.name) + ".png";
-    const fs::path golden = goldenFolder / name, drawn = newPictures() / name;
+    const fs::path drawn = newGoldenPicture(scene.name);
     ASSERT_NO_FATAL_FAILURE(draw(scene, drawn));
-    const auto now = Picture::read(drawn);
-    ASSERT_TRUE(now) << drawn << " cannot be read";
-    if (isUpdate()) {
-        ASSERT_TRUE(now->write(golden)) << golden << " cannot be written";
-        return;
-    }
-    const auto before = Picture::read(golden);
-    ASSERT_TRUE(before) << golden << " is missing; the new picture is " << drawn
-                        << ", and tools/update-golden keeps it";
-    const Support::PictureTolerance tolerance;
-    const double share = differingShare(*before, *now);
-    if (share <= tolerance.share) {
-        fs::remove(drawn);
-        return;
-    }
-    const fs::path marked = newPictures() / (std::string(scene.name) + "-differences.png");
-    differences(*before, *now).write(marked);
-    ADD_FAILURE() << share * 100 << " % of the pixels of " << golden << " differ by more than " << tolerance.channel
-                  << "; the new picture is " << drawn << ", white in " << marked
-                  << " is what differs, and tools/update-golden keeps the new one";
+    expectGolden(scene.name, drawn);
 }
 
-INSTANTIATE_TEST_SUITE_P(Scenes, Golden, testing::ValuesIn(scenes), [](const auto& scene) {
-    std::string name = scene.param.name;
-    std::replace(name.begin(), name.end(), '-', '_');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(
+    Scenes, Golden, testing::ValuesIn(scenes), [](const auto& scene) { return goldenTestName(scene.param.name); });
 
 TEST(PictureComparison, NoticesALetterAndOverlooksTheShadeOfAnEdge)
 {

@@ -69,6 +69,14 @@ bool Picture::write(const std::string& path) const
     return file && std::fclose(file) == 0 && written;
 }
 
+Picture Picture::rows(unsigned first, unsigned count) const
+{
+    const unsigned begin = std::min(first, height), end = begin + std::min(count, height - begin);
+    const std::size_t row = std::size_t{width} * channels;
+    return {width, end - begin,
+        {pixels.begin() + static_cast<long>(begin * row), pixels.begin() + static_cast<long>(end * row)}};
+}
+
 double differingShare(const Picture& a, const Picture& b, const PictureTolerance& tolerance)
 {
     if (!sameSize(a, b))

@@ -17,6 +17,8 @@ struct Picture {
     static std::optional<Picture> read(const std::string& path);
     // As small as it gets; answers whether it worked.
     bool write(const std::string& path) const;
+    // So many rows from one on, as far as there are any.
+    Picture rows(unsigned first, unsigned count) const;
 };
 
 // How far two pictures may be apart and still count as the same: a channel of a pixel by so much, and so many of the
