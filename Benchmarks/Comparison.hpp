@@ -82,15 +82,17 @@ public:
     {
         for (auto unused : state_) {
             (void)unused;
-            times_.push_back(seconds(work));
+            add(seconds(work));
             state_.SetIterationTime(times_.back());
         }
         report();
     }
 
-private:
+    /// Takes a time that was measured elsewhere.
+    void add(double time) { times_.push_back(time); }
     void report();
 
+private:
     benchmark::State& state_;
     double limit_;
     std::vector<double> times_;

@@ -1,4 +1,5 @@
 // Runs the benchmarks; or one measurement that needs a process of its own.
+#include "Benchmarks/EditorBenchmarks.hpp"
 #include "Benchmarks/StartBenchmarks.hpp"
 
 #include <benchmark/benchmark.h>
@@ -9,6 +10,8 @@ int main(int argc, char** argv)
 {
     if (argc == 3 && argv[1] == std::string_view(Benchmarks::measureStartOption))
         return Benchmarks::measureStart(argv[2]);
+    if (argc == 3 && argv[1] == std::string_view(Benchmarks::measureFontRowsOption))
+        return Benchmarks::measureFontRows(argv[2]);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv))
         return 2;

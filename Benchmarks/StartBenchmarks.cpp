@@ -2,12 +2,12 @@
 
 #include "Benchmarks/Comparison.hpp"
 #include "Benchmarks/FontFolder.hpp"
+#include "Benchmarks/OwnProcess.hpp"
 
 #include "Simulator/App/SimulatedPhone.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
 
 #include <cstdio>
-#include <filesystem>
 #include <string>
 
 namespace Benchmarks {
@@ -40,20 +40,13 @@ struct Measurement {
     double floor = 0;
 };
 
-/// The fonts' log lines are of no interest here.
 Measurement measureInNewProcess(const std::string& root)
 {
-    std::string program = std::filesystem::read_symlink("/proc/self/exe");
-    std::string command = "'" + program + "' " + measureStartOption + " '" + root + "' 2>/dev/null";
+    std::string output = outputOfOwnProcess(measureStartOption, root);
     Measurement measurement;
-    if (FILE* output = popen(command.c_str(), "r")) {
-        if (std::fscanf(output, "%d %zu %lf %lf", &measurement.loaded, &measurement.names, &measurement.work,
-                &measurement.floor)
-            != 4)
-            measurement = {};
-        pclose(output);
-    }
-    return measurement;
+    int read = std::sscanf(output.c_str(), "%d %zu %lf %lf", &measurement.loaded, &measurement.names, &measurement.work,
+        &measurement.floor);
+    return read == 4 ? measurement : Measurement();
 }
 
 void startUp(benchmark::State& state)
