@@ -6,11 +6,19 @@
 #include "Simulator/Control/RootFolder.hpp"
 #include "Simulator/Preview/Server.hpp"
 
+#include <filesystem>
 #include <iostream>
 
 namespace Simulator::App {
 
 using namespace Control;
+
+/// The editor changes a colour file, but makes none: that is the settings pane's work, which the page does here.
+static void provideColourFile(RootFolder& root)
+{
+    if (!std::filesystem::exists(root.path() + std::string(coloursPath)))
+        root.fill({{"colours", Json::object()}});
+}
 
 int preview(const PreviewOptions& options, Supervisor::Options supervisorOptions)
 {
@@ -19,7 +27,8 @@ int preview(const PreviewOptions& options, Supervisor::Options supervisorOptions
         Lifeline lifeline;
         supervisorOptions.wait = [&](int descriptor, short events) { lifeline.wait(descriptor, events); };
         const Workshop workshop;
-        const RootFolder root = options.root.empty() ? RootFolder() : RootFolder(options.root);
+        RootFolder root = options.root.empty() ? RootFolder() : RootFolder(options.root);
+        provideColourFile(root);
         Preview::ServerOptions server;
         server.page = pageFolder();
         server.port = static_cast<unsigned short>(options.port);
