@@ -142,6 +142,25 @@ TEST(EditorLeaving, TheFrontDisplayCountsOnlyWithAnApplicationAndWhileEnabled)
     EXPECT_TRUE(phone.has("_widgetButton"));
 }
 
+TEST(EditorLeaving, TheHomeButtonHasItsEffectBeforeTheNextRequestHoweverFastThatComes)
+{
+    auto phone = editing();
+    const Json home{{"target", {{"instance", "SpringBoard"}}}, {"selector", "_simulateHomeButtonPress"}};
+    const auto request = [](int id, const std::string& method, const Json& parameters) {
+        return Json{{"jsonrpc", "2.0"}, {"id", id}, {"method", method}, {"params", parameters}}.dump();
+    };
+    for (int time = 0; time < 20; ++time) {
+        phone.program().write(
+            request(1000, "objc.send", home) + "\n" + request(1001, "global.get", {{"name", "_longPress"}}));
+        phone.program().read();
+        const Json reply = Json::parse(phone.program().read().value());
+        ASSERT_TRUE(reply.at("result").at("value").is_null()) << "the home screen has no use for it";
+        phone.call("phone.coverSheet");
+        phone.settle();
+        ASSERT_FALSE(phone.global("_longPress").is_null());
+    }
+}
+
 TEST(EditorLeaving, LockingDuringAnAnimationLeavesNothingBehind)
 {
     for (double moment : {0.1, 0.4}) {
