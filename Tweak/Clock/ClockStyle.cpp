@@ -28,9 +28,11 @@ void placeBorderViews()
         _XdateLabel.doubleValue() + 2.5, _YdateLabel.doubleValue(), _dateLabel->bounds().size.width + 10, 40));
 }
 
+/// The system's font where there is none of that name.
 UI::Font fontNamed(const NS::String& name, const ObjectSetting& size)
 {
-    return name ? UI::Font::fontWithName(name, size.intValue()) : UI::Font();
+    auto font = name ? UI::Font::fontWithName(name, size.intValue()) : UI::Font();
+    return font ? font : UI::Font::systemFontOfSize(size.intValue());
 }
 
 /// A font that the user picked from the list of all installed ones.

@@ -92,6 +92,8 @@ void buildStripViews()
     auto strip = UI::View::make();
     // What lies under the strip stays within reach of the finger.
     strip.setUserInteractionEnabled(false);
+    // Until the first refresh there is nothing to be seen on it.
+    strip.setHidden(true);
     keepView(_widgetView, strip, "_widgetView"_ns);
     for (const PictureRow& row : pictures)
         buildPicture(row);
