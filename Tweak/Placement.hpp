@@ -28,35 +28,21 @@ struct Place {
     CGFloat height;
 };
 
-template <class T>
-constexpr Place fromLeft(const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height)
-{
-    return {Place::fromLeft, view.address(), x, width, y, height};
-}
-
-template <class T>
-constexpr Place fromRight(const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height)
-{
-    return {Place::fromRight, view.address(), x, width, y, height};
-}
-
-template <class T>
-constexpr Place throughout(const ObjC::Variable<T>& view, CGFloat left, CGFloat right, CGFloat y, CGFloat height)
-{
-    return {Place::throughout, view.address(), left, right, y, height};
-}
-
-template <class T>
-constexpr Place aboutMiddle(const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height)
-{
-    return {Place::aboutMiddle, view.address(), x, width, y, height};
-}
-
-template <class T>
-constexpr Place aboutShare(const ObjC::Variable<T>& view, CGFloat share, CGFloat width, CGFloat y, CGFloat height)
-{
-    return {Place::aboutShare, view.address(), share, width, y, height};
-}
+/// A row of the table of places, by how the view lies across.
+template <Place::Across across>
+struct PlaceRow {
+    template <class T>
+    constexpr Place operator()(
+        const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height) const
+    {
+        return {across, view.address(), x, width, y, height};
+    }
+};
+inline constexpr PlaceRow<Place::fromLeft> fromLeft{};
+inline constexpr PlaceRow<Place::fromRight> fromRight{};
+inline constexpr PlaceRow<Place::throughout> throughout{};
+inline constexpr PlaceRow<Place::aboutMiddle> aboutMiddle{};
+inline constexpr PlaceRow<Place::aboutShare> aboutShare{};
 
 /// Gives each view of the table its frame.
 void place(std::span<const Place> places, const Slot& slot);

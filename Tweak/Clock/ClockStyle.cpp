@@ -2,7 +2,6 @@
 #include "Tweak/Clock/ClockLabels.hpp"
 
 #include "Platform/UIKit/UIImage.hpp"
-#include "Tweak/Clock/ScreenWidth.hpp"
 #include "Tweak/Clock/TextShadow.hpp"
 #include "Tweak/Fonts.hpp"
 #include "Tweak/Settings.hpp"

@@ -3,7 +3,6 @@
 #include "Platform/UIKit/UIButton.hpp"
 #include "Platform/UIKit/UILabel.hpp"
 #include "Platform/UIKit/UIScreen.hpp"
-#include "Tweak/Clock/ScreenWidth.hpp"
 #include "Tweak/Editor/EditorViews.hpp"
 #include "Tweak/Editor/Overlay.hpp"
 #include "Tweak/Views.hpp"
