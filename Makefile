@@ -53,4 +53,4 @@ packages:
 	@tools/install-packages
 
 clean:
-	rm -rf build build-sanitize build-bench
+	rm -rf build build-sanitize build-bench build-arm64 packages
