@@ -64,7 +64,7 @@ void fontPickerRows(benchmark::State& state)
         (void)unused;
         long rows = 0;
         double time = 0;
-        std::string output = outputOfOwnProcess(measureFontRowsOption, fonts.root());
+        std::string output = outputOfOwnProcess({measureFontRowsOption, fonts.root()});
         if (std::sscanf(output.c_str(), "%ld %lf", &rows, &time) != 2 || rows < state.range(0)) {
             state.SkipWithError("the wheel has not a row for each font");
             return;

@@ -8,8 +8,8 @@
 
 int main(int argc, char** argv)
 {
-    if (argc == 3 && argv[1] == std::string_view(Benchmarks::measureStartOption))
-        return Benchmarks::measureStart(argv[2]);
+    if (argc == 4 && argv[1] == std::string_view(Benchmarks::measureStartOption))
+        return Benchmarks::measureStart(argv[2], argv[3]);
     if (argc == 3 && argv[1] == std::string_view(Benchmarks::measureFontRowsOption))
         return Benchmarks::measureFontRows(argv[2]);
     benchmark::Initialize(&argc, argv);

@@ -5,12 +5,13 @@
 
 namespace Benchmarks {
 
-std::string outputOfOwnProcess(const char* option, const std::string& root)
+std::string outputOfOwnProcess(const std::vector<std::string>& arguments)
 {
-    std::string program = std::filesystem::read_symlink("/proc/self/exe");
-    std::string command = "'" + program + "' " + option + " '" + root + "' 2>/dev/null";
+    std::string command = "'" + std::filesystem::read_symlink("/proc/self/exe").string() + "'";
+    for (const std::string& argument : arguments)
+        command += " '" + argument + "'";
     std::string text;
-    if (FILE* output = popen(command.c_str(), "r")) {
+    if (FILE* output = popen((command + " 2>/dev/null").c_str(), "r")) {
         char piece[256];
         while (std::fgets(piece, sizeof piece, output))
             text += piece;

@@ -2,10 +2,11 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace Benchmarks {
 
 /// What the process prints; nothing if it cannot be started. What it logs is of no interest.
-std::string outputOfOwnProcess(const char* option, const std::string& root);
+std::string outputOfOwnProcess(const std::vector<std::string>& arguments);
 
 }

@@ -12,12 +12,12 @@
 
 namespace Benchmarks {
 
-int measureStart(const char* root)
+int measureStart(const char* root, const char* extension)
 {
     Simulator::Control::ShellStart start;
     start.parameters = {{"clock", "virtual"}, {"extension", false}};
     start.root = root;
-    auto shell = Simulator::App::makeSimulatedPhone();
+    auto shell = Simulator::App::makeSimulatedPhone(extension);
     shell->start(start);
 
     int loaded = 0;
@@ -40,9 +40,9 @@ struct Measurement {
     double floor = 0;
 };
 
-Measurement measureInNewProcess(const std::string& root)
+Measurement measureInNewProcess(const std::string& root, const std::string& extension = "")
 {
-    std::string output = outputOfOwnProcess(measureStartOption, root);
+    std::string output = outputOfOwnProcess({measureStartOption, root, extension});
     Measurement measurement;
     int read = std::sscanf(output.c_str(), "%d %zu %lf %lf", &measurement.loaded, &measurement.names, &measurement.work,
         &measurement.floor);
@@ -81,11 +81,38 @@ void startUpWithoutFonts(benchmark::State& state)
     }
 }
 
+/// The package's own library, mapped and bound by the simulator, beside this build's: what the loader costs, and
+/// whether the phone's compiler made code that is as fast.
+void startUpOfThePhonesLibrary(benchmark::State& state)
+{
+    FontFolder fonts(static_cast<int>(state.range(0)));
+    Comparison comparison(state);
+    for (auto unused : state) {
+        (void)unused;
+        Measurement phones = measureInNewProcess(fonts.root(), LYR_PHONE_LIBRARY);
+        Measurement builds = measureInNewProcess(fonts.root());
+        if (phones.loaded != 1 || builds.loaded != 1) {
+            state.SkipWithError("the extension was not loaded");
+            return;
+        }
+        state.SetIterationTime(phones.work);
+        comparison.add(phones.work, builds.work);
+    }
+    comparison.report();
+}
+
 BENCHMARK(startUpWithoutFonts)->Iterations(7)->Unit(benchmark::kMicrosecond)->UseManualTime();
 BENCHMARK(startUp)
     ->ArgName("fonts")
     ->Arg(5)
     ->Arg(100)
+    ->Arg(1000)
+    ->Iterations(7)
+    ->Unit(benchmark::kMicrosecond)
+    ->UseManualTime();
+BENCHMARK(startUpOfThePhonesLibrary)
+    ->ArgName("fonts")
+    ->Arg(0)
     ->Arg(1000)
     ->Iterations(7)
     ->Unit(benchmark::kMicrosecond)
