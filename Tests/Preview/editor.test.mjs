@@ -2,20 +2,12 @@
 import assert from "node:assert/strict";
 import { existsSync } from "node:fs";
 import { join } from "node:path";
-import { after, before, test } from "node:test";
-import { call, coloursFile, makeRoot, openPage, picture, Preview, removeRoot, settingsFile, startBrowser,
+import { test } from "node:test";
+import { call, coloursFile, openPage, picture, settingsFile, sharePhoneAndBrowser,
     untilPictureDiffers } from "./support.mjs";
 
 let root, preview, browser;
-before(async () => {
-    root = makeRoot();
-    [preview, browser] = await Promise.all([Preview.start(root), startBrowser()]);
-});
-after(async () => {
-    await browser.close();
-    await preview.stop();
-    removeRoot(root);
-});
+sharePhoneAndBrowser((shared) => ({ root, preview, browser } = shared));
 
 // Asks until the phone answers as wanted, and answers what it said.
 async function until(ask, isWanted) {

@@ -3,21 +3,13 @@ import assert from "node:assert/strict";
 import { execFileSync } from "node:child_process";
 import { readFileSync } from "node:fs";
 import { join } from "node:path";
-import { after, before, test } from "node:test";
-import { call, coloursFile, makeRoot, openPage, picture, Preview, removeRoot, settingsFile, startBrowser, untilPictureDiffers,
-    untilPictureIs, untilStatus, wallpaperFile } from "./support.mjs";
+import { test } from "node:test";
+import { call, coloursFile, openPage, picture, settingsFile, sharePhoneAndBrowser, untilPictureDiffers, untilPictureIs,
+    untilStatus, wallpaperFile } from "./support.mjs";
 
 const fontFolder = "Library/Application Support/LYRFont";
 let root, preview, browser;
-before(async () => {
-    root = makeRoot();
-    [preview, browser] = await Promise.all([Preview.start(root), startBrowser()]);
-});
-after(async () => {
-    await browser.close();
-    await preview.stop();
-    removeRoot(root);
-});
+sharePhoneAndBrowser((shared) => ({ root, preview, browser } = shared));
 
 async function openLook() {
     const page = await openPage(browser, preview.address);

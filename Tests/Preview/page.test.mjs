@@ -1,9 +1,9 @@
 // The page by itself: it loads, shows every setting in the user's language, and what is done there reaches the phone.
 import assert from "node:assert/strict";
 import { readdirSync, readFileSync } from "node:fs";
-import { after, before, test } from "node:test";
-import { makeRoot, openPage, picture, Preview, removeRoot, settingsFile, startBrowser, untilDark,
-    untilLit, untilPictureDiffers, untilPictureIs } from "./support.mjs";
+import { test } from "node:test";
+import { openPage, picture, settingsFile, sharePhoneAndBrowser, untilDark, untilLit, untilPictureDiffers,
+    untilPictureIs } from "./support.mjs";
 
 const bundle = new URL("../../Resources/LYRPrefs.bundle/", import.meta.url);
 
@@ -18,16 +18,8 @@ function cells() {
     });
 }
 
-let root, preview, browser;
-before(async () => {
-    root = makeRoot();
-    [preview, browser] = await Promise.all([Preview.start(root), startBrowser()]);
-});
-after(async () => {
-    await browser.close();
-    await preview.stop();
-    removeRoot(root);
-});
+let preview, browser;
+sharePhoneAndBrowser((shared) => ({ preview, browser } = shared));
 
 test("loads without a complaint and asks nobody but the preview", async () => {
     const page = await openPage(browser, preview.address);

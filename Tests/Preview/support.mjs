@@ -6,6 +6,7 @@ import { createRequire } from "node:module";
 import { tmpdir } from "node:os";
 import { join } from "node:path";
 import { createInterface } from "node:readline";
+import { after, before } from "node:test";
 
 const { chromium } = createRequire(`${process.env.LYR_PREVIEW_MODULES}/`)("playwright-core");
 
@@ -51,6 +52,20 @@ export class Preview {
 
 export async function startBrowser() {
     return chromium.launch({ executablePath: process.env.LYR_CHROMIUM ?? "/usr/bin/chromium", args: ["--no-sandbox"] });
+}
+
+// One phone on a root folder of its own and one browser for all tests of a file; `take` gets them before the first.
+export function sharePhoneAndBrowser(take) {
+    const shared = { root: makeRoot() };
+    before(async () => {
+        [shared.preview, shared.browser] = await Promise.all([Preview.start(shared.root), startBrowser()]);
+        take(shared);
+    });
+    after(async () => {
+        await shared.browser.close();
+        await shared.preview.stop();
+        removeRoot(shared.root);
+    });
 }
 
 // A page that is ready, with all that it complained about.

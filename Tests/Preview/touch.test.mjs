@@ -1,18 +1,10 @@
 // Fingers on the page's phone.
 import assert from "node:assert/strict";
-import { after, before, test } from "node:test";
-import { call, makeRoot, openPage, picture, Preview, removeRoot, startBrowser, untilPictureDiffers } from "./support.mjs";
+import { test } from "node:test";
+import { call, openPage, picture, sharePhoneAndBrowser, untilPictureDiffers } from "./support.mjs";
 
-let root, preview, browser;
-before(async () => {
-    root = makeRoot();
-    [preview, browser] = await Promise.all([Preview.start(root), startBrowser()]);
-});
-after(async () => {
-    await browser.close();
-    await preview.stop();
-    removeRoot(root);
-});
+let preview, browser;
+sharePhoneAndBrowser((shared) => ({ preview, browser } = shared));
 
 async function untilEditorIsOpen(page) {
     for (;;) {
