@@ -2,11 +2,12 @@
 import assert from "node:assert/strict";
 import { readdirSync, readFileSync } from "node:fs";
 import { test } from "node:test";
-import { chooseLanguage } from "../../Simulator/Preview/Page/texts.js";
 
 const page = new URL("../../Simulator/Preview/Page/", import.meta.url);
 const bundle = new URL("../../Resources/LYRPrefs.bundle/", import.meta.url);
 const read = (name, folder = page) => readFileSync(new URL(name, folder), "utf8");
+// By its name alone, not every Node takes the page's script for a module.
+const { chooseLanguage } = await import(`data:text/javascript,${encodeURIComponent(read("texts.js"))}`);
 const languages = readdirSync(bundle).filter((name) => name.endsWith(".json")).map((name) => name.slice(0, -5));
 const english = JSON.parse(read("text.en.json"));
 
