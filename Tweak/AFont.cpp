@@ -26,9 +26,13 @@ void updateAFontBlacklist()
     if (!files.fileExistsAtPath(NS::String::fromUTF8(library)))
         return;
 
-    auto settings = NS::MutableDictionary::dictionaryWithContentsOfFile(settingsFile);
-    if (!settings)
-        settings = NS::MutableDictionary::dictionary();
+    auto settings = NS::MutableDictionary::dictionary();
+    if (files.fileExistsAtPath(settingsFile)) {
+        settings = NS::MutableDictionary::dictionaryWithContentsOfFile(settingsFile);
+        // What cannot be read is not ours to replace.
+        if (!settings)
+            return;
+    }
     auto stored = settings.objectForKey<NS::Dictionary>("blacklist"_ns);
     auto blacklist = stored ? stored.mutableCopy() : NS::MutableDictionary::dictionary();
     auto excluded = NS::Number::numberWithBool(_disableAFont);

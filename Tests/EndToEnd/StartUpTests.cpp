@@ -234,6 +234,17 @@ TEST(StartUp, AFontsBlacklistFollowsTheSetting)
     }
 }
 
+TEST(StartUp, AFontsSettingsThatCannotBeReadAreLeftAlone)
+{
+    const std::string path = "/var/mobile/Library/Preferences/com.rpgfarm.afontprefs.plist";
+    Support::TemporaryFolder folder;
+    for (const std::string content : {"<plist><dict><key>blacklist</key>", "", "<plist><array/></plist>", "bplist00"}) {
+        auto phone = phoneWithAFont(folder, true, content).start();
+        EXPECT_EQ(phone.readFile(path), content);
+        EXPECT_TRUE(phone.global("_prefsAFont").is_null());
+    }
+}
+
 TEST(StartUp, AFontsBlacklistIsMadeWhereThereIsNone)
 {
     Support::TemporaryFolder folder;
