@@ -69,7 +69,7 @@ void Shell::start()
     buildWindow();
     applyDeviceState();
     present(true);
-    restartMinuteTimer();
+    wake();
 }
 
 /// The controllers' views are laid out between "will appear" and "did appear".

@@ -88,7 +88,7 @@ private:
     UI::ViewController homeScreen_;
     std::string frontApp_;
     bool locked_ = true;
-    bool lit_ = true;
+    bool lit_ = false;
     bool presented_ = false;
     TimerId minuteTimer_ = 0;
     TimerId countdown_ = 0;

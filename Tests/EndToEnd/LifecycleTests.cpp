@@ -27,6 +27,11 @@ bool dateIsFresh(Phone& phone)
     return phone.label("_dateLabel").text != "?";
 }
 
+double stripAlpha(Phone& phone)
+{
+    return phone.view("_widgetView").alpha;
+}
+
 Support::PhoneStart lastLookPhone(bool keepWidgets = true)
 {
     return eveningPhone({{"showWidgetLastLook", keepWidgets}}).installed({"LastLook"});
@@ -52,10 +57,25 @@ TEST(Lifecycle, TheFullRefreshFollowsHalfASecondLaterWhereWidgetsAreShown)
 
 TEST(Lifecycle, WithoutWidgetsItsAppearanceAloneBringsNoFullRefresh)
 {
-    auto phone = eveningPhone({{"customFont", "2"}, {"showWidget", false}}).start();
+    auto phone = settledWith({{"showWidget", false}});
+    phone.call("phone.unlock");
+    phone.settle();
+    phone.call("phone.coverSheet");
+    blot(phone);
     phone.settle(5);
+    EXPECT_FALSE(dateIsFresh(phone));
+    EXPECT_TRUE(timeIsFresh(phone));
+}
+
+TEST(Lifecycle, WithoutWidgetsTheLightOfTheStartStylesTheClock)
+{
+    auto phone = eveningPhone({{"customFont", "2"}, {"showWidget", false}}).start();
+    phone.advance(1.1);
     EXPECT_NE(phone.label("_timeLabel").fontName, "Roboto-Black");
-    EXPECT_EQ(phone.label("_timeLabel").text, "09.41");
+    phone.advance(0.1);
+    EXPECT_EQ(phone.label("_timeLabel").fontName, "Roboto-Black");
+    EXPECT_EQ(phone.label("_timeLabel").fontSize, 90);
+    EXPECT_EQ(phone.label("_timeLabel").textColour, "#FFFFFFFF");
 }
 
 // A kick-off that has been fired is over, so it holds back no later appearance.
@@ -92,18 +112,43 @@ TEST(Lifecycle, TheCoverSheetsOwnRequestIsDueAfterASecond)
     EXPECT_TRUE(dateIsFresh(phone));
 }
 
-TEST(Lifecycle, LightingTheScreenRefreshesASecondLater)
+TEST(Lifecycle, EachLightRefreshesASecondLater)
+{
+    auto phone = settledWith();
+    for (int time = 0; time < 3; ++time) {
+        phone.call("phone.lock");
+        phone.advance(5);
+        phone.call("phone.wake");
+        blot(phone);
+        phone.advance(1.05);
+        EXPECT_FALSE(dateIsFresh(phone)) << time;
+        phone.advance(0.1);
+        EXPECT_TRUE(dateIsFresh(phone)) << time;
+        EXPECT_EQ(phone.global("_screenOn"), true);
+    }
+}
+
+TEST(Lifecycle, LightOnALitScreenArmsNothing)
+{
+    auto phone = settledWith();
+    phone.call("phone.wake");
+    blot(phone);
+    phone.settle(5);
+    EXPECT_FALSE(dateIsFresh(phone));
+}
+
+TEST(Lifecycle, LockingBeforeTheSecondIsOverStopsItsRefresh)
 {
     auto phone = settledWith();
     phone.call("phone.lock");
-    phone.advance(5);
+    phone.settle();
     phone.call("phone.wake");
+    phone.advance(0.5);
+    phone.call("phone.lock");
+    phone.settle(0.4);
     blot(phone);
-    phone.advance(1.05);
+    phone.settle(5);
     EXPECT_FALSE(dateIsFresh(phone));
-    phone.advance(0.1);
-    EXPECT_TRUE(dateIsFresh(phone));
-    EXPECT_EQ(phone.global("_screenOn"), true);
 }
 
 TEST(Lifecycle, LightingItAgainAfterALockMakesNoNewTimer)
@@ -126,7 +171,7 @@ TEST(Lifecycle, LockingStopsTheClockAndForgetsTheLight)
     phone.call("phone.wake");
     phone.call("phone.lock");
     EXPECT_EQ(phone.global("_screenOn"), false);
-    for (const char* timer : {"_timer", "_timerLock", "_timerWidget", "_timerLastLook"})
+    for (const char* timer : {"_timer", "_timerLock", "_timerLight", "_timerWidget", "_timerLastLook"})
         EXPECT_FALSE(isValid(phone, timer)) << timer;
     EXPECT_TRUE(phone.view("_timeBorderView").hidden);
     EXPECT_TRUE(phone.view("_dateBorderView").hidden);
@@ -164,6 +209,56 @@ TEST(Lifecycle, LastLookAloneRefreshesNothing)
     auto phone = settled(lastLookPhone(false));
     phone.call("phone.lock");
     EXPECT_TRUE(phone.global("_timerLastLook").is_null());
+}
+
+TEST(Lifecycle, TheClockAloneCanBeKeptCurrentUnderLastLook)
+{
+    auto phone = settled(eveningPhone({{"updateLastLook", true}}).installed({"LastLook"}));
+    phone.call("phone.lock");
+    phone.settle(1);
+    EXPECT_EQ(stripAlpha(phone), 0);
+    for (int i = 0; i < 2; ++i) {
+        blot(phone);
+        phone.advance(60);
+        EXPECT_TRUE(timeIsFresh(phone) && dateIsFresh(phone)) << "minute " << i;
+    }
+    EXPECT_EQ(stripAlpha(phone), 0);
+    phone.advance(5 * hour);
+    blot(phone);
+    phone.advance(120);
+    EXPECT_FALSE(dateIsFresh(phone)) << "five hours and no longer";
+}
+
+TEST(Lifecycle, TheLightEndsTheMinutesRefreshOfTheClock)
+{
+    auto phone = settled(eveningPhone({{"updateLastLook", true}}).installed({"LastLook"}));
+    phone.call("phone.lock");
+    phone.settle(1);
+    EXPECT_TRUE(isValid(phone, "_timerLastLook"));
+    phone.call("phone.wake");
+    EXPECT_FALSE(isValid(phone, "_timerLastLook"));
+}
+
+TEST(Lifecycle, WithoutLastLookNothingKeepsTheClockCurrentInTheDark)
+{
+    auto phone = settledWith({{"updateLastLook", true}, {"showWidgetLastLook", true}});
+    phone.call("phone.lock");
+    EXPECT_TRUE(phone.global("_timerLastLook").is_null());
+}
+
+TEST(Lifecycle, TheStripGoesWithTheLightUnlessLastLookShowsIt)
+{
+    for (bool lastLook : {false, true}) {
+        for (bool keepWidgets : {false, true}) {
+            auto start = eveningPhone({{"showWidgetLastLook", keepWidgets}});
+            auto phone = settled(lastLook ? start.installed({"LastLook"}) : start);
+            EXPECT_EQ(stripAlpha(phone), 1);
+            phone.call("phone.lock");
+            EXPECT_EQ(stripAlpha(phone), lastLook && keepWidgets) << lastLook << keepWidgets;
+            phone.call("phone.wake");
+            EXPECT_EQ(stripAlpha(phone), 1);
+        }
+    }
 }
 
 TEST(Lifecycle, AppearingAgainEndsTheMinutesRefresh)

@@ -50,7 +50,9 @@ TEST_F(Flow, LoadsAndAppearsOnStart)
             "CSCoverSheetViewController dateView", "SBFLockScreenDateViewController dateView",
             "CSCoverSheetViewController viewWillAppear:", "SBFLockScreenDateViewController viewWillAppear:",
             "SBFLockScreenDateViewController dateView", "SBFLockScreenDateView _updateLabels",
-            "CSCoverSheetViewController dateView", "SBFLockScreenDateViewController dateView"}));
+            "CSCoverSheetViewController dateView", "SBFLockScreenDateViewController dateView",
+            "SBBacklightController turnOnScreenFullyWithBacklightSource:", "SBFLockScreenDateViewController dateView",
+            "SBFLockScreenDateView _updateLabels"}));
     EXPECT_TRUE(shell().isLocked());
     EXPECT_TRUE(shell().isLit());
     EXPECT_TRUE(shell().isCoverSheetPresented());

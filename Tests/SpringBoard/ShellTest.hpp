@@ -52,6 +52,7 @@ protected:
         return *shell_;
     }
     Shell& shell() { return *shell_; }
+    const std::string& root() const { return root_; }
 
     UIView* find(const std::string& identifier) { return findView(shell().window(), identifier); }
     UI::View view(const std::string& identifier)

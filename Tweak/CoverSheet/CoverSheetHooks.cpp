@@ -38,7 +38,7 @@ void CSCoverSheetViewController_viewWillDisappear(CS::CoverSheetViewController s
 {
     stock<CSCoverSheetViewController_viewWillDisappear>(self, cmd, animated);
     _colorWellSheet->closeView();
-    for (const auto* timer : {&_timerWidget, &_timerLock, &_timer, &_timerLastLook})
+    for (const auto* timer : {&_timerWidget, &_timerLock, &_timerLight, &_timer, &_timerLastLook})
         stopTimer(*timer);
     leaveEditor();
     removeLongPress();

@@ -2,6 +2,7 @@
 
 #include "Platform/ObjC/Hook.hpp"
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
+#include "Tweak/Editor/BatterySaverButtons.hpp"
 #include "Tweak/Editor/ColourSheet.hpp"
 #include "Tweak/Editor/EditMode.hpp"
 #include "Tweak/Editor/EditorViews.hpp"
@@ -18,16 +19,30 @@ constexpr double minute = 60;
 constexpr double lastLookLimit = 5 * 60 * minute;
 constexpr std::int64_t widgetDelay = 10;
 
+/// LastLook shows the lock screen while it is locked, and clock or widgets are to stay current there.
+bool staysCurrent()
+{
+    return isLastLookInstalled() && (_showWidgetLastLook || _updateLastLook);
+}
+
 /// Keeps the lock screen current for as long as LastLook shows it.
 void keepUpUnderLastLook(const SB::LockScreenManager& manager)
 {
-    _widgetView->setAlpha(1);
+    _widgetView->setAlpha(_showWidgetLastLook ? 1 : 0);
     if (!_timerLastLook->isValid()) {
         _timerLastLook = NS::Timer::scheduled(minute, manager, ObjC::selector<"requestUpdateWidget">(), true);
         _startLastLook = now();
         _timerLastLook->fire();
     }
     refreshWeather();
+}
+
+/// A second after the light. The timer of the first light is never made anew; every later light has one of its own.
+void refreshAfterLight(const SB::BacklightController& controller)
+{
+    auto& timer = _timerLock ? _timerLight : _timerLock;
+    stopTimer(timer);
+    timer = NS::Timer::scheduled(1.0, controller, ObjC::selector<"requestUpdateWidget">(), false);
 }
 
 void showWidgets()
@@ -80,11 +95,12 @@ void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, i
     stopTimer(_timerWidget);
     _screenOn = false;
     hideOverlay();
-    if (isLastLookInstalled() && _showWidgetLastLook)
+    if (staysCurrent())
         keepUpUnderLastLook(self);
     else {
         _widgetView->setAlpha(0);
         stopTimer(_timerLock);
+        stopTimer(_timerLight);
         stopTimer(_timerLastLook);
     }
     removeOverlay();
@@ -105,10 +121,9 @@ void SBBacklightController_turnOnScreenFully(SB::BacklightController self, SEL c
     stock<SBBacklightController_turnOnScreenFully>(self, cmd, source);
     if (!SB::LockScreenManager::sharedInstance().isLockScreenVisible() || _screenOn)
         return;
-    if (!_timerLock)
-        _timerLock = NS::Timer::scheduled(1.0, self, ObjC::selector<"requestUpdateWidget">(), false);
+    refreshAfterLight(self);
     showWidgets();
-    _buttonCL->setHidden(false);
+    showBatterySaverState();
     _screenOn = true;
     // The test is the opposite of the one at lock time.
     if (!isLastLookInstalled() && _showWidgetLastLook)

@@ -12,6 +12,7 @@ namespace LYR {
 constinit ObjC::Variable<NS::Timer> _timer;
 constinit double _startTime = 0;
 constinit ObjC::Variable<NS::Timer> _timerLock;
+constinit ObjC::Variable<NS::Timer> _timerLight;
 constinit ObjC::Variable<NS::Timer> _timerWidget;
 constinit ObjC::Variable<NS::Timer> _timerLastLook;
 constinit double _startLastLook = 0;
@@ -30,7 +31,7 @@ void stopTimer(const ObjC::Variable<NS::Timer>& timer)
 
 void stopAllTimers()
 {
-    for (const auto* timer : {&_timer, &_timerLock, &_timerWidget, &_timerLastLook})
+    for (const auto* timer : {&_timer, &_timerLock, &_timerLight, &_timerWidget, &_timerLastLook})
         stopTimer(*timer);
 }
 
