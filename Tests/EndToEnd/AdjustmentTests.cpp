@@ -69,6 +69,21 @@ TEST(Adjustments, TheLowPowerFlagIsNoted)
     EXPECT_EQ(phone.global("_isLPM"), true);
 }
 
+TEST(Adjustments, AHeaderThatIsHiddenIsNotLaidOut)
+{
+    const Json header = {{"instance", "NCNotificationListSectionHeaderView"}},
+               title = {{"id", "stock.notificationHeader.title"}};
+    for (bool hidden : {false, true}) {
+        auto phone = settledWith({{"hideNotifHeader", hidden}});
+        phone.send(header, "setHidden:", {false});
+        phone.send(title, "setFrame:", Json::array({{1, 2, 3, 4}}));
+        phone.send(header, "layoutSubviews");
+        EXPECT_EQ(phone.send(header, "hidden"), hidden);
+        EXPECT_EQ(phone.send(title, "frame") == (Json{1, 2, 3, 4}), hidden);
+        EXPECT_EQ(phone.send(header, "isHidden"), hidden);
+    }
+}
+
 TEST(Adjustments, TheHeaderIsHiddenOnlyAfterARestart)
 {
     auto frameOf = [](Phone& phone) {
@@ -91,6 +106,25 @@ TEST(Adjustments, TheChargingViewCanBeSuppressed)
         phone.advance(0.5);
         EXPECT_EQ(phone.has("stock.charging") && phone.view("stock.charging").onScreen, !suppressed);
     }
+}
+
+TEST(Adjustments, WhereItIsNotSuppressedTheChargingViewComesAsTheSystemAskedForIt)
+{
+    const auto ask = [](Phone& phone, bool visible, bool showBattery) {
+        phone.send({{"instance", "CSCoverSheetViewController"}},
+            "_transitionChargingViewToVisible:showBattery:animated:", {visible, showBattery, false});
+    };
+    auto phone = settledWith();
+    for (bool showBattery : {true, false}) {
+        ask(phone, true, showBattery);
+        EXPECT_TRUE(phone.has("stock.charging"));
+        EXPECT_EQ(phone.view("stock.charging.battery").hidden, !showBattery);
+    }
+    ask(phone, false, true);
+    EXPECT_FALSE(phone.has("stock.charging"));
+    phone.set({{"chargeAnim", true}});
+    ask(phone, true, true);
+    EXPECT_FALSE(phone.has("stock.charging"));
 }
 
 TEST(Adjustments, TheOtherExtensionsListIsLookedAtEachSecond)

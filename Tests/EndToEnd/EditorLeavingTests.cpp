@@ -82,6 +82,28 @@ TEST(EditorLeaving, UnlockingClosesItAndTheNextLockScreenOpensItAgain)
     expectItOpens(phone);
 }
 
+TEST(EditorLeaving, UnlockingLetsTheScreenGoDarkAgain)
+{
+    auto phone = editing();
+    phone.call("phone.unlock");
+    phone.settle();
+    Journal journal = takeJournal(phone);
+    journal.insert(journal.begin(), "idle timer: add LYR");
+    EXPECT_FALSE(holdsTheLight(journal));
+}
+
+TEST(EditorLeaving, UnlockingClosesTheNoticeToo)
+{
+    auto phone = editing();
+    phone.tap("_alertOpen");
+    phone.call("phone.unlock");
+    phone.call("phone.coverSheet");
+    phone.settle();
+    openEditor(phone);
+    EXPECT_TRUE(phone.view("_optionView").onScreen);
+    EXPECT_TRUE(phone.view("_alertView").hidden);
+}
+
 TEST(EditorLeaving, TheRecogniserGoesWithTheLockScreenAndComesBackOnce)
 {
     auto phone = settledWith();
@@ -209,4 +231,44 @@ TEST(EditorLeaving, TheBatteryButtonGoesWithTheLightAndComesWithIt)
     phone.send({{"id", "_buttonCL"}}, "setHidden:", {true});
     phone.call("phone.wake");
     EXPECT_TRUE(phone.view("_buttonCL").hidden) << "light on a lit screen arms nothing";
+}
+
+TEST(EditorLeaving, TheBatteryButtonsFollowAChangeOfTheModeOnALitLockScreenOnly)
+{
+    const auto setMode = [](Phone& phone, bool on) {
+        phone.send({{"id", "stock.battery"}}, "setSaverModeActive:", {on});
+    };
+    const auto shown
+        = [](Phone& phone) { return std::pair(!phone.view("_buttonCL").hidden, !phone.view("_buttonCL2").hidden); };
+    auto phone = settledWith();
+    setMode(phone, true);
+    EXPECT_EQ(shown(phone), std::pair(false, true));
+    phone.send({{"id", "_buttonCL2"}}, "setHidden:", {true});
+    setMode(phone, true);
+    EXPECT_EQ(shown(phone), std::pair(false, false)) << "told the same again";
+    setMode(phone, false);
+    EXPECT_EQ(shown(phone), std::pair(true, false));
+
+    phone.call("phone.lock");
+    EXPECT_EQ(shown(phone), std::pair(false, false));
+    setMode(phone, false);
+    setMode(phone, true);
+    EXPECT_EQ(shown(phone), std::pair(false, false)) << "in the dark";
+    EXPECT_EQ(phone.global("_isLPM"), true);
+    phone.call("phone.wake");
+    EXPECT_EQ(shown(phone), std::pair(false, true)) << "the light brings the one of the present mode";
+
+    phone.call("phone.lock");
+    setMode(phone, false);
+    phone.call("phone.wake");
+    EXPECT_EQ(shown(phone), std::pair(true, false)) << "and takes the other away";
+}
+
+TEST(EditorLeaving, ThePluggedInPhonesChargingViewBringsNoBatteryButtonBack)
+{
+    auto phone = settledWith();
+    phone.send({{"id", "_buttonCL"}}, "setHidden:", {true});
+    phone.call("phone.charge", {{"charging", true}});
+    EXPECT_TRUE(phone.has("stock.charging.battery"));
+    EXPECT_TRUE(phone.view("_buttonCL").hidden);
 }

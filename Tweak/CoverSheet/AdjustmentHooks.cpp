@@ -3,7 +3,10 @@
 #include "Platform/ObjC/Hook.hpp"
 #include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
 #include "Tweak/Editor/BatterySaverButtons.hpp"
+#include "Tweak/Lifecycle/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
+
+#include <utility>
 
 namespace LYR {
 
@@ -66,8 +69,10 @@ void NCNotificationListSectionRevealHintView_didMoveToWindow(UI::View self, SEL 
 void UIBatteryView_setSaverModeActive(UI::View self, SEL cmd, bool active)
 {
     stock<UIBatteryView_setSaverModeActive>(self, cmd, active);
-    _isLPM = active;
-    showBatterySaverState();
+    const bool changed = std::exchange(_isLPM, active) != active;
+    // In the dark the buttons stay away; the light brings the one of the present mode.
+    if (changed && _screenOn)
+        showBatterySaverState();
 }
 
 void CSTeachableMomentsContainerViewController_updateText(UI::ViewController self, SEL cmd, NS::String text)

@@ -22,14 +22,20 @@ const NS::String& reason()
     return "LYR"_ns;
 }
 
+/// Lets the screen go dark by itself again.
+void releaseScreen()
+{
+    GetDashBoardIdleTimerProvider().removeDisabledIdleTimerAssertionReason(reason());
+}
+
 /// What the user picks in the editor comes from the stored colours and the picked font.
 void chooseEditedSources()
 {
     constexpr struct {
         const char* key;
         const char* value;
-    } sources[] = {
-        {"colorTime", "4"}, {"colorDate", "4"}, {"colorWidget", "5"}, {"colorTextWidget", "4"}, {"customFont", "5"}};
+    } sources[]
+        = {{"colorTime", "4"}, {"colorDate", "4"}, {"colorWidget", "5"}, {"colorTextWidget", "4"}, {"customFont", "5"}};
     for (const auto& source : sources)
         _preferences->setObject(NS::String::fromUTF8(source.value), NS::String::fromUTF8(source.key));
 }
@@ -100,7 +106,7 @@ void CSCoverSheetViewController_showLongPress(
 
 void CSCoverSheetViewController_doneButton(CS::CoverSheetViewController, SEL, ObjC::Object)
 {
-    GetDashBoardIdleTimerProvider().removeDisabledIdleTimerAssertionReason(reason());
+    releaseScreen();
     dateView->updateView();
     _notifVC->scrollView().setHidden(false);
     setActiveTab(std::nullopt);
@@ -110,6 +116,8 @@ void CSCoverSheetViewController_doneButton(CS::CoverSheetViewController, SEL, Ob
 
 void leaveEditor()
 {
+    releaseScreen();
+    _alertView->setHidden(true);
     setActiveTab(std::nullopt);
     animateOverlay(parkOverlay, takeOverlayAway);
 }
