@@ -73,7 +73,8 @@ TEST(FontNotice, WithFilzaItsFolderOpensAndNothingElse)
     phone.takeLog();
     phone.tap("_openFolder");
     const auto records = phone.takeLog();
-    EXPECT_EQ(journalOf(records), (Journal{"sound 1519", "home button", "open " + filza, "animation 0.5 0.0 65536"}))
+    EXPECT_EQ(journalOf(records),
+        (Journal{"sound 1519", "home button", "open " + filza, "idle timer: remove LYR", "animation 0.5 0.0 65536"}))
         << "and the lock screen is left";
     const auto asked = std::count_if(
         records.begin(), records.end(), [](const Json& record) { return record.at("kind") == "canOpenURL"; });
