@@ -1,7 +1,9 @@
-// Counts the colours in a flat table and takes the winners by single walks over the colours that remain.
+// Counts the colours in a flat table, and their cells in another, and takes the winners by single walks over the
+// colours that remain.
 #include "WKSPalette/PalettePick.hpp"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <vector>
 
@@ -15,12 +17,15 @@ constexpr WKSColor white{255, 255, 255, 255};
 struct Candidate {
     WKSColor color;
     std::uint32_t count;
+    std::uint32_t countInCell = 0;
 };
 
 constexpr bool ranksAbove(const Candidate& left, const Candidate& right)
 {
     if (left.count != right.count)
         return left.count > right.count;
+    if (left.countInCell != right.countInCell)
+        return left.countInCell > right.countInCell;
     return left.color.packed() < right.color.packed();
 }
 
@@ -48,6 +53,22 @@ std::vector<Candidate> countColors(std::span<const WKSColor> pixels)
     return candidates;
 }
 
+/// Colours share a cell if their red, green and blue begin with the same four bits.
+constexpr std::size_t cellOf(WKSColor color)
+{
+    return std::size_t{color.r} >> 4 << 8 | std::size_t{color.g} >> 4 << 4 | std::size_t{color.b} >> 4;
+}
+
+/// In a photograph nearly every colour occurs once; how many pixels are like it tells them apart.
+void countCells(std::vector<Candidate>& candidates)
+{
+    std::array<std::uint32_t, 1 << 12> counts{};
+    for (const Candidate& candidate : candidates)
+        counts[cellOf(candidate.color)] += candidate.count;
+    for (Candidate& candidate : candidates)
+        candidate.countInCell = counts[cellOf(candidate.color)];
+}
+
 template <class Test>
 const Candidate* mostFrequent(const std::vector<Candidate>& candidates, Test test)
 {
@@ -71,6 +92,7 @@ WKSColor pickBackground(const std::vector<Candidate>& candidates)
 PickedColors pickPalette(std::span<const WKSColor> pixels)
 {
     std::vector<Candidate> candidates = countColors(pixels);
+    countCells(candidates);
     WKSColor background = pickBackground(candidates);
     bool textIsDark = !background.isDark();
 
