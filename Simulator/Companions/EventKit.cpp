@@ -3,6 +3,7 @@
 
 #include "Simulator/Companions/Registrations.hpp"
 #include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 #include "Simulator/SpringBoard/DeviceState.hpp"
 
 #include <algorithm>
@@ -73,6 +74,8 @@ class EKEventStore : public StandIn {
 public:
     using Root = EKEventStore;
 
+    void init() { ExtensionCounts::shared().add(Count::CalendarStores); }
+
     NS::Object predicateForEvents(const NS::Date& start, const NS::Date& end, const NS::Object&)
     {
         const auto predicate = EventPredicate::make();
@@ -84,6 +87,7 @@ public:
 
     NS::Array eventsMatchingPredicate(const NS::Object& predicate)
     {
+        ExtensionCounts::shared().add(Count::CalendarQueries);
         const auto events = NS::MutableArray::make();
         const auto* interval = standInOrNull<EKEventPredicate>(predicate);
         if (!interval)
@@ -113,6 +117,7 @@ void registerEventKit()
         .add();
     Binder<EKEventPredicate>("EKEventPredicate", "NSObject").add();
     Binder<EKEventStore>("EKEventStore", "NSObject")
+        .init<"init", &EKEventStore::init>()
         .def<"predicateForEventsWithStartDate:endDate:calendars:", &EKEventStore::predicateForEvents>()
         .def<"eventsMatchingPredicate:", &EKEventStore::eventsMatchingPredicate>()
         .add();

@@ -2,6 +2,7 @@
 
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Foundation/PropertyListObjects.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 
 #include <cmath>
 
@@ -96,6 +97,7 @@ NS::Object valueOfJson(const Json& json)
 
 NS::Dictionary dictionaryInFile(const std::string& phonePath)
 {
+    const OwnWork own;
     const auto file = PhoneFiles::shared().read(phonePath);
     const auto list = file ? readPropertyList(file.value) : std::nullopt;
     const NS::Object object(list ? objectOf(*list) : ObjC::Object());

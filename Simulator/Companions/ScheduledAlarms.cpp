@@ -3,6 +3,7 @@
 
 #include "Simulator/Companions/Registrations.hpp"
 #include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 #include "Simulator/SpringBoard/DeviceState.hpp"
 
 namespace Simulator {
@@ -34,6 +35,7 @@ public:
 
     SB::ScheduledAlarm nextAlarm() const
     {
+        ExtensionCounts::shared().add(Count::AlarmReads);
         return nextFireMoment() ? SB::ScheduledAlarm::make() : SB::ScheduledAlarm();
     }
 };

@@ -6,6 +6,7 @@
 #include "Simulator/Companions/Registrations.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 #include "Simulator/SpringBoard/DeviceState.hpp"
 
 #include <fstream>
@@ -55,7 +56,11 @@ public:
         return manager;
     }
 
-    void refreshWeatherData() { ActivityLog::shared().record("weatherRefresh"); }
+    void refreshWeatherData()
+    {
+        ExtensionCounts::shared().add(Count::WeatherRequests);
+        ActivityLog::shared().record("weatherRefresh");
+    }
 
     NS::Dictionary weatherData() const
     {

@@ -105,7 +105,7 @@ std::vector<Method> lookingMethods()
             {{"target", target(), required}, {"selector", nonEmptyText(), required}, {"args", listOf(anything())},
                 {"super", boolean()}}},
         {"objc.new", {{"class", nonEmptyText(), required}, {"name", nonEmptyText(), required}}}, {"objc.hooks", {}},
-        {"global.get", {{"name", nonEmptyText(), required}}}, {"log.take", {}},
+        {"global.get", {{"name", nonEmptyText(), required}}}, {"log.take", {}}, {"counts.take", {}},
         {"screen.capture", {{"path", hostDestination()}}}};
 }
 

@@ -6,6 +6,7 @@
 #include "Simulator/CoreGraphics/CGFont.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 #include "Simulator/UIKit/Fonts.hpp"
 
 #include <array>
@@ -45,6 +46,13 @@ bool concluded(const Graphics::RegistrationResult& result, const std::string& su
                     + text.reason + ": '" + subject + "')"));
     }
     return false;
+}
+
+/// Every attempt counts, since each is work for the text system.
+void recordRegistration(const char* key, const std::string& subject, const Graphics::RegistrationResult& result)
+{
+    ExtensionCounts::shared().add(Count::FontRegistrations);
+    ActivityLog::shared().record("registerFont", {{key, subject}, {"ok", static_cast<bool>(result)}});
 }
 
 std::string pathOf(id url)
@@ -98,7 +106,7 @@ extern "C" {
 {
     const std::string path = pathOf(url);
     const auto result = registerFile(path);
-    ActivityLog::shared().record("registerFont", {{"path", path}, {"ok", static_cast<bool>(result)}});
+    recordRegistration("path", path, result);
     return concluded(result, path, error);
 }
 
@@ -117,7 +125,7 @@ extern "C" {
         result.error = RegistrationError::AlreadyRegistered;
     else if (object)
         result = fontCatalogue().registerData(object->bytes());
-    ActivityLog::shared().record("registerFont", {{"name", name}, {"ok", static_cast<bool>(result)}});
+    recordRegistration("name", name, result);
     return concluded(result, name, error);
 }
 

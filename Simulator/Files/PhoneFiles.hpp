@@ -71,6 +71,8 @@ public:
     void clearFaults() { _faults.clear(); }
     int fault(std::string_view phonePath, FileOperation) const;
     void setWriteObserver(WriteObserver observer) { _observer = std::move(observer); }
+    /// Called for every file that the shell opens to read it.
+    void setOpenObserver(std::function<void()> observer) { _openObserver = std::move(observer); }
 
 private:
     /// The host path by the text alone.
@@ -88,6 +90,7 @@ private:
     mutable Descriptor _rootFolder{-1};
     std::map<std::pair<std::string, FileOperation>, int> _faults;
     WriteObserver _observer;
+    std::function<void()> _openObserver = [] {};
     mutable RecentContents _recent;
 };
 

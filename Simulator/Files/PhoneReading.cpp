@@ -71,7 +71,10 @@ FileResult<std::string> PhoneFiles::read(std::string_view phonePath) const
 {
     if (const int error = fault(phonePath, FileOperation::Read))
         return {{}, error};
-    return fetch(phonePath);
+    auto file = fetch(phonePath);
+    if (file)
+        _openObserver();
+    return file;
 }
 
 FileResult<std::string> PhoneFiles::fetch(std::string_view phonePath) const
@@ -89,6 +92,7 @@ FileResult<PhoneFiles::Content> PhoneFiles::load(std::string_view phonePath) con
     auto file = opened ? plainFile(std::move(opened.value)) : FileResult<OpenFile>{{}, opened.error};
     if (!file)
         return {{}, file.error};
+    _openObserver();
     const struct stat& status = file.value.status;
     if (!RecentContents::suits(status)) {
         const auto bytes = readAll(file.value.descriptor.number(), file.value.size());

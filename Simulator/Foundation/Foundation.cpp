@@ -7,6 +7,7 @@
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 
 namespace Simulator {
 
@@ -45,6 +46,7 @@ void registerFoundation()
     PhoneFiles::shared().setWriteObserver([](const std::string& path, int) {
         ActivityLog::shared().record("fileWrite", {{"path", path}});
     });
+    PhoneFiles::shared().setOpenObserver([] { ExtensionCounts::shared().add(Count::FileOpens); });
 }
 
 }

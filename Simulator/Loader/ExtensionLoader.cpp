@@ -5,6 +5,7 @@
 #include "Simulator/Loader/HookRecord.hpp"
 #include "Simulator/Loader/MachOImage.hpp"
 #include "Simulator/Loader/PhoneSymbols.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 
 #include <dlfcn.h>
 
@@ -29,6 +30,7 @@ ExtensionLoader& ExtensionLoader::shared()
 /// Whether the filter beside a library names the shell among the programs it is for.
 static bool isForShell(const std::string& filterPath)
 {
+    const OwnWork own;
     auto filter = NS::Dictionary::dictionaryWithContentsOfFile(NS::String::fromUTF8(filterPath));
     auto bundles = filter.objectForKey<NS::Dictionary>("Filter"_ns).objectForKey<NS::Array>("Bundles"_ns);
     for (unsigned long i = 0; i < bundles.count(); ++i)

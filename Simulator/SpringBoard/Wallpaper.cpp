@@ -1,6 +1,7 @@
 #include "Simulator/SpringBoard/Wallpaper.hpp"
 
 #include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 #include "Simulator/SpringBoard/Registrations.hpp"
 
 namespace Simulator {
@@ -30,6 +31,7 @@ Graphics::LayerContent SBFStaticWallpaperView::layerContent() const
 
 void SBFStaticWallpaperView::reload()
 {
+    const OwnWork own;
     self<UI::ImageView>().setImage(
         UI::Image::imageWithContentsOfFile("/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"_ns));
 }

@@ -1,13 +1,15 @@
-// log.*: what the extension asked of the phone.
+// log.*, counts.*: what the extension asked of the phone, and how often.
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
 #include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 
 namespace Simulator::Control {
 
 void addLogMethods(PhoneContext& context)
 {
     context.add("log.take", [](const Json&) { return Json{{"records", ActivityLog::shared().take()}}; });
+    context.add("counts.take", [](const Json&) { return Json{{"counts", ExtensionCounts::shared().take()}}; });
 }
 
 }

@@ -1,0 +1,42 @@
+#include "Simulator/Runtime/ExtensionCounts.hpp"
+
+#include <utility>
+
+namespace Simulator {
+
+// In the order of the enumeration.
+static constexpr const char* names[]
+    = {"fontRegistrations", "fileOpens", "calendarStores", "calendarQueries", "weatherRequests", "alarmReads"};
+
+ExtensionCounts& ExtensionCounts::shared()
+{
+    static ExtensionCounts counts;
+    return counts;
+}
+
+void ExtensionCounts::add(Count count, std::uint64_t amount)
+{
+    if (ownWork_ == 0)
+        counts_[static_cast<std::size_t>(count)] += amount;
+}
+
+ExtensionCounts::Json ExtensionCounts::take()
+{
+    static_assert(std::size(names) == countOfCounts, "every count has a name");
+    Json taken = Json::object();
+    for (std::size_t i = 0; i < countOfCounts; ++i)
+        taken[names[i]] = std::exchange(counts_[i], 0);
+    return taken;
+}
+
+OwnWork::OwnWork()
+{
+    ++ExtensionCounts::shared().ownWork_;
+}
+
+OwnWork::~OwnWork()
+{
+    --ExtensionCounts::shared().ownWork_;
+}
+
+}

@@ -1,0 +1,42 @@
+// How often the extension asked the phone for what costs time or power.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace Simulator {
+
+/// Each has its name in the table of names.
+enum class Count { FontRegistrations, FileOpens, CalendarStores, CalendarQueries, WeatherRequests, AlarmReads };
+
+class ExtensionCounts {
+public:
+    using Json = nlohmann::json;
+
+    static ExtensionCounts& shared();
+
+    void add(Count, std::uint64_t amount = 1);
+    /// All counts since the last call, by name.
+    Json take();
+
+private:
+    friend class OwnWork;
+    static constexpr std::size_t countOfCounts = static_cast<std::size_t>(Count::AlarmReads) + 1;
+
+    std::array<std::uint64_t, countOfCounts> counts_{};
+    int ownWork_ = 0;
+};
+
+/// While one of these stands, the shell or one of its libraries works on its own account, and nothing is counted.
+class OwnWork {
+public:
+    OwnWork();
+    ~OwnWork();
+    OwnWork(const OwnWork&) = delete;
+    OwnWork& operator=(const OwnWork&) = delete;
+};
+
+}
