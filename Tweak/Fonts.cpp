@@ -10,6 +10,9 @@
 #include "Platform/Foundation/NSURL.hpp"
 #include "Platform/UIKit/UIFont.hpp"
 
+#include <array>
+#include <iterator>
+
 namespace LYR {
 
 constinit ObjC::Variable<NS::Dictionary> matchDict;
@@ -31,6 +34,19 @@ struct BuiltInFont {
     ObjC::Variable<NS::String>* name;
 };
 
+/// Tells one file, and one state of it, from another. All zeros are what no file has.
+struct FileState {
+    unsigned long long size = 0;
+    unsigned long number = 0;
+    double modified = 0;
+    bool operator==(const FileState&) const = default;
+};
+
+FileState stateOf(const NS::FileAttributes& file)
+{
+    return {file.fileSize(), file.fileSystemFileNumber(), file.fileModificationDate().timeIntervalSinceReferenceDate()};
+}
+
 // In the order of loading.
 const BuiltInFont builtInFonts[] = {
     {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time1.ttf"_ns; }, &_font1},
@@ -39,6 +55,9 @@ const BuiltInFont builtInFonts[] = {
     {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time4.ttf"_ns; }, &_font4},
     {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/date.ttf"_ns; }, &_font5},
 };
+
+/// What each of them was like when it was read last.
+constinit std::array<FileState, std::size(builtInFonts)> readStates;
 
 void logFailure(const NS::String& prefix, id error)
 {
@@ -63,11 +82,16 @@ NS::String familyNameOf(const GraphicsFont& font)
     return textFont ? NS::String::adopting(CTFontCopyFamilyName(textFont.get())) : NS::String();
 }
 
-/// Reads and registers the font in a file; answers its PostScript name, or nil if the file holds no font.
-NS::String registerGraphicsFont(const NS::String& path)
+NS::Data readFont(const NS::String& path)
 {
     auto data = NS::Data::dataWithContentsOfFile(path);
     NS::log("Font path: "_ns.stringByAppendingString(path));
+    return data;
+}
+
+/// Registers the font in a file's bytes; answers its PostScript name, or nil if they are no font.
+NS::String registerGraphicsFont(const NS::Data& data)
+{
     GraphicsFont font = graphicsFontFrom(data);
     id error = nullptr;
     if (!font || !CTFontManagerRegisterGraphicsFont(font.get(), &error))
@@ -104,7 +128,7 @@ void registerUserFonts()
         auto path = folder.stringByAppendingString(names.at<NS::String>(i));
         registerFile(path);
         enter(table, familyNameOf(graphicsFontFrom(NS::Data::dataWithContentsOfFile(path))), path);
-        enter(table, registerGraphicsFont(path), path);
+        enter(table, registerGraphicsFont(readFont(path)), path);
     }
     matchDict = table.copy();
 }
@@ -112,12 +136,16 @@ void registerUserFonts()
 void loadBuiltInFonts()
 {
     auto files = NS::FileManager::defaultManager();
-    for (const BuiltInFont& font : builtInFonts) {
-        auto path = font.path();
-        if (!files.fileExistsAtPath(path))
+    for (std::size_t i = 0; i < std::size(builtInFonts); ++i) {
+        auto path = builtInFonts[i].path();
+        auto state = stateOf(files.attributesOfItemAtPath(path));
+        if (state == readStates[i] || !files.fileExistsAtPath(path))
             continue;
-        if (auto name = registerGraphicsFont(path))
-            *font.name = name;
+        auto data = readFont(path);
+        if (auto name = registerGraphicsFont(data))
+            *builtInFonts[i].name = name;
+        // What could not be read is tried again.
+        readStates[i] = data ? state : FileState();
     }
 }
 

@@ -14,7 +14,7 @@ extern constinit ObjC::Variable<NS::MutableArray> availableFonts;
 
 /// Registers every file of the user's font folder and fills `matchDict`.
 void registerUserFonts();
-/// Registers the fonts of the resource folder and stores their names.
+/// Registers the fonts of the resource folder and stores their names. A file is read again only when it has changed.
 void loadBuiltInFonts();
 /// Gathers the installed fonts anew into `availableFonts` and answers their number.
 unsigned long rebuildAvailableFonts();
