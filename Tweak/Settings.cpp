@@ -4,7 +4,11 @@
 #include "Platform/Companions/SparkColourPickerUtils.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
 
+#include <algorithm>
+#include <charconv>
 #include <cmath>
+#include <string_view>
+#include <system_error>
 
 namespace LYR {
 
@@ -39,6 +43,35 @@ NS::String ObjectSetting::stringValue() const
     return value.send<NS::String, "stringValue">();
 }
 
+namespace {
+
+/// Digits, with a point among them or not.
+bool isDecimal(std::string_view text)
+{
+    return text.find_first_of("0123456789") != text.npos && text.find_first_not_of("0123456789.") == text.npos
+        && std::count(text.begin(), text.end(), '.') <= 1;
+}
+
+/// "#RRGGBB" or "#RRGGBB:opacity", read without the library; white for any other text.
+UI::Color colourOfText(std::string_view text)
+{
+    constexpr std::size_t length = 7;
+    unsigned packed = 0;
+    if (text.size() < length || text[0] != '#')
+        return UI::Color::whiteColor();
+    const char* end = text.data() + length;
+    if (auto [stop, error] = std::from_chars(text.data() + 1, end, packed, 16); error != std::errc() || stop != end)
+        return UI::Color::whiteColor();
+    auto opacity = text.substr(length);
+    if (!opacity.empty() && (opacity[0] != ':' || !isDecimal(opacity.substr(1))))
+        return UI::Color::whiteColor();
+    double alpha = opacity.empty() ? 1 : NS::String::fromUTF8(opacity.substr(1)).doubleValue();
+    const auto component = [packed](int shift) { return (packed >> shift & 0xff) / 255.0; };
+    return UI::Color::colorWithRed(component(16), component(8), component(0), std::min(alpha, 1.0));
+}
+
+}
+
 void loadPrefs()
 {
     _preferences = HB::Preferences::withIdentifier("com.ostrel.lyrprefs"_ns);
@@ -59,8 +92,10 @@ void loadColours()
 
 UI::Color storedColour(const NS::String& key)
 {
-    return Spark::ColourPickerUtils::colourWithString(
-        _preferencesDictionary->objectForKey<NS::String>(key), "#ffffff"_ns);
+    auto text = _preferencesDictionary->objectForKey<NS::String>(key);
+    if (auto colour = Spark::ColourPickerUtils::colourWithString(text, "#ffffff"_ns))
+        return colour;
+    return colourOfText(text.utf8());
 }
 
 }

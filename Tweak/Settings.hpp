@@ -106,7 +106,8 @@ extern constinit ObjC::Variable<NS::Dictionary> _preferencesDictionary;
 void loadPrefs();
 /// Reads the colour file into `_preferencesDictionary`; empty if there is none.
 void loadColours();
-/// A colour of the colour file as it was last read; white if it has none under that key.
+/// A colour of the colour file as it was last read; white if it has none under that key. The colour library reads the
+/// text, and where the phone has no such library we do.
 UI::Color storedColour(const NS::String& key);
 
 }

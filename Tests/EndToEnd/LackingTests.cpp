@@ -81,3 +81,28 @@ TEST(Lacking, AClassIsLookedUpInVainByTheExtensionAlone)
     EXPECT_EQ(phone.label("_timeLabel").text, "09.41");
     phone.call("objc.new", {{"class", "CSQuickActionsViewController"}, {"name", "stock"}});
 }
+
+// The texts that the library reads are read all the same; what is no colour is white.
+TEST(Lacking, WithoutTheColourLibraryTheColoursAreReadAndWhiteStandsForNone)
+{
+    auto phone = settled(eveningPhone({{"colorTime", "4"}, {"colorDate", "4"}, {"dateOption", "0"}})
+                             .with("lacking", {"SparkColourPickerUtils"})
+                             .colours(Json::object()));
+    EXPECT_EQ(phone.label("_timeLabel").textColour, "#FFFFFFFF");
+    EXPECT_EQ(phone.view("_SL").tint, "#FFFFFFFF");
+    EXPECT_EQ(phone.label("_sunLabel").textColour, "#FFFFFFFF");
+    const std::pair<Json, const char*> texts[]
+        = {{"#123456", "#123456FF"}, {"#fedcba", "#FEDCBAFF"}, {"#FF0000:0.5", "#FF000080"},
+            {"#00FF00:1.00", "#00FF00FF"}, {"#0000FF:0", "#0000FF00"}, {"#0000FF:.5", "#0000FF80"},
+            {"#0000FF:7", "#0000FFFF"}, {"#12345", "#FFFFFFFF"}, {"#1234567", "#FFFFFFFF"}, {"123456", "#FFFFFFFF"},
+            {"#12345G", "#FFFFFFFF"}, {"#0x1234", "#FFFFFFFF"}, {"#123456:", "#FFFFFFFF"}, {"#123456:.", "#FFFFFFFF"},
+            {"#123456:1.2.3", "#FFFFFFFF"}, {"#123456:-1", "#FFFFFFFF"}, {"#123456:half", "#FFFFFFFF"},
+            {"#123456 0.5", "#FFFFFFFF"}, {"", "#FFFFFFFF"}, {"reddish", "#FFFFFFFF"}, {5, "#FFFFFFFF"}};
+    for (const auto& [text, colour] : texts) {
+        phone.setColours({{"colourTime", text}, {"colourTextWidget", text}, {"colourWidget", text}});
+        refresh(phone);
+        EXPECT_EQ(phone.label("_timeLabel").textColour, colour) << text;
+        EXPECT_EQ(phone.label("_sunLabel").textColour, colour) << text;
+        EXPECT_EQ(phone.view("_SL").tint, colour) << text;
+    }
+}
