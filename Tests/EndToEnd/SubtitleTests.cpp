@@ -61,6 +61,43 @@ TEST(Subtitle, ADateGivesTheDateItsPlaceBack)
     EXPECT_EQ(phone.label("_dateLabel").frame, (Rectangle{7, 0, 345, 40}));
 }
 
+TEST(Subtitle, ADateThatIsSwitchedOffStaysAway)
+{
+    auto phone = settledWith({{"enableDate", false}});
+    writeSubtitle(phone, "Monday, 16 November");
+    EXPECT_TRUE(phone.label("_dateLabel").hidden);
+    writeSubtitle(phone, "12:34");
+    EXPECT_FALSE(phone.label("_timerLabel").hidden);
+    EXPECT_TRUE(phone.label("_dateLabel").hidden);
+    writeSubtitle(phone, "Monday, 16 November");
+    EXPECT_TRUE(phone.label("_timerLabel").hidden);
+    EXPECT_TRUE(phone.label("_dateLabel").hidden);
+}
+
+TEST(Subtitle, MidnightAndATimersEndBringNoDateThatIsSwitchedOff)
+{
+    auto phone = settled(Phone::at("2020-11-15T23:59:30").settings({{"enableDate", false}}));
+    phone.advance(60);
+    EXPECT_TRUE(phone.label("_dateLabel").hidden);
+    phone.call("phone.timer", {{"seconds", 5}});
+    phone.advance(1);
+    EXPECT_EQ(phone.global("isTimerRunning"), true);
+    phone.advance(60);
+    EXPECT_EQ(phone.global("isTimerRunning"), false);
+    EXPECT_TRUE(phone.label("_dateLabel").hidden);
+}
+
+TEST(Subtitle, ATimerWithoutItsIconIsTheTextAlone)
+{
+    auto phone = settledWith();
+    phone.call("file.remove", {{"path", "/Library/Application Support/lyr.bundle/SS16/timer.png"}});
+    writeSubtitle(phone, "12:34");
+    const auto line = phone.label("_timerLabel");
+    EXPECT_EQ(line.text, "12:34");
+    for (const Json& run : line.runs)
+        EXPECT_FALSE(run.contains("image")) << run;
+}
+
 TEST(Subtitle, ATextWithAPointAndAColonStandsThereTwice)
 {
     auto phone = settledWith();
@@ -99,10 +136,18 @@ TEST(Subtitle, AScreenOfFiveHundredPointsChangesNoFrame)
 {
     for (double width : {500, 501}) {
         auto phone = settled(eveningPhone().screen(width, 900, 1));
-        auto frame = phone.label("_dateLabel").frame;
+        const Rectangle frame{1, 2, 3, 4};
+        phone.send({{"id", "_dateLabel"}}, "setFrame:", Json::array({frame}));
         writeSubtitle(phone, "12:34");
-        EXPECT_EQ(phone.label("_dateLabel").frame, frame);
+        EXPECT_EQ(phone.label("_dateLabel").frame, frame) << width;
         EXPECT_TRUE(phone.label("_dateLabel").hidden);
         EXPECT_FALSE(phone.label("_timerLabel").hidden);
+        writeSubtitle(phone, "Sunday, 15 November");
+        EXPECT_EQ(phone.label("_dateLabel").frame, frame) << width;
+    }
+    for (double width : {499, 502}) {
+        auto phone = settled(eveningPhone().screen(width, 900, 1));
+        writeSubtitle(phone, "12:34");
+        EXPECT_EQ(phone.label("_dateLabel").frame[1], -3000) << width;
     }
 }

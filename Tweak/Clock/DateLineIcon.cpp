@@ -9,6 +9,8 @@ namespace LYR {
 
 NS::AttributedString dateLineIcon(const UI::Image& image)
 {
+    if (!image)
+        return NS::AttributedString::withString(""_ns);
     CGFloat side = 1.5 * _sizeDateLabel.intValue();
     // The halving is done in single precision, and whole points keep the icon's edges sharp.
     CGFloat y = std::trunc(static_cast<float>(_dateLabel->font().capHeight() - side) / 2.0f);

@@ -5,7 +5,7 @@
 
 namespace LYR {
 
-/// The image as a piece of the date line; an empty piece of the same size without an image.
+/// The image as a piece of the date line; nothing without an image.
 NS::AttributedString dateLineIcon(const UI::Image& image);
 
 }

@@ -4,6 +4,7 @@
 #include "Platform/ObjC/Hook.hpp"
 #include "Tweak/Clock/ClockLabels.hpp"
 #include "Tweak/Clock/DateLineIcon.hpp"
+#include "Tweak/Settings.hpp"
 #include "Tweak/TemplateImage.hpp"
 #include "Tweak/Views.hpp"
 
@@ -19,13 +20,13 @@ void removeLabel(const SB::FLockScreenDateSubtitleView& view, const char* name)
 NS::MutableAttributedString timerIcon()
 {
     auto line = NS::MutableAttributedString::withString(""_ns);
-    line.appendAttributedString(
-        dateLineIcon(templateThroughPNG(
-            UI::Image::imageNamed(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/timer.png"_ns))));
+    line.appendAttributedString(dateLineIcon(templateThroughPNG(
+        UI::Image::imageNamed(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/timer.png"_ns))));
     return line;
 }
 
-/// The timer's line takes the date's place if the text has the sign, and gives it back if not.
+/// The timer's line takes the date's place if the text has the sign, and gives it back if not. A date that is switched
+/// off stays away.
 void detectTimer(const NS::String& text, const NS::String& sign, const NS::MutableAttributedString& line)
 {
     isTimerRunning = text.containsString(sign);
@@ -34,7 +35,7 @@ void detectTimer(const NS::String& text, const NS::String& sign, const NS::Mutab
         _timerLabel->setAttributedText(line);
     }
     _timerLabel->setHidden(!isTimerRunning);
-    _dateLabel->setHidden(isTimerRunning);
+    _dateLabel->setHidden(isTimerRunning || !_enableDate);
     placeDateLabel();
 }
 
