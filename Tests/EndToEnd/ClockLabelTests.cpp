@@ -68,6 +68,25 @@ TEST(ClockLabels, AScreenOfFiveHundredPointsGetsNoFrameAtAll)
         EXPECT_NE(settled(eveningPhone().screen(width, 900, 1)).label("_timeLabel").frame, (Rectangle{0, 0, 0, 0}));
 }
 
+TEST(ClockLabels, ThereTheDateStaysWhereItIsWhateverPlacesIt)
+{
+    const Rectangle frame{1, 2, 3, 4};
+    for (double width : {500, 501}) {
+        auto phone = settled(eveningPhone().screen(width, 900, 1));
+        phone.send({{"id", "_dateLabel"}}, "setFrame:", Json::array({frame}));
+        refresh(phone);
+        EXPECT_EQ(phone.label("_dateLabel").frame, frame) << width;
+        phone.send({{"instance", "SBFLockScreenDateView"}}, "_updateLabels");
+        EXPECT_EQ(phone.label("_dateLabel").frame, frame) << width;
+    }
+    for (auto [width, labels] : {std::pair{499.0, 469.0}, {502.0, 870.0}}) {
+        auto phone = settled(eveningPhone().screen(width, 900, 1));
+        phone.send({{"id", "_dateLabel"}}, "setFrame:", Json::array({frame}));
+        phone.send({{"instance", "SBFLockScreenDateView"}}, "_updateLabels");
+        EXPECT_EQ(phone.label("_dateLabel").frame, (Rectangle{7, 0, labels, 40})) << width;
+    }
+}
+
 TEST(ClockLabels, OffsetsMoveThemAndFractionsCount)
 {
     auto phone

@@ -4,7 +4,7 @@
 namespace {
 
 const Json sunny = {{"temperature", "21°"}, {"high", "24°"}, {"low", "15°"}, {"conditions", "Partly Cloudy"},
-    {"location", "Haifa"}, {"sunrise", "6:12"}, {"sunset", "16:41"}};
+    {"location", "Haifa"}, {"sunrise", "6:12"}, {"sunset", "16:41"}, {"image", LYR_GOLDEN_FOLDER "/weather.png"}};
 
 const Json dentist = Json::array({{{"title", "Dentist"}, {"start", "2020-11-16T09:30:00"}}});
 
@@ -93,13 +93,34 @@ TEST(DateLine, EveryOptionWithAValueForIt)
 TEST(DateLine, EveryOptionWithoutAValueForIt)
 {
     const std::string icon = std::string(" ") + attachment;
-    const std::string dateAndIcon = "Sun,Nov 15" + icon;
-    const std::vector<std::string> expected = {"Sun,Nov 15", dateAndIcon, dateAndIcon, dateAndIcon, dateAndIcon,
-        "Sun,Nov 15 • Sun, 29 Rab. I 1442 AH", dateAndIcon + "No Alarms", dateAndIcon + "No events today"};
+    const std::string date = "Sun,Nov 15";
+    const std::vector<std::string> expected = {date, date, date, date, date, date + " • Sun, 29 Rab. I 1442 AH",
+        date + icon + "No Alarms", date + icon + "No events today"};
     std::vector<std::string> lines;
     for (int option = 0; option < 8; ++option)
         lines.push_back(dateLineWith({{"dateOption", std::to_string(option)}}));
     EXPECT_EQ(lines, expected);
+}
+
+TEST(DateLine, AnItemWithoutAnIconHasNothingInItsPlace)
+{
+    const std::vector<std::string> expected
+        = {"Sun,Nov 15", "Sun,Nov 1521°", "Sun,Nov 15H:24 L:15", "Sun,Nov 15Partly Cloudy", "Sun,Nov 15Haifa",
+            "Sun,Nov 15 • Sun, 29 Rab. I 1442 AH", "Sun,Nov 15 6:30 AM", "Sun,Nov 15 9:30AM Dentist"};
+    auto weather = sunny;
+    weather.erase("image");
+    auto phone = settled(fullPhone(Json::object()).weather(weather));
+    for (const char* icon : {"alarm", "calendar"})
+        phone.call(
+            "file.remove", {{"path", std::string("/Library/Application Support/lyr.bundle/SS16/") + icon + ".png"}});
+    for (int option = 0; option < 8; ++option) {
+        phone.set({{"dateOption", std::to_string(option)}});
+        refresh(phone);
+        const auto line = phone.label("_dateLabel");
+        EXPECT_EQ(line.text, expected[static_cast<std::size_t>(option)]);
+        for (const Json& run : line.runs)
+            EXPECT_FALSE(run.contains("image")) << run;
+    }
 }
 
 // "Y" is the year of the week: the Buddhist calendar does not shift it.
@@ -190,6 +211,19 @@ TEST(DateLine, TheQuickRefreshNeverTouchesIt)
     EXPECT_EQ(phone.label("_dateLabel").text, "yesterday");
     refresh(phone);
     EXPECT_EQ(phone.label("_dateLabel").text, "Sun,Nov 15");
+}
+
+TEST(DateLine, TheQuickRefreshLeavesItAcrossMidnight)
+{
+    auto phone = settledWith({{"dateOption", "0"}});
+    phone.call("clock.set", {{"time", "2020-11-16T00:00:00"}});
+    phone.send({{"id", "_dateLabel"}}, "setText:", {"Sun,Nov 15"});
+    phone.send({{"instance", "SBFLockScreenDateViewController"}}, "requestUpdateTime");
+    phone.advance(0.02);
+    EXPECT_EQ(phone.label("_timeLabel").text, "12.00");
+    EXPECT_EQ(phone.label("_dateLabel").text, "Sun,Nov 15");
+    refresh(phone);
+    EXPECT_EQ(phone.label("_dateLabel").text, "Mon,Nov 16");
 }
 
 TEST(DateLine, FollowsAcrossMidnight)

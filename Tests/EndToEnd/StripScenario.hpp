@@ -22,12 +22,11 @@ inline void updateLabels(Phone& phone)
     phone.send({{"instance", "SBFLockScreenDateView"}}, "_updateLabels");
 }
 
-/// The settings as the settings pane stores them, and the refresh and label update that follow.
+/// The settings as the settings pane stores them, and the refresh that follows.
 inline void change(Phone& phone, const Json& settings)
 {
     phone.set(settings);
     refresh(phone);
-    updateLabels(phone);
 }
 
 inline void setDevice(Phone& phone, const Json& device)

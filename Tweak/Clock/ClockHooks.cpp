@@ -16,7 +16,7 @@ namespace {
 void refreshFully(const SB::FLockScreenDateViewController& controller)
 {
     auto moment = NS::Date::date();
-    auto items = itemsAt(moment);
+    Items items(moment);
     auto time = timeText(moment);
     styleClockLabels(controller);
     refreshStrip(items);
@@ -28,8 +28,10 @@ void refreshFully(const SB::FLockScreenDateViewController& controller)
 
 void refreshQuickly(const SB::FLockScreenDateViewController&)
 {
-    _timeLabel->setText(timeText(NS::Date::date()));
-    placeStrip();
+    auto moment = NS::Date::date();
+    Items items(moment);
+    _timeLabel->setText(timeText(moment));
+    placeStrip(items);
 }
 
 /// Runs on the main queue with the controller that asked, which was kept alive until now.
@@ -56,9 +58,10 @@ void SBFLockScreenDateView_updateLabels(SB::FLockScreenDateView self, SEL cmd)
 {
     stock<SBFLockScreenDateView_updateLabels>(self, cmd);
     auto moment = NS::Date::date();
+    Items items(moment);
     _timeLabel->setText(timeText(moment));
-    placeStrip();
-    updateDateLine(moment, itemsAt(moment));
+    placeStrip(items);
+    updateDateLine(moment, items);
     settleTimerAndDate();
 }
 

@@ -8,22 +8,11 @@
 #include "Tweak/Views.hpp"
 
 #include <array>
+#include <optional>
 
 namespace LYR {
 
 namespace {
-
-/// The date and what may follow it, all in one letter case but for the temperature.
-struct DateLineTexts {
-    NS::String date;
-    NS::String temperature;
-    NS::String highLow;
-    NS::String condition;
-    NS::String location;
-    std::array<NS::String, 4> alternateDates;
-    NS::String alarm;
-    NS::String event;
-};
 
 enum class DateOption { dateOnly, temperature, highLow, condition, location, alternateDate, alarm, event };
 
@@ -40,63 +29,32 @@ NS::String formattedGregorian(const NS::Date& moment, const NS::String& pattern)
     return formatted(moment, pattern, NS::Calendar::calendarWithIdentifier("gregorian"_ns));
 }
 
-/// The moment in the Hebrew, Chinese, Islamic and Buddhist calendar: the order of `alternateOption`.
-std::array<NS::String, 4> alternateDates(const NS::Date& moment)
+/// The moment in the Hebrew, Chinese, Islamic or Buddhist calendar: the order of `alternateOption`, from 1 on.
+NS::String alternateDate(const NS::Date& moment, int option)
 {
     const std::array<id, 4> identifiers{NSCalendarIdentifierHebrew, NSCalendarIdentifierChinese,
         NSCalendarIdentifierIslamicCivil, NSCalendarIdentifierBuddhist};
-    auto pattern = _alternateFormat.stringValue();
-    std::array<NS::String, 4> dates;
-    for (std::size_t i = 0; i < dates.size(); ++i)
-        dates[i] = formatted(moment, pattern, NS::Calendar::withIdentifier(NS::String(identifiers[i])));
-    return dates;
+    auto calendar = NS::Calendar::withIdentifier(NS::String(identifiers[static_cast<std::size_t>(option - 1)]));
+    return formatted(moment, _alternateFormat.stringValue(), calendar);
 }
 
-DateLineTexts gatherTexts(const NS::Date& moment, const Items& items)
-{
-    DateLineTexts texts;
-    texts.date = formattedGregorian(moment, _dateFormat.stringValue());
-    texts.alternateDates = alternateDates(moment);
-    texts.temperature = items.weather.temperature;
-    texts.highLow = items.weather.highLow;
-    texts.condition = items.weather.condition;
-    texts.location = items.weather.location;
-    texts.alarm = items.alarm.text();
-    texts.event = items.event;
-    return texts;
-}
-
+/// How the line is written; none leaves the texts as they stand.
 using LetterCase = NS::String (NS::String::*)() const;
 
-/// Applies the style to all but the temperature. False for a style that does not exist.
-bool applyStyle(DateLineTexts& texts, int style)
+/// Nothing for a style that does not exist.
+std::optional<LetterCase> letterCaseOf(int style)
 {
     constexpr LetterCase letterCases[]
         = {&NS::String::uppercaseString, &NS::String::lowercaseString, &NS::String::capitalizedString, nullptr};
     if (style < 1 || style > 4)
-        return false;
-    LetterCase letterCase = letterCases[style - 1];
-    if (!letterCase)
-        return true;
-    for (NS::String* text :
-        {&texts.date, &texts.highLow, &texts.condition, &texts.location, &texts.alarm, &texts.event})
-        *text = (text->*letterCase)();
-    for (NS::String& date : texts.alternateDates)
-        date = (date.*letterCase)();
-    return true;
+        return std::nullopt;
+    return letterCases[style - 1];
 }
 
 /// A missing value is an empty text, since an attributed text cannot be made from nil.
 NS::MutableAttributedString attributed(const NS::String& text)
 {
     return NS::MutableAttributedString::withString(text ? text : ""_ns);
-}
-
-NS::AttributedString spaceAndIcon(const UI::Image& image)
-{
-    auto item = attributed(" "_ns);
-    item.appendAttributedString(dateLineIcon(image));
-    return item;
 }
 
 void setLine(const NS::String& date, std::initializer_list<NS::AttributedString> items)
@@ -107,39 +65,50 @@ void setLine(const NS::String& date, std::initializer_list<NS::AttributedString>
     _dateLabel->setAttributedText(line);
 }
 
-void setAlternateDateLine(const DateLineTexts& texts)
+/// Nothing stands between the date and the text but what the text carries itself.
+void setWeatherLine(const NS::String& date, const NS::String& text, const UI::Image& icon)
 {
-    int option = _alternateOption.intValue();
-    if (option < 1 || option > 4)
-        return;
-    auto item = attributed(" • "_ns);
-    item.appendAttributedString(attributed(texts.alternateDates[option - 1]));
-    setLine(texts.date, {item});
+    setLine(date, {attributed(text), attributed(icon ? " "_ns : ""_ns), dateLineIcon(icon)});
 }
 
-/// Nothing stands between the date and an item but what the item's text carries itself.
-void setDateLine(const DateLineTexts& texts, const WeatherItems& weather)
+void setAgendaLine(const NS::String& date, const UI::Image& icon, const NS::String& text)
 {
-    const auto weatherLine = [&](const NS::String& item) {
-        setLine(texts.date, {attributed(item), spaceAndIcon(weather.icon)});
-    };
-    switch (static_cast<DateOption>(_dateOption.intValue())) {
+    setLine(date, {attributed(" "_ns), dateLineIcon(icon), attributed(text)});
+}
+
+/// The option that is shown: a line that is switched off has no item for which somebody would have to be asked.
+DateOption shownOption()
+{
+    auto option = static_cast<DateOption>(_dateOption.intValue());
+    const bool asks = (option >= DateOption::temperature && option <= DateOption::location)
+        || option == DateOption::alarm || option == DateOption::event;
+    return asks && !_enableDate ? DateOption::dateOnly : option;
+}
+
+/// All but the temperature is in the chosen case.
+void setDateLine(const NS::Date& moment, LetterCase letterCase, Items& items)
+{
+    const auto cased = [&](const NS::String& text) { return letterCase ? (text.*letterCase)() : text; };
+    const auto date = cased(formattedGregorian(moment, _dateFormat.stringValue()));
+    switch (shownOption()) {
     case DateOption::dateOnly:
-        return _dateLabel->setText(texts.date);
+        return _dateLabel->setText(date);
     case DateOption::temperature:
-        return weatherLine(texts.temperature);
+        return setWeatherLine(date, items.weather().temperature, items.weather().icon);
     case DateOption::highLow:
-        return weatherLine(texts.highLow);
+        return setWeatherLine(date, cased(items.weather().highLow), items.weather().icon);
     case DateOption::condition:
-        return weatherLine(texts.condition);
+        return setWeatherLine(date, cased(items.weather().condition), items.weather().icon);
     case DateOption::location:
-        return weatherLine(texts.location);
+        return setWeatherLine(date, cased(items.weather().location), items.weather().icon);
     case DateOption::alternateDate:
-        return setAlternateDateLine(texts);
+        if (int option = _alternateOption.intValue(); option >= 1 && option <= 4)
+            setLine(date, {attributed(" • "_ns), attributed(cased(alternateDate(moment, option)))});
+        return;
     case DateOption::alarm:
-        return setLine(texts.date, {spaceAndIcon(alarmIcon()), attributed(texts.alarm)});
+        return setAgendaLine(date, alarmIcon(), cased(items.alarm().text()));
     case DateOption::event:
-        return setLine(texts.date, {spaceAndIcon(eventIcon()), attributed(texts.event)});
+        return setAgendaLine(date, eventIcon(), cased(items.event()));
     }
 }
 
@@ -150,11 +119,10 @@ NS::String timeText(const NS::Date& moment)
     return formattedGregorian(moment, _twentyFourTime ? "H:mm"_ns : _timeFormat.stringValue());
 }
 
-void updateDateLine(const NS::Date& moment, const Items& items)
+void updateDateLine(const NS::Date& moment, Items& items)
 {
-    DateLineTexts texts = gatherTexts(moment, items);
-    if (applyStyle(texts, _styleDate.intValue()))
-        setDateLine(texts, items.weather);
+    if (auto letterCase = letterCaseOf(_styleDate.intValue()))
+        setDateLine(moment, *letterCase, items);
 }
 
 }

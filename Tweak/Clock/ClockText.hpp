@@ -10,7 +10,8 @@ namespace LYR {
 /// The time as `timeFormat` or, with `twentyFourTime`, "H:mm" has it.
 NS::String timeText(const NS::Date& moment);
 
-/// Sets the date line. Settings that name no style or no option leave it as it is.
-void updateDateLine(const NS::Date& moment, const Items& items);
+/// Sets the date line. Settings that name no style or no option leave it as it is; a line that is switched off has no
+/// item that somebody would have to be asked for.
+void updateDateLine(const NS::Date& moment, Items& items);
 
 }

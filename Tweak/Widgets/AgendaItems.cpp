@@ -31,13 +31,20 @@ NS::String joined(const NS::String& first, const NS::String& second)
     return first.stringByAppendingString(" "_ns).stringByAppendingString(second);
 }
 
+/// The way to the calendar, opened when it is first needed. It is dear, so there is one for the process.
+constinit ObjC::Variable<EK::EventStore> eventStore;
+
 EK::Event firstEvent(const NS::Date& now)
 {
-    auto store = EK::EventStore::make();
-    auto end = NS::Calendar::currentCalendar().dateByAddingUnit(NS::CalendarUnit::day, _rangeEvent.intValue(), now);
+    const int days = _rangeEvent.intValue();
+    if (days <= 0)
+        return {};
+    auto end = NS::Calendar::currentCalendar().dateByAddingUnit(NS::CalendarUnit::day, days, now);
     if (!end)
         return {};
-    return store.eventsMatchingPredicate(store.predicateForEvents(now, end)).firstObject<EK::Event>();
+    if (!eventStore)
+        eventStore = EK::EventStore::make();
+    return eventStore->eventsMatchingPredicate(eventStore->predicateForEvents(now, end)).firstObject<EK::Event>();
 }
 
 }

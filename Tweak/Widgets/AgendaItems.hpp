@@ -18,7 +18,7 @@ struct AlarmItem {
 
 AlarmItem nextAlarm();
 /// The first event from `now` on within `rangeEvent` days: "9:30PM Dentist", "21:30 Dentist", the bare title of one
-/// that lasts all day, "No events today".
+/// that lasts all day, "No events today". Without a day to look at, the calendar is not asked.
 NS::String firstEventText(const NS::Date& now);
 
 UI::Image alarmIcon();

@@ -103,21 +103,49 @@ UI::Image sunsetIcon()
     return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/down.png"_ns);
 }
 
-void refreshAgendaSlot(const Items& items)
+void refreshAgendaSlot(Items& items)
 {
     auto option = chosen(_sunOption, AgendaOption::sunrise, AgendaOption::event);
     if (!option)
         return;
     switch (*option) {
     case AgendaOption::sunrise:
-        return showAgenda(sunriseIcon(), sunsetIcon(), {}, items.weather.sunrise);
+        return showAgenda(sunriseIcon(), sunsetIcon(), {}, items.weather().sunrise);
     case AgendaOption::sunset:
-        return showAgenda(sunsetIcon(), sunriseIcon(), {}, items.weather.sunset);
+        return showAgenda(sunsetIcon(), sunriseIcon(), {}, items.weather().sunset);
     case AgendaOption::alarm:
-        return showAgenda(alarmIcon(), {}, items.alarm.marker, items.alarm.time);
+        return showAgenda(alarmIcon(), {}, items.alarm().marker, items.alarm().time);
     case AgendaOption::event:
-        return showAgenda(eventIcon(), {}, {}, items.event);
+        return showAgenda(eventIcon(), {}, {}, items.event());
     }
+}
+
+void showChosenViews()
+{
+    auto weather = weatherOption();
+    if (auto battery = batteryOption())
+        showBatteryViews(*battery, weather);
+    if (weather)
+        showWeatherViews(*weather);
+}
+
+bool isStripShown()
+{
+    return _widgetView && !_widgetView->isHidden();
+}
+
+bool isAgendaShown()
+{
+    return isStripShown() && !_SL->isHidden();
+}
+
+/// A strip or a slot that is hidden asks nobody for its contents.
+void refreshShownSlots(Items& items)
+{
+    if (isStripShown())
+        refreshWeatherSlot(items.weather());
+    if (isAgendaShown())
+        refreshAgendaSlot(items);
 }
 
 }
@@ -127,26 +155,26 @@ void createStrip(const CS::CoverSheetViewController& controller)
     if (!_widgetView)
         buildStripViews();
     controller.view().addSubview(_widgetView.reference());
-    placeStrip();
-}
-
-void placeStrip()
-{
-    auto weather = weatherOption();
-    if (auto battery = batteryOption())
-        showBatteryViews(*battery, weather);
-    if (weather)
-        showWeatherViews(*weather);
+    showChosenViews();
     placeSlots();
 }
 
-void refreshStrip(const Items& items)
+void placeStrip(Items& items)
+{
+    const bool wasAgendaShown = isAgendaShown();
+    showChosenViews();
+    if (isAgendaShown() && !wasAgendaShown)
+        refreshAgendaSlot(items);
+    placeSlots();
+}
+
+void refreshStrip(Items& items)
 {
     _widgetView->setHidden(!_showWidget);
     _widgetView->setTransform(CGAffineTransformMakeScale(_sizeWidget.doubleValue(), _sizeWidget.doubleValue()));
     colourStripViews();
-    refreshWeatherSlot(items.weather);
-    refreshAgendaSlot(items);
+    showChosenViews();
+    refreshShownSlots(items);
     refreshBatterySlot();
     placeSlots();
 }

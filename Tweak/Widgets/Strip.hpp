@@ -8,9 +8,9 @@ namespace LYR {
 
 /// Puts the strip onto the cover sheet. It is built at the first call and lives as long as the process.
 void createStrip(const CS::CoverSheetViewController& controller);
-/// Shows the views of the chosen presentations, and places the strip and what lies in it.
-void placeStrip();
-/// Visibility, scale, colours and contents.
-void refreshStrip(const Items& items);
+/// Shows the views of the chosen presentations, and places the strip and what lies in it. Fills a slot that comes back.
+void placeStrip(Items& items);
+/// Visibility, scale, colours, contents and places. What is hidden is not filled, but for the battery.
+void refreshStrip(Items& items);
 
 }
