@@ -22,7 +22,8 @@ std::map<std::string, Default> settings()
     LYR_SETTINGS(LYR_FLAG_ROW, LYR_OBJECT_ROW)
 #undef LYR_FLAG_ROW
 #undef LYR_OBJECT_ROW
-    for (const char* unread : {"amountEvent", "hlOption", "Ymedia", "listFont", "listFont2"})
+    for (const char* unread :
+        {"amountEvent", "hlOption", "Ymedia", "listFont", "listFont2", "colorWidget", "colorTextWidget"})
         table.erase(unread);
     return table;
 }
@@ -68,7 +69,7 @@ TEST_F(SettingsPages, ShowEverySettingOnceWithItsDefault)
         EXPECT_EQ(text(cell, "defaults"), "com.ostrel.lyrprefs") << key;
         EXPECT_EQ(text(cell, "PostNotification"), "com.ostrel.lyrprefs/ReloadPrefs") << key;
     }
-    EXPECT_EQ(shown.size(), 50u);
+    EXPECT_EQ(shown.size(), 48u);
     EXPECT_EQ(shown, settings());
 }
 
