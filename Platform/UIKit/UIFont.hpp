@@ -23,6 +23,7 @@ public:
     {
         return sendClass<NS::Array, "fontNamesForFamilyName:">(family);
     }
+    Font fontWithSize(CGFloat size) const { return send<Font, "fontWithSize:">(size); }
     NS::String fontName() const { return send<NS::String, "fontName">(); }
     NS::String familyName() const { return send<NS::String, "familyName">(); }
     CGFloat pointSize() const { return send<CGFloat, "pointSize">(); }

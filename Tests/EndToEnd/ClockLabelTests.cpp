@@ -132,7 +132,8 @@ TEST(ClockLabels, AFontCodeThatNamesNoneLeavesTheFontAsItWasMade)
 
 TEST(ClockLabels, AFontThatIsNotInstalledGivesTheSystemFont)
 {
-    auto phone = settledWith({{"customFont", "5"}, {"customFontPickerTime", "NoSuchFont"}, {"useCustomFont2", true}});
+    auto phone = settledWith({{"customFont", "5"}, {"customFontPickerTime", "NoSuchFont"}, {"useCustomFont2", true},
+        {"customFontPicker", "NoSuchFont"}});
     EXPECT_EQ(phone.label("_timeLabel").fontName.find("Inter"), 0u);
     EXPECT_EQ(phone.label("_dateLabel").fontName.find("Inter"), 0u);
 }

@@ -30,6 +30,13 @@ Support::Label chosenRow(Phone& phone, const std::string& picker)
     });
 }
 
+/// After a refresh.
+void expectFont(Phone& phone, const std::string& label, const std::string& name)
+{
+    refresh(phone);
+    EXPECT_EQ(phone.label(label).fontName, name) << label;
+}
+
 long rowsReported(Phone& phone, const Json& picker)
 {
     return phone.send(coverSheet, "pickerView:numberOfRowsInComponent:", {picker, 0});
@@ -125,6 +132,72 @@ TEST(FontPicker, StandsAtTheStoredFontWhenItsPanelOpens)
     EXPECT_EQ(other.picker("_pickerView1").selected, 0);
 }
 
+TEST(FontPicker, OpeningTheEditorKeepsTheFontOfTheTimeAndStandsAtIt)
+{
+    const std::string names[] = {"Lato-Thin", "Roboto-Black", "Quicksand-Medium", "RobotoCondensed-Light"};
+    for (int code = 1; code <= 4; ++code) {
+        auto phone = editing(editorPhone({{"customFont", std::to_string(code)}}));
+        const std::string& name = names[code - 1];
+        EXPECT_EQ(chosenRow(phone, "_pickerView1").text, name);
+        expectFont(phone, "_timeLabel", name);
+        EXPECT_EQ(phone.settings().at("customFont"), "5");
+        EXPECT_FALSE(phone.settings().contains("customFontPickerTime"));
+        phone.set({{"sizeTimeLabel", "50"}});
+        pressDone(phone);
+        phone.call("phone.lock");
+        phone.settle();
+        phone.call("phone.wake");
+        expectFont(phone, "_timeLabel", name);
+        EXPECT_EQ(phone.label("_timeLabel").fontSize, 50);
+        openEditor(phone);
+        EXPECT_EQ(chosenRow(phone, "_pickerView1").text, name);
+    }
+}
+
+TEST(FontPicker, TheDateKeepsItsFontUntilOneIsPicked)
+{
+    auto phone = editing();
+    phone.set({{"useCustomFont2", true}});
+    expectFont(phone, "_dateLabel", "Lato-Medium");
+    expectFont(phone, "_timerLabel", "Lato-Medium");
+    choose(phone, dateTab, fontSegment);
+    EXPECT_EQ(chosenRow(phone, "_pickerView1").text, "Lato-Medium");
+    phone.setControl("_pickerView1", 3);
+    const std::string picked = phone.global("availableFonts").at(3);
+    expectFont(phone, "_dateLabel", picked);
+    expectFont(phone, "_timeLabel", "Lato-Thin");
+    choose(phone, timeTab, fontSegment);
+    EXPECT_EQ(chosenRow(phone, "_pickerView1").text, "Lato-Thin");
+}
+
+TEST(FontPicker, AfterAStartWithNoFontPickedTheBuiltInOnesStand)
+{
+    auto phone = editing(editorPhone({{"customFont", "5"}, {"useCustomFont2", true}}));
+    expectFont(phone, "_timeLabel", "Lato-Thin");
+    expectFont(phone, "_dateLabel", "Lato-Medium");
+    EXPECT_EQ(chosenRow(phone, "_pickerView1").text, "Lato-Thin");
+}
+
+TEST(FontPicker, AFontThatIsGoneLeavesItsRowInTheSystemFont)
+{
+    // Another extension that lists a font which nobody has.
+    auto phone = editing(editorPhone()
+                             .installed({"AFont"})
+                             .file("/Library/MobileSubstrate/DynamicLibraries/AFont.dylib", LYR_UNKNOWN_FONT));
+    const Json fonts = phone.global("availableFonts");
+    const auto found = std::find(fonts.begin(), fonts.end(), "NoSuchFont");
+    ASSERT_NE(found, fonts.end());
+    const auto row = found - fonts.begin();
+    phone.send({{"id", "_pickerView1"}}, "selectRow:inComponent:animated:", {row, 0, false});
+    phone.settle(1);
+    const auto label = chosenRow(phone, "_pickerView1");
+    EXPECT_EQ(label.text, "NoSuchFont");
+    EXPECT_EQ(label.fontName.find("Inter"), 0u) << label.fontName;
+    const Json before = phone.settings();
+    phone.setControl("_pickerView1", row);
+    EXPECT_EQ(phone.settings(), before) << "there is nothing to choose";
+}
+
 TEST(FontPicker, RowsThatDoNotExistAreNoMatter)
 {
     auto phone = editing();
@@ -165,7 +238,7 @@ TEST(DateOptionPicker, EachRowShowsWhatTheDateLineWould)
     }
 }
 
-TEST(DateOptionPicker, AChoiceIsStoredPreviewedAndRedrawnEachTime)
+TEST(DateOptionPicker, AChoiceIsStoredAndRedrawnEachTime)
 {
     auto phone = editing(editorPhone().weather(weather));
     choose(phone, dateTab, dateOptionSegment);
@@ -173,11 +246,27 @@ TEST(DateOptionPicker, AChoiceIsStoredPreviewedAndRedrawnEachTime)
         for (int time = 0; time < 2; ++time) {
             phone.setControl("_pickerView2", row);
             EXPECT_EQ(takeJournal(phone), Journal{"set dateOption = \"" + std::to_string(row) + "\""});
-            EXPECT_EQ(phone.label("_dateLabel").text, chosenRow(phone, "_pickerView2").text);
             EXPECT_TRUE(refreshes(phone));
             phone.takeLog();
         }
         EXPECT_EQ(phone.settings().at("dateOption"), std::to_string(row));
+    }
+}
+
+TEST(DateOptionPicker, TheDateLineGoesFromOneChoiceToTheNextWithNothingBetween)
+{
+    auto phone = editing(editorPhone({{"dateFormat", "EEEE d"}, {"dateOption", "0"}}).weather(weather));
+    choose(phone, dateTab, dateOptionSegment);
+    const auto line = [&phone] { return phone.label("_dateLabel").runs; };
+    for (int row : {1, 2, 3, 4, 5, 6, 7, 0}) {
+        const Json before = line();
+        phone.setControl("_pickerView2", row);
+        EXPECT_EQ(line(), before) << row;
+        phone.advance(0.05);
+        EXPECT_EQ(line(), before) << row;
+        phone.advance(0.1);
+        EXPECT_NE(line(), before) << row;
+        EXPECT_EQ(phone.label("_dateLabel").text.find("Sunday 15"), 0u) << row;
     }
 }
 

@@ -34,10 +34,23 @@ UI::Font fontNamed(const NS::String& name, const ObjectSetting& size)
     return font ? font : UI::Font::systemFontOfSize(size.intValue());
 }
 
-/// A font that the user picked from the list of all installed ones.
+/// A font that the user picked from the list of all installed ones; nil before one is.
 NS::String pickedFont(const NS::String& key)
 {
     return _preferences->objectForKey(key).as<NS::String>();
+}
+
+/// What the labels were written in last.
+constinit ObjC::Variable<UI::Font> standingTimeFont, standingDateFont;
+
+/// The font that the user picked. Before one is picked the font that stands stays; after a start that is a built-in
+/// one.
+UI::Font pickedOrStanding(
+    const NS::String& key, const UI::Font& standing, const NS::String& builtIn, const ObjectSetting& size)
+{
+    if (auto picked = pickedFont(key))
+        return fontNamed(picked, size);
+    return standing ? standing.fontWithSize(size.intValue()) : fontNamed(builtIn, size);
 }
 
 void applyTimeFont()
@@ -47,15 +60,17 @@ void applyTimeFont()
     if (choice >= 1 && choice <= 4)
         _timeLabel->setFont(fontNamed(builtIn[choice - 1]->get(), _sizeTimeLabel));
     else if (choice == 5)
-        _timeLabel->setFont(fontNamed(pickedFont("customFontPickerTime"_ns), _sizeTimeLabel));
+        _timeLabel->setFont(pickedOrStanding("customFontPickerTime"_ns, standingTimeFont, _font1, _sizeTimeLabel));
+    standingTimeFont = _timeLabel->font();
 }
 
 void applyDateFont()
 {
-    auto name = _useCustomFont2 ? pickedFont("customFontPicker"_ns) : _font5.get();
-    auto font = fontNamed(name, _sizeDateLabel);
-    _dateLabel->setFont(font);
-    _timerLabel->setFont(font);
+    standingDateFont = _useCustomFont2
+        ? pickedOrStanding("customFontPicker"_ns, standingDateFont, _font5, _sizeDateLabel)
+        : fontNamed(_font5, _sizeDateLabel);
+    _dateLabel->setFont(standingDateFont);
+    _timerLabel->setFont(standingDateFont);
 }
 
 /// 1, 2, 3 are left, centre, right.

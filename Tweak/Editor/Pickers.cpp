@@ -111,26 +111,35 @@ void chooseDateOption(long row)
     if (row < 0 || row >= dateOptionCount)
         return;
     _preferences->setObject(NS::String::fromInteger(row), "dateOption"_ns);
-    _dateLabel->setAttributedText(dateOptionPreview(row));
     dateView->updateTime();
 }
 
-void showStoredFont(const NS::String& name)
+/// The font that was picked; the one that the element is written in where none was.
+NS::String fontOf(Tab tab)
 {
-    _pickerView1->reloadAllComponents();
-    auto count = availableFonts->count();
-    for (unsigned long i = 0; name && i < count; ++i) {
-        if (availableFonts->at<NS::String>(i).isEqualToString(name))
-            return _pickerView1->selectRow(static_cast<long>(i), 0, false);
+    if (auto picked = _preferences->objectForKey(fontKey(tab)).as<NS::String>())
+        return picked;
+    return (tab == Tab::time ? _timeLabel : _dateLabel)->font().fontName();
+}
+
+long rowOfFont(const NS::String& name)
+{
+    auto count = static_cast<long>(availableFonts->count());
+    for (long row = 0; name && row < count; ++row) {
+        if (availableFonts->at<NS::String>(static_cast<unsigned long>(row)).isEqualToString(name))
+            return row;
     }
+    return 0;
 }
 
 }
 
 void showStoredRows(Tab tab)
 {
-    if (auto key = fontKey(tab); key && !_pickerView1->isHidden())
-        showStoredFont(_preferences->objectForKey(key).as<NS::String>());
+    if (fontKey(tab) && !_pickerView1->isHidden()) {
+        _pickerView1->reloadAllComponents();
+        _pickerView1->selectRow(rowOfFont(fontOf(tab)), 0, false);
+    }
     if (_pickerView2->isHidden())
         return;
     _pickerView2->reloadAllComponents();

@@ -1,12 +1,12 @@
 // The editor's two wheels: fonts, and what the date line shows. The cover sheet is their data source and delegate.
 #pragma once
 
-#include "Tweak/Editor/EditState.hpp"
 #include "Platform/UIKit/UIPickerView.hpp"
+#include "Tweak/Editor/EditState.hpp"
 
 namespace LYR {
 
-/// Turns the wheels to the rows that are stored for the element.
+/// Turns the wheels to the rows that are stored for the element; to the font that it has where none is stored.
 void showStoredRows(Tab tab);
 
 // All added.
