@@ -75,7 +75,8 @@ void UIColorSheetView::build(UIColorWell& well)
     brightnessSlider = addSlider("system.colourSheet.brightness"_ns, "BRIGHTNESS"_ns);
     if (well.supportsAlpha)
         opacitySlider = addSlider("system.colourSheet.opacity"_ns, "OPACITY"_ns);
-    well.selectedColor.getHue(&hue, &saturation, &brightness, &opacity);
+    // Without a slider for it every colour that is chosen is opaque.
+    well.selectedColor.getHue(&hue, &saturation, &brightness, well.supportsAlpha ? &opacity : nullptr);
     showColor();
 }
 

@@ -81,6 +81,15 @@ TEST_F(ColorWell, WithoutOpacityHasNoSliderForIt)
     EXPECT_TRUE(part(".hue"));
 }
 
+TEST_F(ColorWell, WithoutOpacityGivesOpaqueColours)
+{
+    well.setSupportsAlpha(false);
+    well.setSelectedColor(UI::Color::colorWithRed(1, 0, 0, 0.5));
+    openSheet();
+    drag(pointIn(".brightness", 0.95, 0.5), pointIn(".brightness", -1, 0.5));
+    EXPECT_EQ(selected(), "#000000FF");
+}
+
 TEST_F(ColorWell, TheSheetClosesByItsButtonOrATouchBesideIt)
 {
     openSheet();

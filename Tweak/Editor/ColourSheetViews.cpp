@@ -97,6 +97,9 @@ void buildWell(const ColourSheet& sheet, const Row& row, const UI::View& panel, 
         return;
     well.setAccessibilityIdentifier(text(row.wellVariable + 1));
     well.setTitle(text(row.title));
+    // A stored colour is opaque.
+    if (well.respondsTo<"setSupportsAlpha:">())
+        well.setSupportsAlpha(false);
     well.setSelectedColor(row.colour());
     well.addTarget(sheet, row.changed(), UI::ControlEvents::valueChanged);
     well.addTarget(sheet, row.touched(), UI::ControlEvents::touchUpInside);
