@@ -1,8 +1,9 @@
 // The editor's colour wells: where their colours come from, and where a tapped one is stored.
 #include "Tests/EndToEnd/EditorScenario.hpp"
-#include "Tests/Support/Base64.hpp"
+#include "Tests/Support/Picture.hpp"
 
 #include <cmath>
+#include <fstream>
 
 namespace {
 
@@ -53,6 +54,47 @@ double saturation(const std::string& colour)
     return *most > 0 ? (*most - *least) / *most : 0;
 }
 
+const Json elementColours
+    = {{"colourTime", "#112233:1.00"}, {"colourDate", "#445566:1.0"}, {"colourWidget", "#778899"}};
+
+void expectToOffer(Phone& phone, const Support::Colour& colour)
+{
+    EXPECT_EQ(phone.view("_showWell").background, colour);
+    EXPECT_EQ(phone.view(well(5)).background, colour);
+}
+
+void expectToFollowTheElement(Phone& phone)
+{
+    for (auto [tab, colour] : {std::pair{&timeTab, "#112233FF"}, {&dateTab, "#445566FF"}, {&widgetTab, "#778899FF"},
+             {&timeTab, "#112233FF"}}) {
+        choose(phone, *tab, positionSegment);
+        expectToOffer(phone, colour);
+        choose(phone, *tab, colourSegment);
+        expectToOffer(phone, colour);
+    }
+}
+
+/// A wallpaper of one colour.
+void putWallpaper(Phone& phone, const std::array<std::uint8_t, 3>& colour)
+{
+    Support::Picture picture{30, 60, {}};
+    for (unsigned i = 0; i < picture.width * picture.height; ++i)
+        picture.pixels.insert(picture.pixels.end(), colour.begin(), colour.end());
+    Support::TemporaryFolder folder;
+    const std::string path = folder.path() / "wallpaper.png";
+    ASSERT_TRUE(picture.write(path));
+    std::ifstream file(path, std::ios::binary);
+    phone.writeFile(wallpaperPath, std::string(std::istreambuf_iterator<char>(file), {}));
+}
+
+/// As a finger does that knows where it was.
+void touchThePlaceOf(Phone& phone, const std::string& view)
+{
+    const auto panel = phone.view("_optionView").frame;
+    const auto place = phone.view(view);
+    phone.tapAt(panel[0] + place.centreX(), panel[1] + place.centreY());
+}
+
 Phone onColours(const EditorTab& tab, const Support::PhoneStart& start)
 {
     auto phone = editing(start);
@@ -85,13 +127,13 @@ TEST(ColourWells, AllButTheFifthReadTheWallpaperAnew)
 {
     auto phone = onColours(timeTab, editorPhone().wallpaper(goldenWallpaper));
     const auto before = phone.view(well(1)).background;
+    putWallpaper(phone, {200, 20, 20});
     setColour(phone, "_showWell", "#123456FF");
-    phone.call("file.remove", {{"path", wallpaperPath}});
     phone.tap(well(5));
     EXPECT_EQ(phone.colours().at("colourTime"), "#123456:1.00");
     phone.tap(well(1));
     EXPECT_NE(phone.view(well(1)).background, before);
-    EXPECT_EQ(phone.info().at("starts"), 1);
+    EXPECT_EQ(phone.colours().at("colourTime"), "#C80000:1.00");
 }
 
 TEST(ColourWells, ATapStoresTheColourAndAnnouncesIt)
@@ -258,6 +300,102 @@ TEST(ColourWells, ThePreviewShowsTheColourOfThePanelsElement)
         EXPECT_EQ(phone.view("_showWell").background, colour);
         EXPECT_EQ(phone.view(well(5)).background, colour);
     }
+}
+
+TEST(ColourWells, UntilAColourIsChosenTheFifthAndThePreviewFollowTheElement)
+{
+    auto phone = editing(editorPhone().colours(elementColours).wallpaper(goldenWallpaper));
+    phone.settle(1);
+    expectToFollowTheElement(phone);
+    choose(phone, timeTab, colourSegment);
+    phone.tap(well(3));
+    pressDone(phone);
+    phone.setColours(elementColours);
+    refresh(phone);
+    openEditor(phone);
+    expectToFollowTheElement(phone);
+}
+
+TEST(ColourWells, AChosenColourIsKeptThroughTabsAndSegmentsAndCanBeCarried)
+{
+    for (int number = 1; number <= 4; ++number) {
+        auto phone = onColours(timeTab, editorPhone().colours(elementColours).wallpaper(goldenWallpaper));
+        const auto chosen = phone.view(well(number)).background;
+        phone.tap(well(number));
+        expectToOffer(phone, chosen);
+        const Json stored = phone.colours().at("colourTime");
+        for (auto [tab, segment] : {std::pair{&timeTab, positionSegment}, {&timeTab, colourSegment},
+                 {&widgetTab, widgetOptionSegment}, {&widgetTab, colourSegment}, {&dateTab, colourSegment}}) {
+            choose(phone, *tab, segment);
+            expectToOffer(phone, chosen);
+        }
+        phone.tap(well(5));
+        EXPECT_EQ(phone.colours().at("colourDate"), stored) << number;
+        expectToOffer(phone, chosen);
+    }
+}
+
+TEST(ColourWells, TheFifthsOwnColourCanBeCarriedToo)
+{
+    auto phone = onColours(timeTab, editorPhone().colours(elementColours));
+    phone.tap(well(5));
+    choose(phone, dateTab, colourSegment);
+    expectToOffer(phone, "#112233FF");
+    phone.tap(well(5));
+    EXPECT_EQ(phone.colours().at("colourDate"), "#112233:1.00");
+}
+
+TEST(ColourWells, WithoutAWallpaperTheFirstFourAreNotOffered)
+{
+    auto phone = editing(editorPhone().colours(elementColours));
+    for (const EditorTab& tab : editorTabs) {
+        choose(phone, tab, colourSegment);
+        for (int number = 1; number <= 4; ++number) {
+            EXPECT_TRUE(phone.view(well(number)).hidden) << tab.button << number;
+            touchThePlaceOf(phone, well(number));
+        }
+        EXPECT_TRUE(phone.view(well(5)).onScreen);
+        EXPECT_TRUE(phone.view("_showWell").onScreen);
+    }
+    EXPECT_EQ(takeJournal(phone), Journal{});
+    EXPECT_EQ(phone.colours(), elementColours);
+}
+
+TEST(ColourWells, AWellWithoutAColourStoresNothing)
+{
+    for (const char* wallpaper : {"", "no picture"}) {
+        auto phone = onColours(timeTab, editorPhone().colours(elementColours).wallpaper(goldenWallpaper));
+        const auto offered = phone.view(well(1)).background, preview = phone.view("_showWell").background;
+        phone.writeFile(wallpaperPath, wallpaper);
+        phone.takeLog();
+        phone.tap(well(1));
+        for (int number = 1; number <= 4; ++number)
+            phone.send(coverSheet, "wellButton" + std::to_string(number) + ":", {nullptr});
+        EXPECT_EQ(takeJournal(phone), Journal(5, "sound 1104"));
+        EXPECT_EQ(phone.colours(), elementColours);
+        EXPECT_EQ(phone.view(well(1)).background, offered);
+        EXPECT_EQ(phone.view("_showWell").background, preview);
+    }
+}
+
+TEST(ColourWells, AWallpaperThatComesAndGoesBringsThemAndTakesThemAtTheNextOpening)
+{
+    auto phone = onColours(timeTab, editorPhone());
+    const auto reopened = [&phone] {
+        pressDone(phone);
+        openEditor(phone);
+        choose(phone, timeTab, colourSegment);
+        return phone.view(well(1)).onScreen && phone.view(well(4)).onScreen;
+    };
+    putWallpaper(phone, {200, 20, 20});
+    EXPECT_TRUE(reopened());
+    EXPECT_EQ(phone.view(well(1)).background, "#C80000FF");
+    phone.call("file.remove", {{"path", wallpaperPath}});
+    EXPECT_FALSE(reopened());
+    putWallpaper(phone, {20, 20, 200});
+    EXPECT_TRUE(reopened());
+    phone.tap(well(1));
+    EXPECT_EQ(phone.colours().at("colourTime"), "#0000C8:1.00");
 }
 
 TEST(ColourWells, ThePreviewOpensTheSheet)

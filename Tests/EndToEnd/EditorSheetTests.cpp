@@ -154,6 +154,42 @@ TEST(ColourSheet, TheLastColourIsOfferedByTheFifthWell)
     EXPECT_EQ(phone.colours().at("colourDate"), "#AA0000:1.0");
 }
 
+TEST(ColourSheet, ItsLastColourIsKeptByTheFifthWellThroughTabsAndSegments)
+{
+    auto phone = withSheet(editorPhone().colours({{"colourTime", "#112233"}, {"colourDate", "#445566"}}));
+    phone.setControl("colorWell", "#AA0000FF");
+    phone.tap("colorWellDone");
+    phone.settle(1);
+    for (auto [tab, segment] : {std::pair{&timeTab, positionSegment}, {&timeTab, colourSegment},
+             {&dateTab, dateOptionSegment}, {&widgetTab, colourSegment}, {&dateTab, colourSegment}}) {
+        choose(phone, *tab, segment);
+        EXPECT_EQ(phone.view("_showWell").background, "#AA0000FF");
+        EXPECT_EQ(phone.view("_colorWheel5").background, "#AA0000FF");
+    }
+    phone.tap("_colorWheel5");
+    EXPECT_EQ(phone.colours(), (Json{{"colourTime", "#AA0000:1.0"}, {"colourDate", "#AA0000:1.00"}}));
+    pressDone(phone);
+    phone.setColours({{"colourTime", "#112233"}});
+    refresh(phone);
+    openEditor(phone);
+    EXPECT_EQ(phone.view("_showWell").background, "#112233FF") << "an editor that is opened anew has no choice to keep";
+    EXPECT_EQ(phone.view("_colorWheel5").background, "#112233FF");
+}
+
+TEST(ColourSheet, ItsWellsOfferNoOpacity)
+{
+    for (const SheetRow& row : rows) {
+        auto phone = withSheet(editorPhone().colours({{"colourTime", "#11223380"}}));
+        EXPECT_EQ(phone.send({{"id", row.well}}, "supportsAlpha"), false);
+        phone.tap(row.well);
+        phone.settle(1);
+        EXPECT_TRUE(phone.view("system.colourSheet.brightness").onScreen);
+        EXPECT_FALSE(phone.has("system.colourSheet.opacity")) << row.title;
+        phone.tap("system.colourSheet.grid");
+        EXPECT_EQ(phone.colourWell(row.well).selected->substr(7), "FF");
+    }
+}
+
 TEST(ColourSheet, DoneBringsTheEditorBack)
 {
     for (const EditorTab& tab : editorTabs) {

@@ -100,7 +100,7 @@ void CSCoverSheetViewController_showLongPress(
     if (recognizer.locationInView(view).y > view.bounds().size.height - deadBand)
         return;
     playTap();
-    fillWells();
+    prepareWells();
     animateOverlay(open);
 }
 

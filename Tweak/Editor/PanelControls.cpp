@@ -19,17 +19,31 @@ constexpr Area dateAreas[] = {Area::font, Area::colour, Area::position, Area::da
 constexpr Area widgetAreas[] = {Area::widgetOption, Area::colour, Area::position};
 constexpr std::span<const Area> areas[tabCount] = {timeAreas, dateAreas, widgetAreas};
 
-/// A control of an area. Some of them mean nothing to the widgets, which have neither opacity nor alignment.
+enum class Condition {
+    none,
+    /// The widgets have neither opacity nor alignment.
+    notForWidgets,
+    offersColour,
+};
+
+/// A control of an area.
 struct SubControl {
     const id* view;
     Area area;
-    bool forWidgets = true;
+    Condition condition;
 };
 
 template <class T>
-constexpr SubControl in(Area area, const ObjC::Variable<T>& view, bool forWidgets = true)
+constexpr SubControl in(Area area, const ObjC::Variable<T>& view, Condition condition = Condition::none)
 {
-    return {view.address(), area, forWidgets};
+    return {view.address(), area, condition};
+}
+
+bool holds(Condition condition, const UI::View& view, Tab tab)
+{
+    if (condition == Condition::offersColour)
+        return offersColour(view);
+    return condition == Condition::none || tab != Tab::widget;
 }
 
 constexpr SubControl subControls[] = {
@@ -39,17 +53,17 @@ constexpr SubControl subControls[] = {
     in(Area::font, _stepperView),
     in(Area::font, _stepperButton),
     in(Area::font, _alertOpen),
-    in(Area::colour, _colorWheel1),
-    in(Area::colour, _colorWheel2),
-    in(Area::colour, _colorWheel3),
-    in(Area::colour, _colorWheel4),
+    in(Area::colour, _colorWheel1, Condition::offersColour),
+    in(Area::colour, _colorWheel2, Condition::offersColour),
+    in(Area::colour, _colorWheel3, Condition::offersColour),
+    in(Area::colour, _colorWheel4, Condition::offersColour),
     in(Area::colour, _colorWheel5),
     in(Area::colour, _showWell),
-    in(Area::colour, _alphaCheckBoard, false),
-    in(Area::colour, _alphaView, false),
-    in(Area::colour, _sliderAlpha, false),
-    in(Area::position, _alignLabel, false),
-    in(Area::position, _segmentAlign, false),
+    in(Area::colour, _alphaCheckBoard, Condition::notForWidgets),
+    in(Area::colour, _alphaView, Condition::notForWidgets),
+    in(Area::colour, _sliderAlpha, Condition::notForWidgets),
+    in(Area::position, _alignLabel, Condition::notForWidgets),
+    in(Area::position, _segmentAlign, Condition::notForWidgets),
     in(Area::position, _sliderX),
     in(Area::position, _sliderLabelX),
     in(Area::position, _sliderY),
@@ -82,8 +96,8 @@ Area areaOf(Tab tab, long segment)
 void showSubControls(std::optional<Tab> tab, long segment)
 {
     for (const SubControl& control : subControls) {
-        bool shown = tab && control.area == areaOf(*tab, segment) && (control.forWidgets || *tab != Tab::widget);
-        UI::View(*control.view).setHidden(!shown);
+        UI::View view(*control.view);
+        view.setHidden(!tab || control.area != areaOf(*tab, segment) || !holds(control.condition, view, *tab));
     }
 }
 

@@ -15,6 +15,10 @@ namespace {
 
 constexpr CGFloat chosenBorder = 3;
 
+/// Since the editor opened. What was chosen is offered to every element, so that a colour can be carried from one to
+/// another.
+constinit bool isColourChosen = false;
+
 /// A colour of the palette and its least saturation; no colour of the palette for the well of the last choice.
 struct Well {
     ObjC::Variable<UI::Button>* button;
@@ -47,15 +51,18 @@ void markChosen(const Well& chosen)
         (*well.button)->layer().setBorderWidth(&well == &chosen ? chosenBorder : 0);
 }
 
-void showInStrip(const UI::Color& colour)
+void show(const UI::Color& colour)
 {
+    _showWell->setBackgroundColor(colour);
+    _colorWheel5->setBackgroundColor(colour);
     _gradient->setColorsOf(UI::Color::clearColor(), colour ? colour : UI::Color::clearColor());
 }
 
 }
 
-void fillWells()
+void prepareWells()
 {
+    isColourChosen = false;
     auto palette = wallpaperPalette();
     for (const Well& well : wells) {
         if (well.colour)
@@ -64,18 +71,22 @@ void fillWells()
     }
 }
 
+bool offersColour(const UI::View& well)
+{
+    return static_cast<bool>(well.backgroundColor());
+}
+
 void showCurrentColour(Tab tab)
 {
-    showChosenColour(tab == Tab::time ? _timeLabel->textColor()
-            : tab == Tab::date        ? _dateLabel->textColor()
-                                      : stripIconColour());
+    if (isColourChosen)
+        return;
+    show(tab == Tab::time ? _timeLabel->textColor() : tab == Tab::date ? _dateLabel->textColor() : stripIconColour());
 }
 
 void showChosenColour(const UI::Color& colour)
 {
-    _showWell->setBackgroundColor(colour);
-    _colorWheel5->setBackgroundColor(colour);
-    showInStrip(colour);
+    isColourChosen = true;
+    show(colour);
 }
 
 void pressWell(int index)
@@ -83,10 +94,11 @@ void pressWell(int index)
     const Well& well = wells[index];
     playClick();
     auto colour = well.colour ? colourOf(well, wallpaperPalette()) : _showWell->backgroundColor();
+    // The wallpaper may have gone since the editor opened.
+    if (!colour)
+        return;
     (*well.button)->setBackgroundColor(colour);
-    if (well.colour)
-        _showWell->setBackgroundColor(colour);
-    showInStrip(colour);
+    showChosenColour(colour);
     for (Tab tab : allTabs) {
         if (!isActive(tab))
             continue;

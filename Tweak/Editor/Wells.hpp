@@ -1,17 +1,20 @@
 // The wells: four colours of the wallpaper, and the colour that was chosen last.
 #pragma once
 
-#include "Tweak/Editor/EditState.hpp"
 #include "Platform/UIKit/UIColor.hpp"
+#include "Tweak/Editor/EditState.hpp"
 
 namespace LYR {
 
-/// Lets the wells offer the colours of the wallpaper as it is now.
-void fillWells();
-/// Shows the colour that the element has now.
+/// Lets the wells offer the colours of the wallpaper as it is now, with none of them chosen yet.
+void prepareWells();
+/// Without a wallpaper the first four wells have none to offer.
+bool offersColour(const UI::View& well);
+/// Until a colour is chosen, the last well, the preview and the strip of opacities show the element's own.
 void showCurrentColour(Tab tab);
-/// Shows a colour in the last well's source and in the strip of opacities.
+/// They show the colour that was chosen until the editor closes, whichever element is edited.
 void showChosenColour(const UI::Color& colour);
+/// Makes the well's colour that of the edited element. A well that has none to offer changes nothing.
 void pressWell(int index);
 
 /// Added, one for each well.
