@@ -39,6 +39,11 @@ public:
     {
         send<void, "removeTarget:action:forControlEvents:">(target, action, events);
     }
+    /// The names of what it sends to the target at the event.
+    NS::Array actionsForTarget(const ObjC::Object& target, ControlEvents event) const
+    {
+        return send<NS::Array, "actionsForTarget:forControlEvent:">(target, event);
+    }
     void sendActionsForControlEvents(ControlEvents events) const { send<void, "sendActionsForControlEvents:">(events); }
     bool isEnabled() const { return send<bool, "isEnabled">(); }
     void setEnabled(bool enabled) const { send<void, "setEnabled:">(enabled); }

@@ -37,6 +37,18 @@ TEST(EditMode, ALongPressOpensItOnTheTimePanel)
     }
 }
 
+TEST(EditMode, ThePanelIsBehindDoneAndTheTabsLieOverIt)
+{
+    auto phone = editing();
+    std::vector<std::string> views;
+    const Json cover = phone.call("view.tree", {{"id", "stock.coverSheet"}});
+    for (const Json& child : cover.at("children"))
+        views.push_back(child.at("id").is_string() ? child.at("id") : "");
+    ASSERT_GT(views.size(), std::size(overlayViews));
+    EXPECT_EQ(std::vector(views.end() - std::size(overlayViews), views.end()),
+        std::vector<std::string>(std::begin(overlayViews), std::end(overlayViews)));
+}
+
 TEST(EditMode, OpeningHoldsTheScreenLitSoundsAndWritesTheSourcesAsTexts)
 {
     auto phone = settledWith();
@@ -219,6 +231,19 @@ TEST(EditMode, DoneTakesAllAwayAndRedrawsTheClock)
     EXPECT_TRUE(phone.view("_dateBorderView").hidden);
     EXPECT_TRUE(refreshes(phone));
     EXPECT_EQ(activeFlags(phone), Journal{});
+}
+
+TEST(EditMode, TheWidgetTabGoesUnlikeTheOthersShownAndOpaque)
+{
+    auto phone = editing();
+    phone.call("objc.new", {{"class", "NSMutableArray"}, {"name", "kept"}});
+    for (const char* view : overlayViews)
+        phone.send({{"named", "kept"}}, "addObject:", Json::array({{{"id", view}}}));
+    phone.send({{"id", "_widgetButton"}}, "setHidden:", {true});
+    phone.send({{"id", "_widgetButton"}}, "setAlpha:", {0.3});
+    pressDone(phone);
+    EXPECT_EQ(phone.send({{"named", "kept"}}, "valueForKey:", {"hidden"}), (Json{true, true, true, true, false}));
+    EXPECT_EQ(phone.send({{"named", "kept"}}, "valueForKey:", {"alpha"}), (Json{0, 0, 0, 0, 1}));
 }
 
 TEST(EditMode, AfterDoneALongPressOpensItAgainOnTheTimePanel)

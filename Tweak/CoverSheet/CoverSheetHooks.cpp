@@ -4,7 +4,7 @@
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
 #include "Tweak/Editor/ColourSheet.hpp"
 #include "Tweak/Editor/EditMode.hpp"
-#include "Tweak/Editor/EditorViews.hpp"
+#include "Tweak/Editor/Handover.hpp"
 #include "Tweak/Editor/PanelBuilder.hpp"
 #include "Tweak/Lifecycle/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
@@ -15,11 +15,16 @@ namespace LYR {
 
 void CSCoverSheetViewController_viewDidLoad(CS::CoverSheetViewController self, SEL cmd)
 {
+    // What is open goes with the sheet that it stands on, before the clock and the list of another one are made.
+    if (_pressLong)
+        closeEditorAtOnce();
     stock<CSCoverSheetViewController_viewDidLoad>(self, cmd);
     createStrip(self);
-    _pressLong = self;
-    if (!_optionView)
+    if (_pressLong)
+        handEditorOver(_pressLong, self);
+    else
         buildEditor(self);
+    _pressLong = self;
     installLongPress();
 }
 

@@ -2,6 +2,7 @@
 
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
 #include "Tweak/Editor/Appearance.hpp"
+#include "Tweak/Editor/ColourSheet.hpp"
 #include "Tweak/Editor/EditorViews.hpp"
 #include "Tweak/Editor/Feedback.hpp"
 #include "Tweak/Editor/Overlay.hpp"
@@ -81,7 +82,7 @@ void removeLongPress()
 {
     if (!_longPress)
         return;
-    _pressLong->view().removeGestureRecognizer(_longPress);
+    _longPress->view().removeGestureRecognizer(_longPress);
     _longPress = UI::LongPressGestureRecognizer();
 }
 
@@ -120,6 +121,16 @@ void leaveEditor()
     _alertView->setHidden(true);
     setActiveTab(std::nullopt);
     animateOverlay(parkOverlay, takeOverlayAway);
+}
+
+void closeEditorAtOnce()
+{
+    _colorWellSheet->closeView();
+    GetDashBoardIdleTimerProvider().removeDisabledIdleTimerAssertionReason(reason());
+    _notifVC->scrollView().setHidden(false);
+    setActiveTab(std::nullopt);
+    takeOverlayAway(true);
+    removeLongPress();
 }
 
 }

@@ -10,6 +10,8 @@ void installLongPress();
 void removeLongPress();
 /// The lock screen goes away with the editor on it. What holds the screen lit is given up at the next lock.
 void leaveEditor();
+/// Ends whatever a long press began, without a motion, and lets no other one follow.
+void closeEditorAtOnce();
 
 /// Added: called at every state of the long press.
 void CSCoverSheetViewController_showLongPress(
