@@ -2,7 +2,6 @@
 #include "Tests/EndToEnd/EditorScenario.hpp"
 
 #include <cstdlib>
-
 #include <set>
 
 namespace {

@@ -126,7 +126,7 @@ void leaveEditor()
 void closeEditorAtOnce()
 {
     _colorWellSheet->closeView();
-    GetDashBoardIdleTimerProvider().removeDisabledIdleTimerAssertionReason(reason());
+    releaseScreen();
     _notifVC->scrollView().setHidden(false);
     setActiveTab(std::nullopt);
     takeOverlayAway(true);

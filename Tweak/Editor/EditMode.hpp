@@ -8,7 +8,7 @@ namespace LYR {
 /// Lets a long press open the editor, unless it can already.
 void installLongPress();
 void removeLongPress();
-/// The lock screen goes away with the editor on it. What holds the screen lit is given up at the next lock.
+/// The lock screen goes away with the editor on it, and may go dark again.
 void leaveEditor();
 /// Ends whatever a long press began, without a motion, and lets no other one follow.
 void closeEditorAtOnce();
