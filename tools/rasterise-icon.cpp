@@ -1,5 +1,6 @@
-// Draws an icon's SVG source as the PNG that the phone loads: black on transparent, as a template image wants it.
-//   rasterise-icon in.svg out.png WIDTH HEIGHT
+// Draws an icon's SVG source as the PNG that the phone loads: black on transparent, as a template image wants it, or
+// with colours of its own.
+//   rasterise-icon in.svg out.png WIDTH HEIGHT [coloured]
 #include <librsvg/rsvg.h>
 
 #include <charconv>
@@ -76,15 +77,17 @@ Surface draw(const char* path, int width, int height)
     return surface;
 }
 
-// A template image is only its transparency: colour would be lost on the phone, and a blank picture is a slip.
-void checkTemplate(const char* path, cairo_surface_t* surface)
+enum class Ink { Black, Coloured };
+
+// A template image is only its transparency: colour would be lost on the phone. A blank picture is a slip.
+void check(const char* path, Ink ink, cairo_surface_t* surface)
 {
     bool isBlank = true;
     const unsigned char* row = cairo_image_surface_get_data(surface);
     for (int y = 0; y < cairo_image_surface_get_height(surface); ++y, row += cairo_image_surface_get_stride(surface)) {
         const auto* pixels = reinterpret_cast<const std::uint32_t*>(row);
         for (int x = 0; x < cairo_image_surface_get_width(surface); ++x) {
-            if (pixels[x] & 0xFFFFFF)
+            if (ink == Ink::Black && pixels[x] & 0xFFFFFF)
                 throw Failure{1,
                     std::string(path) + " has colour at pixel " + std::to_string(x) + "," + std::to_string(y)
                         + "; an icon is black on transparent"};
@@ -92,7 +95,9 @@ void checkTemplate(const char* path, cairo_surface_t* surface)
         }
     }
     if (isBlank)
-        throw Failure{1, std::string(path) + " draws nothing; an icon is black on transparent"};
+        throw Failure{1,
+            std::string(path) + " draws nothing; an icon is " + (ink == Ink::Black ? "black" : "coloured")
+                + " on transparent"};
 }
 
 // Through a neighbour, so that a build that is cut short leaves no half a picture.
@@ -112,12 +117,13 @@ void write(const std::string& path, cairo_surface_t* surface)
 
 void run(int count, char** arguments)
 {
-    if (count != 5)
-        throw Failure{2, "usage: rasterise-icon in.svg out.png WIDTH HEIGHT"};
+    const bool isColoured = count == 6 && arguments[5] == std::string_view("coloured");
+    if (count != 5 && !isColoured)
+        throw Failure{2, "usage: rasterise-icon in.svg out.png WIDTH HEIGHT [coloured]"};
     const int width = readSide("WIDTH", arguments[3]);
     const int height = readSide("HEIGHT", arguments[4]);
     const Surface surface = draw(arguments[1], width, height);
-    checkTemplate(arguments[1], surface.get());
+    check(arguments[1], isColoured ? Ink::Coloured : Ink::Black, surface.get());
     write(arguments[2], surface.get());
 }
 

@@ -62,9 +62,10 @@ TEST_F(RasteriseIcon, WritesTheSameBytesEveryTime)
 
 TEST_F(RasteriseIcon, SaysHowItIsUsed)
 {
-    expectFailure({}, 2, "usage: rasterise-icon in.svg out.png WIDTH HEIGHT");
+    expectFailure({}, 2, "usage: rasterise-icon in.svg out.png WIDTH HEIGHT [coloured]");
     expectFailure({alarm, out(), "96"}, 2, "usage");
     expectFailure({alarm, out(), "96", "96", "96"}, 2, "usage");
+    expectFailure({alarm, out(), "96", "96", "coloured", "coloured"}, 2, "usage");
 }
 
 TEST_F(RasteriseIcon, RefusesSizesThatAreNoNumberOfPixels)
@@ -90,10 +91,21 @@ TEST_F(RasteriseIcon, RefusesColour)
     expectFailure({red, out(), "16", "16"}, 1, red + " has colour at pixel 4,4; an icon is black on transparent");
 }
 
+TEST_F(RasteriseIcon, KeepsColourWhereItIsAskedFor)
+{
+    const std::string red = folder.put("red.svg", drawing(R"(<path d="M4 4h8v8h-8z" fill="#f00"/>)"));
+    ASSERT_EQ(runProgram({red, out(), "16", "16", "coloured"}).status, 0);
+    const Icons::Icon icon = Icons::readFile(out());
+    const auto pixel = icon.pixels.begin() + (8 * 16 + 8) * 4;
+    EXPECT_EQ(std::vector<std::uint8_t>(pixel, pixel + 4), (std::vector<std::uint8_t>{255, 0, 0, 255}));
+    EXPECT_EQ(icon.alpha(0, 0), 0);
+}
+
 TEST_F(RasteriseIcon, RefusesADrawingThatShowsNothing)
 {
     const std::string blank = folder.put("blank.svg", drawing(""));
-    expectFailure({blank, out(), "16", "16"}, 1, blank + " draws nothing");
+    expectFailure({blank, out(), "16", "16"}, 1, blank + " draws nothing; an icon is black");
+    expectFailure({blank, out(), "16", "16", "coloured"}, 1, blank + " draws nothing; an icon is coloured");
 }
 
 TEST_F(RasteriseIcon, NamesAFileThatItCannotWrite)
