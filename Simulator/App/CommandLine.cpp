@@ -77,10 +77,11 @@ void addStartOptions(CLI::App& command, Values& values)
     command.add_option("--colours", options.colours, "Colours: a property list (XML or binary) or JSON")
         ->type_name("FILE");
     command.add_option("--wallpaper", options.wallpaper, "Wallpaper (default: the built-in one)")->type_name("JPEG");
-    command
-        .add_option("--device", options.device,
-            "Battery, weather, alarm and events, as device.set takes them, and the seconds of a \"timer\"")
-        ->type_name("JSON");
+    CLI::Option* const device = command.add_option("--device", options.device,
+        "Battery, weather, alarm and events, as device.set takes them, and the seconds of a \"timer\" (default: those "
+        "of a phone in use)");
+    device->type_name("JSON");
+    command.add_flag("--bare", options.isBare, "A full battery and no weather, alarm and events")->excludes(device);
     command.add_option("--font", options.fonts, "Font file for the user font folder; may be repeated")
         ->type_name("FILE")
         ->expected(1)

@@ -76,6 +76,11 @@ fs::path symbolFolder()
     return shareFolder() / "Symbols";
 }
 
+fs::path glyphFolder()
+{
+    return shareFolder() / "Weather";
+}
+
 fs::path pageFolder()
 {
     return shareFolder() / "Preview";

@@ -1,4 +1,5 @@
-// What lies beside the program: the phone's files as they are when it is new, and the symbols its system draws.
+// What lies beside the program: the phone's files as they are when it is new, the symbols its system draws, and the
+// pictures of its weather.
 #pragma once
 
 #include "Simulator/Control/Shell.hpp"
@@ -12,6 +13,8 @@ namespace Simulator::App {
 void installFactoryContent(const Control::ShellStart& start, const std::string& extension);
 
 std::filesystem::path symbolFolder();
+/// A PNG for each kind of weather.
+std::filesystem::path glyphFolder();
 /// The files of the preview's page.
 std::filesystem::path pageFolder();
 

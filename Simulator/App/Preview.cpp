@@ -3,6 +3,7 @@
 
 #include "Simulator/App/FactoryContent.hpp"
 #include "Simulator/App/Lifeline.hpp"
+#include "Simulator/App/WeatherGlyph.hpp"
 #include "Simulator/Control/RootFolder.hpp"
 #include "Simulator/Preview/Server.hpp"
 
@@ -34,6 +35,8 @@ int preview(const PreviewOptions& options, Supervisor::Options supervisorOptions
         server.port = static_cast<unsigned short>(options.port);
         server.root = root.path();
         server.start = startParameters(options.start, workshop);
+        server.withGlyph
+            = [](const Json& weather, const std::string& time) { return withGlyph(weather, time, glyphFolder()); };
         server.interruption = lifeline.descriptor();
         server.interrupt = [&] { lifeline.throwIfSignalled(); };
         server.ready = [](const std::string& address) { std::cout << address << std::endl; };

@@ -1,6 +1,9 @@
 // Reads the files that options name, and says in one line what is wrong with one.
 #include "Simulator/App/StartFiles.hpp"
 
+#include "Simulator/App/FactoryContent.hpp"
+#include "Simulator/App/PhoneInUse.hpp"
+#include "Simulator/App/WeatherGlyph.hpp"
 #include "Simulator/Control/Methods.hpp"
 #include "Simulator/Control/PropertyList.hpp"
 #include "Simulator/Control/Types.hpp"
@@ -51,14 +54,19 @@ Json deviceIn(const std::string& path)
     return device;
 }
 
-void addDevice(Json& start, const std::string& path)
+void addDevice(Json& start, const Json& device)
 {
-    const Json device = deviceIn(path);
     // What stands on the command line counts more.
     for (const auto& [name, value] : device.items()) {
         if (name != timerMember)
             start.emplace(name, value);
     }
+}
+
+std::string timeAtStart(const Json& start)
+{
+    return start.contains("time") ? start.at("time").get<std::string>()
+                                  : localTimeNow(start.value("timeZone", "UTC"));
 }
 
 std::string jpegFile(const std::string& path)
@@ -112,7 +120,11 @@ Json startParameters(const StartOptions& options, const Workshop& workshop)
     if (!options.fonts.empty())
         start["fonts"] = options.fonts;
     if (!options.device.empty())
-        addDevice(start, options.device);
+        addDevice(start, deviceIn(options.device));
+    else if (!options.isBare)
+        addDevice(start, phoneInUse(timeAtStart(start)));
+    if (start.contains("weather"))
+        start["weather"] = withGlyph(start["weather"], timeAtStart(start), glyphFolder());
     return start;
 }
 

@@ -19,7 +19,8 @@ struct StartOptions {
     std::string settings; // host paths of files; empty for none
     std::string colours;
     std::string wallpaper;
-    std::string device;
+    std::string device; // without one the phone is in use already
+    bool isBare = false; // a new phone instead
     std::vector<std::string> fonts;
 };
 

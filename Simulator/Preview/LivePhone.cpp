@@ -1,16 +1,34 @@
 #include "Simulator/Preview/LivePhone.hpp"
 
+#include "Simulator/Control/Methods.hpp"
 #include "Simulator/Control/RootFolder.hpp"
 #include "Simulator/Control/Types.hpp"
 #include "Simulator/Preview/Look.hpp"
+
+#include <algorithm>
 
 namespace Simulator::Preview {
 
 using namespace Control;
 
-LivePhone::LivePhone(Supervisor& supervisor, std::string root)
+namespace {
+
+// As `device.set` takes it.
+Parameter weatherParameter()
+{
+    const Schema device = deviceParameters();
+    Parameter weather = *std::find_if(
+        device.begin(), device.end(), [](const Parameter& parameter) { return parameter.name == "weather"; });
+    weather.presence = Presence::Required;
+    return weather;
+}
+
+}
+
+LivePhone::LivePhone(Supervisor& supervisor, std::string root, WithGlyph withGlyph)
     : _supervisor(supervisor)
     , _root(std::move(root))
+    , _withGlyph(std::move(withGlyph))
 {
 }
 
@@ -25,6 +43,7 @@ Json LivePhone::call(const std::string& method, const Json& parameters)
 {
     static const Method getLook{"look.get", {}};
     static const Method setLookMethod{"look.set", {{"look", anything(), Presence::Required}}};
+    static const Method glyph{"weather.glyph", {weatherParameter()}};
     if (method == "phone.start") {
         if (parameters.contains("root"))
             throw ProtocolError(
@@ -40,7 +59,17 @@ Json LivePhone::call(const std::string& method, const Json& parameters)
         checkParameters(setLookMethod, parameters);
         return setLook(parameters.at("look"));
     }
+    if (method == glyph.name) {
+        checkParameters(glyph, parameters);
+        return {{"weather", weatherNow(parameters.at("weather"))}};
+    }
     return _supervisor.call(method, parameters);
+}
+
+Json LivePhone::weatherNow(const Json& weather)
+{
+    const Json time = _supervisor.call("phone.info", Json::object()).at("time");
+    return _withGlyph(weather, time.is_string() ? time.get<std::string>() : "");
 }
 
 Json LivePhone::setLook(const Json& look)

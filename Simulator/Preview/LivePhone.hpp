@@ -4,12 +4,17 @@
 #include "Simulator/Control/SharedFrame.hpp"
 #include "Simulator/Control/Supervisor.hpp"
 
+#include <functional>
+
 namespace Simulator::Preview {
+
+// Weather with the picture of its conditions at a local time.
+using WithGlyph = std::function<Control::Json(const Control::Json& weather, const std::string& time)>;
 
 class LivePhone {
 public:
     // The root is the phone's `/` for as long as the preview lives, whatever starts there.
-    LivePhone(Control::Supervisor&, std::string root);
+    LivePhone(Control::Supervisor&, std::string root, WithGlyph);
 
     void start(Control::Json parameters);
     // A method of the protocol, or one of the preview's own; throws a ProtocolError.
@@ -39,9 +44,11 @@ public:
 
 private:
     Control::Json setLook(const Control::Json& look);
+    Control::Json weatherNow(const Control::Json& weather);
 
     Control::Supervisor& _supervisor;
     std::string _root;
+    WithGlyph _withGlyph;
     Control::SharedFrame _frame;
     Control::Json _screen;
     double _secondsDrawn = 0;

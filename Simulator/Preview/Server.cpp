@@ -5,7 +5,6 @@
 #include "Simulator/Preview/Connection.hpp"
 #include "Simulator/Preview/FileWatch.hpp"
 #include "Simulator/Preview/FrameMessage.hpp"
-#include "Simulator/Preview/LivePhone.hpp"
 
 #include <algorithm>
 #include <boost/asio/ip/tcp.hpp>
@@ -93,7 +92,7 @@ Server::Server(Supervisor::Options options, const ServerOptions& given)
     , _port(_acceptor.local_endpoint().port())
     , _supervisor(withLog(std::move(options)))
 {
-    _phone = std::make_unique<LivePhone>(_supervisor, given.root);
+    _phone = std::make_unique<LivePhone>(_supervisor, given.root, given.withGlyph);
     _phone->start(given.start);
     const auto preferences
         = std::filesystem::path(given.root) / std::filesystem::path(settingsPath.substr(1)).parent_path();

@@ -1,7 +1,7 @@
 // `lyr preview` on the network: the page over HTTP, the phone over WebSockets, on this machine only.
 #pragma once
 
-#include "Simulator/Control/Supervisor.hpp"
+#include "Simulator/Preview/LivePhone.hpp"
 
 #include <filesystem>
 #include <functional>
@@ -13,6 +13,7 @@ struct ServerOptions {
     unsigned short port = 0; // 0 for any that is free
     Control::Json start = Control::Json::object(); // parameters of `phone.start`, without a root
     std::string root;
+    WithGlyph withGlyph;
     int interruption = -1; // readable when the server is to end
     std::function<void()> interrupt; // called then; throws
     std::function<void(const std::string& address)> ready;

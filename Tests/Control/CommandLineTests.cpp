@@ -26,7 +26,7 @@ TEST(CommandLine, SaysEverythingOnHelp)
     EXPECT_EQ(finished.errors, "");
     for (const char* word :
         {"render", "serve", "--stdio", "--settings", "--colours", "--wallpaper", "--screen", "--time", "--time-zone",
-            "--locale", "--language", "--style", "--font", "--device", "-o", "--version", "WxH@S"})
+            "--locale", "--language", "--style", "--font", "--device", "--bare", "-o", "--version", "WxH@S"})
         EXPECT_NE(finished.output.find(word), std::string::npos) << word;
     EXPECT_EQ(finished.output.find("--fd"), std::string::npos);
 }
@@ -51,6 +51,8 @@ TEST(CommandLine, RefusesBadUsageInOneLine)
     expectBadUsage({"render", "-o", "a.png", "--time-zone", "Mars/Olympus"}, "Mars/Olympus");
     expectBadUsage({"render", "-o", "a.png", "--style", "grey"}, "grey");
     expectBadUsage({"render", "-o", "a.png", "--language", "e"}, "\"e\"");
+    expectBadUsage({"render", "-o", "a.png", "--bare", "--device", "d.json"}, "--bare");
+    expectBadUsage({"preview", "--device", "d.json", "--bare"}, "--bare");
     for (const char* screen : {"375", "375x812", "0x812@3", "375x812@9", "375x812@3x", "x@"})
         expectBadUsage({"render", "-o", "a.png", "--screen", screen}, screen);
 }

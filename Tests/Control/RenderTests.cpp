@@ -4,9 +4,12 @@
 #include "Tests/Support/TemporaryFolder.hpp"
 
 #include <algorithm>
+#include <chrono>
+#include <ctime>
 #include <gtest/gtest.h>
 
 using namespace Support;
+using namespace std::chrono_literals;
 using Simulator::Control::propertyListXml;
 
 namespace {
@@ -14,6 +17,15 @@ namespace {
 const std::string jpegStart = "\xFF\xD8\xFF\xE0";
 const std::string settingsOnPhone = "/var/mobile/Library/Preferences/com.ostrel.lyrprefs.plist";
 const std::string coloursOnPhone = "/var/mobile/Library/Preferences/com.ostrel.colorslyr.plist";
+
+// The host's time, so far east of UTC.
+std::string timeInZone(std::chrono::hours east)
+{
+    const std::time_t moment = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now() + east);
+    char text[32];
+    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%S", std::gmtime(&moment));
+    return text;
+}
 
 class Render : public testing::Test {
 protected:
@@ -50,15 +62,62 @@ protected:
 
 TEST_F(Render, StartsAPhoneWithWhatTheOptionsSay)
 {
-    EXPECT_EQ(startedWith({"--screen", "414x896@2", "--time", "2020-11-15T21:41:00", "--time-zone", "Asia/Jerusalem",
+    EXPECT_EQ(startedWith({"--bare", "--screen", "414x896@2", "--time", "2020-11-15T21:41:00", "--time-zone", "Asia/Jerusalem",
                   "--locale", "he_IL", "--language", "he", "--language", "en", "--style", "dark"}),
         Json::parse(R"({"clock":"virtual","screen":{"width":414,"height":896,"scale":2},"time":"2020-11-15T21:41:00",
             "timeZone":"Asia/Jerusalem","locale":"he_IL","languages":["he","en"],"style":"dark"})"));
 }
 
-TEST_F(Render, StartsAPhoneWithoutOptions)
+TEST_F(Render, StartsAPhoneInUse)
 {
-    EXPECT_EQ(startedWith({}), Json::parse(R"({"clock":"virtual"})"));
+    Json started = startedWith({"--time", "2020-11-15T21:41:00"});
+    const std::string image = started["weather"].value("image", "");
+    EXPECT_TRUE(image.ends_with("/share/lyr/Weather/partly-cloudy-night.png")) << image;
+    started["weather"].erase("image");
+    EXPECT_EQ(started, Json::parse(R"({"clock": "virtual",
+        "time": "2020-11-15T21:41:00", "battery": {"level": 0.87, "state": "unplugged"}, "alarm": "2020-11-16T06:30:00",
+        "weather": {"temperature": "21°", "high": "24°", "low": "15°", "conditions": "Partly Cloudy",
+            "location": "Haifa", "sunrise": "6:12", "sunset": "16:41"},
+        "events": [{"title": "Dentist", "start": "2020-11-16T09:30:00", "allDay": false}]})"));
+}
+
+TEST_F(Render, StartsABarePhoneWhereItIsAskedFor)
+{
+    EXPECT_EQ(startedWith({"--bare"}), Json::parse(R"({"clock":"virtual"})"));
+}
+
+TEST_F(Render, HasItsAlarmAndItsEventAheadOfTheTime)
+{
+    const std::tuple<const char*, const char*, const char*> days[] = {
+        {"2020-11-15T06:29:59", "2020-11-15T06:30:00", "2020-11-15T09:30:00"},
+        {"2020-11-15T06:30:00", "2020-11-16T06:30:00", "2020-11-15T09:30:00"},
+        {"2020-02-28T09:30:00", "2020-02-29T06:30:00", "2020-02-29T09:30:00"},
+        {"2020-12-31T23:59:59", "2021-01-01T06:30:00", "2021-01-01T09:30:00"},
+        {"9999-12-31T21:41:00", "9999-12-31T23:59:59", "9999-12-31T23:59:59"},
+    };
+    for (const auto& [time, alarm, event] : days) {
+        const Json started = startedWith({"--time", time});
+        EXPECT_EQ(started["alarm"], alarm) << time;
+        EXPECT_EQ(started["events"][0]["start"], event) << time;
+    }
+}
+
+TEST_F(Render, HasThemAheadOfTheHostsClockWithoutATime)
+{
+    constexpr std::chrono::hours day{24};
+    for (const auto& [zone, east] : {std::pair("UTC", 0h), std::pair("Pacific/Kiritimati", 14h)}) {
+        const std::string before = timeInZone(east);
+        const Json started = startedWith({"--time-zone", zone});
+        for (const Json& ahead : {started["alarm"], started["events"][0]["start"]}) {
+            EXPECT_GT(ahead, before) << zone;
+            EXPECT_LE(ahead, timeInZone(east + day)) << zone;
+        }
+    }
+}
+
+TEST_F(Render, TakesTheDevicesFileForAllOfIt)
+{
+    EXPECT_EQ(startedWith({"--device", folder.put("d.json", "{}")}), Json::parse(R"({"clock":"virtual"})"));
 }
 
 TEST_F(Render, PutsPropertyListsOnThePhoneAsTheyAre)

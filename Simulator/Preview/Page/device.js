@@ -7,6 +7,9 @@ const weatherTexts = [
     ["conditions", "itemCondition", "Partly Cloudy"], ["location", "itemLocation", "Haifa"],
     ["sunrise", "sunrise", "6:12"], ["sunset", "sunset", "16:41"],
 ];
+// Those that the phone has pictures of; any other text may be typed.
+const conditions = ["Clear", "Mostly Clear", "Partly Cloudy", "Cloudy", "Overcast", "Fog", "Drizzle", "Rain", "Showers",
+    "Thunderstorms", "Sleet", "Snow", "Hail", "Windy"];
 const screens = [[320, 568, 2], [375, 667, 2], [375, 812, 3], [390, 844, 3], [414, 896, 2], [428, 926, 3]];
 const locales = ["ar_EG", "de_DE", "en_GB", "en_US", "es_ES", "fr_FR", "he_IL", "it_IT", "ja_JP", "pt_BR", "ru_RU",
     "zh_CN", "zh_TW"];
@@ -52,6 +55,15 @@ export class DevicePanel {
         return this.#call("device.set", members);
     }
 
+    // With the picture of its conditions at this time.
+    async #setWeather(weather) {
+        try {
+            await this.#set(await this.connection.call("weather.glyph", { weather }));
+        } catch (error) {
+            this.report(error.message);
+        }
+    }
+
     #take(standing) {
         if (!standing.device)
             return;
@@ -84,20 +96,24 @@ export class DevicePanel {
     #weather() {
         const fields = weatherTexts.map(([name, label, example]) => {
             const field = element("input", { type: "text", placeholder: example });
-            field.onchange = () => this.#set({ weather: { ...this.#device.weather, [name]: field.value } });
+            if (name === "conditions")
+                field.setAttribute("list", "conditions");
+            field.onchange = () => this.#setWeather({ ...this.#device.weather, [name]: field.value });
             this.#follow(field, ({ weather }) => (field.value = weather?.[name] ?? ""));
             return { name, example, row: row(this.text(label), field) };
         });
         const present = toggle({});
-        present.onchange = () => this.#set({
-            weather: present.checked ? Object.fromEntries(fields.map(({ name, example }) => [name, example])) : null,
-        });
+        present.onchange = () => this.#setWeather(
+            present.checked ? Object.fromEntries(fields.map(({ name, example }) => [name, example])) : null);
         this.#follow(present, ({ weather }) => {
             present.checked = weather !== null;
             for (const field of fields)
                 field.row.hidden = weather === null;
         });
-        return group(this.text("weather"), [row(this.text("weather"), present), ...fields.map((field) => field.row)]);
+        const known = element("datalist", { id: "conditions" },
+            ...conditions.map((value) => element("option", { value })));
+        return group(this.text("weather"),
+            [row(this.text("weather"), present), ...fields.map((field) => field.row), known]);
     }
 
     #alarm() {
@@ -150,7 +166,12 @@ export class DevicePanel {
         const time = element("input", { type: "datetime-local", step: 1 });
         time.onfocus = () => this.connection.call("phone.info").then(
             (info) => (time.value = info.time ?? ""), (error) => this.report(error.message));
-        time.onchange = () => time.value && this.#call("clock.set", { time: withSeconds(time.value) });
+        time.onchange = async () => {
+            if (!time.value)
+                return;
+            await this.#call("clock.set", { time: withSeconds(time.value) });
+            await this.#setWeather(this.#device.weather);
+        };
         const name = (locale) => called(locale, this.texts, "language");
         const languages = ["ar", "de", "en", "es", "fr", "he", "it", "ja", "pt", "ru", "zh-Hans", "zh-Hant"];
         return group(this.text("surroundings"), [row(this.text("timeNow"), time),
