@@ -22,15 +22,15 @@ test("shows two browsers the same phone and each other's changes", async () => {
     const before = await picture(one);
     await untilPictureIs(other, before);
     await one.click("#tab-subTime");
-    await one.locator("[data-key=twentyFourTime]").check();
+    await one.locator("[data-key=enableTime]").uncheck();
     await untilPictureDiffers(other, before);
     const changed = await picture(other);
     await untilPictureIs(one, changed);
-    await other.waitForFunction(() => document.querySelector("[data-key=twentyFourTime]").checked);
+    await other.waitForFunction(() => !document.querySelector("[data-key=enableTime]").checked);
     await other.click("#tab-subTime");
-    await other.locator("[data-key=twentyFourTime]").uncheck();
+    await other.locator("[data-key=enableTime]").check();
     await untilPictureIs(one, before);
-    await one.waitForFunction(() => !document.querySelector("[data-key=twentyFourTime]").checked);
+    await one.waitForFunction(() => document.querySelector("[data-key=enableTime]").checked);
 });
 
 test("shows in the panel what was stored elsewhere", async () => {

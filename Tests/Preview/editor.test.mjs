@@ -3,27 +3,14 @@ import assert from "node:assert/strict";
 import { existsSync } from "node:fs";
 import { join } from "node:path";
 import { test } from "node:test";
-import { call, coloursFile, openPage, picture, settingsFile, sharePhoneAndBrowser,
-    untilPictureDiffers } from "./support.mjs";
+import { call, coloursFile, openPage, picture, settingsFile, sharePhoneAndBrowser, until, untilPictureDiffers,
+    untilShown } from "./support.mjs";
 
 let root, preview, browser;
 sharePhoneAndBrowser((shared) => ({ root, preview, browser } = shared));
 
-// Asks until the phone answers as wanted, and answers what it said.
-async function until(ask, isWanted) {
-    for (;;) {
-        const answer = await ask();
-        if (isWanted(answer))
-            return answer;
-    }
-}
-
 async function view(page, id) {
     return (await call(page, "view.get", { id })).result;
-}
-
-function untilShown(page, id, isShown = true) {
-    return until(() => view(page, id), (found) => Boolean(found?.onScreen) === isShown);
 }
 
 // Where a control is on the page; what lies on the panel counts from the panel's corner.
@@ -55,7 +42,7 @@ async function drag(page, from, to) {
 }
 
 function stored(page, key) {
-    return until(async () => (await call(page, "settings.get")).result.values[key], (value) => value !== undefined);
+    return until(page, async () => (await call(page, "settings.get")).result.values[key], (value) => value !== undefined);
 }
 
 test("keeps a font, a place and a colour that were picked on the lock screen", async () => {
@@ -80,16 +67,16 @@ test("keeps a font, a place and a colour that were picked on the lock screen", a
     await click(page, "_segmentedControl", [0.45, 0.5]);
     await untilShown(page, "_colorWheel1");
     await click(page, "_colorWheel1");
-    const { result } = await until(() => call(page, "colours.get"), (reply) => reply.result.values.colourTime);
+    const { result } = await until(page, () => call(page, "colours.get"), (reply) => reply.result.values.colourTime);
     assert.match(result.values.colourTime, /^#[0-9A-F]{6}:1\.00$/);
 
     await click(page, "_done", undefined, null);
-    await until(() => view(page, "_optionView"), (found) => !found);
+    await until(page, () => view(page, "_optionView"), (found) => !found);
     await untilPictureDiffers(page, plain);
     assert.deepEqual(page.complaints, []);
     await page.reload();
     await page.waitForSelector("#screen[data-frame]");
-    const label = await until(() => view(page, "_timeLabel"), (found) => found.font.name === font);
+    const label = await until(page, () => view(page, "_timeLabel"), (found) => found.font.name === font);
     assert.equal(label.textColor.slice(0, 7), result.values.colourTime.slice(0, 7));
     assert.ok(Math.abs(label.frame[0] - 7 - Number(offset)) < 1e-3);
     assert.ok(preview.read(settingsFile).includes(`<string>${font}</string>`));
@@ -109,8 +96,8 @@ test("picks a colour in the system's own sheet", async () => {
     await click(page, "colorWell2", undefined, "colorWellView");
     await untilShown(page, "system.colourSheet.grid");
     await call(page, "control.set", { id: "colorWell2", value: "#FF8000FF" });
-    await until(() => call(page, "colours.get"), (reply) => reply.result.values.colourDate === "#FF8000:1.0");
-    const label = await until(() => view(page, "_dateLabel"), (found) => found.textColor === "#FF8000FF");
+    await until(page, () => call(page, "colours.get"), (reply) => reply.result.values.colourDate === "#FF8000:1.0");
+    const label = await until(page, () => view(page, "_dateLabel"), (found) => found.textColor === "#FF8000FF");
     assert.equal(label.hidden, false);
     assert.deepEqual(page.complaints, []);
     await page.context().close();

@@ -4,8 +4,8 @@ import { execFileSync } from "node:child_process";
 import { readFileSync } from "node:fs";
 import { join } from "node:path";
 import { test } from "node:test";
-import { call, coloursFile, openPage, picture, settingsFile, sharePhoneAndBrowser, untilPictureDiffers, untilPictureIs,
-    untilStatus, wallpaperFile } from "./support.mjs";
+import { call, coloursFile, openPage, picture, settingsFile, sharePhoneAndBrowser, still, untilPictureDiffers,
+    untilPictureIs, untilStatus, wallpaperFile } from "./support.mjs";
 
 const fontFolder = "Library/Application Support/LYRFont";
 let root, preview, browser;
@@ -54,7 +54,7 @@ test("carries a look in a link and takes it back", async () => {
     await untilStatus(page, "copied");
     const link = await page.evaluate(() => navigator.clipboard.readText());
     assert.ok(link.startsWith(`${preview.address}#look=1.`));
-    await call(page, "look.set", { look: { lyrlook: 1, settings: {}, colours: {} } });
+    await call(page, "look.set", { look: { lyrlook: 1, settings: still, colours: {} } });
     await untilPictureIs(page, plain);
     await page.context().close();
 
@@ -64,7 +64,7 @@ test("carries a look in a link and takes it back", async () => {
     assert.deepEqual((await call(other, "look.get")).result.look, look);
     await other.getByRole("button", { name: "Undo" }).click();
     await untilPictureIs(other, plain);
-    assert.deepEqual((await call(other, "look.get")).result.look.settings, {});
+    assert.deepEqual((await call(other, "look.get")).result.look.settings, still);
     await other.context().close();
 });
 

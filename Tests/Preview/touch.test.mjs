@@ -1,17 +1,13 @@
 // Fingers on the page's phone.
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { call, openPage, picture, sharePhoneAndBrowser, untilPictureDiffers } from "./support.mjs";
+import { call, openPage, picture, sharePhoneAndBrowser, untilPictureDiffers, untilShown } from "./support.mjs";
 
 let preview, browser;
 sharePhoneAndBrowser((shared) => ({ preview, browser } = shared));
 
-async function untilEditorIsOpen(page) {
-    for (;;) {
-        const { result } = await call(page, "view.get", { id: "_segmentedControl" });
-        if (result?.onScreen)
-            return;
-    }
+function untilEditorIsOpen(page) {
+    return untilShown(page, "_segmentedControl");
 }
 
 test("opens the editor when the mouse is held on the lock screen", async () => {
