@@ -123,8 +123,8 @@ Json startParameters(const StartOptions& options, const Workshop& workshop)
         addDevice(start, deviceIn(options.device));
     else if (!options.isBare)
         addDevice(start, phoneInUse(timeAtStart(start)));
-    if (start.contains("weather"))
-        start["weather"] = withGlyph(start["weather"], timeAtStart(start), glyphFolder());
+    if (const auto weather = start.find("weather"); weather != start.end() && !weather->contains("image"))
+        *weather = withGlyph(*weather, timeAtStart(start), glyphFolder());
     return start;
 }
 

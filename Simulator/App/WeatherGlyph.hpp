@@ -14,7 +14,8 @@ std::string glyphFor(const std::string& conditions, bool isNight);
 // both, it is day.
 bool isNight(const Control::Json& weather, const std::string& time);
 
-// The weather, as `device.set` takes it, with the glyph of its conditions as its image. An image from elsewhere stays.
+// The weather, as `device.set` takes it, with the glyph of its conditions as its image. A glyph that it has already may be
+// of other conditions or another time; an image from elsewhere stays.
 Control::Json withGlyph(Control::Json weather, const std::string& time, const std::filesystem::path& glyphs);
 
 }

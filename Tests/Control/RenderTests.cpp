@@ -146,6 +146,19 @@ TEST_F(Render, PassesOnWallpaperFontsAndDevice)
             {"alarm", nullptr}, {"style", "dark"}}));
 }
 
+TEST_F(Render, GivesWeatherWithoutAnImageThePictureOfItsConditions)
+{
+    const auto imageOf = [this](const Json& weather) {
+        const std::string device = folder.put("d.json", Json{{"weather", weather}}.dump());
+        return startedWith({"--device", device})["weather"].value("image", "");
+    };
+    const std::string rain = imageOf({{"conditions", "Rain"}});
+    EXPECT_TRUE(rain.ends_with("/share/lyr/Weather/rain.png")) << rain;
+    EXPECT_EQ(imageOf({{"conditions", "Snow"}, {"image", rain}}), rain);
+    EXPECT_EQ(imageOf({{"conditions", "Frogs"}}), "");
+    EXPECT_EQ(startedWith({"--device", folder.put("d.json", R"({"weather": null})")})["weather"], Json());
+}
+
 TEST_F(Render, StartsTheTimerOfTheDevicesFile)
 {
     const std::string device = folder.put("d.json", R"({"timer": 300, "battery": {"level": 0.5}})");

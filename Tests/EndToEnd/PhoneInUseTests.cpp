@@ -78,9 +78,15 @@ TEST_F(PhoneInUse, IsNotWhatTheProtocolStarts)
     Program program;
     program.call("phone.start", {{"weather", weather("Partly Cloudy")}});
     program.call("clock.settle", {{"seconds", 2}});
-    const Json icon = program.call("view.get", {{"id", "_weatherIcon"}});
-    EXPECT_TRUE(icon.at("image").is_null());
+    const auto runs = [&] { return program.call("view.get", {{"id", "_conditionLabel"}}).at("runs"); };
+    EXPECT_EQ(runs(), Json::array());
+    EXPECT_EQ(program.call("view.get", {{"id", "_temperatureLabel"}}).at("text"), "21");
+    Json said = weather("Partly Cloudy");
+    said["image"] = glyph("partly-cloudy");
+    program.call("phone.start", {{"weather", said}});
+    program.call("clock.settle", {{"seconds", 2}});
+    EXPECT_EQ(runs().size(), 1u);
     program.call("phone.start", Json::object());
     program.call("clock.settle", {{"seconds", 2}});
-    EXPECT_EQ(program.call("view.get", {{"id", "_temperatureLabel"}}).at("text"), "");
+    EXPECT_NE(program.call("view.get", {{"id", "_temperatureLabel"}}).at("text"), "21");
 }
