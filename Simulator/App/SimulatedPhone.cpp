@@ -71,7 +71,7 @@ public:
         Json state{{"now", Loop::shared().now()}, {"uptime", uptime()}, {"device", Control::describeDevice()},
             {"isLit", _shell.isLit()}, {"isLocked", _shell.isLocked()}};
         if (_wantsRelaunch)
-            state["log"] = ActivityLog::shared().take();
+            state["log"] = ActivityLog::shared().handOver();
         return state;
     }
 
@@ -120,8 +120,8 @@ private:
         if (start.state.is_object()) {
             now = start.state.at("now");
             _earlierUptime = start.state.at("uptime");
-            for (const Json& record : start.state.value("log", Json::array()))
-                ActivityLog::shared().restore(record);
+            if (start.state.contains("log"))
+                ActivityLog::shared().restore(start.state.at("log"));
         }
         Loop::shared().reset(now, start.parameters.at("clock") == "real" ? ClockKind::Real : ClockKind::Virtual);
         ActivityLog::shared().setClock([this] { return uptime(); });

@@ -17,12 +17,38 @@ void ActivityLog::record(const std::string& kind, Fields fields)
     record["kind"] = kind;
     for (auto& [name, value] : fields.get_ref<Fields::object_t&>())
         record[name] = std::move(value);
+    add(std::move(record));
+}
+
+void ActivityLog::add(Fields record)
+{
+    if (records_.size() == mostRecords) {
+        records_.pop_front();
+        ++dropped_;
+    }
     records_.push_back(std::move(record));
 }
 
 ActivityLog::Fields ActivityLog::take()
 {
-    return std::exchange(records_, Fields::array());
+    Fields taken = Fields::array();
+    for (Fields& record : std::exchange(records_, {}))
+        taken.push_back(std::move(record));
+    dropped_ = 0;
+    return taken;
+}
+
+ActivityLog::Fields ActivityLog::handOver()
+{
+    const std::size_t dropped = dropped_;
+    return {{"records", take()}, {"dropped", dropped}};
+}
+
+void ActivityLog::restore(Fields handedOver)
+{
+    dropped_ = handedOver.at("dropped");
+    for (Fields& record : handedOver.at("records"))
+        add(std::move(record));
 }
 
 }

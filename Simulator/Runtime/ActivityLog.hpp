@@ -3,9 +3,10 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstddef>
+#include <deque>
 #include <functional>
 #include <string>
-#include <vector>
 
 namespace Simulator {
 
@@ -13,20 +14,30 @@ class ActivityLog {
 public:
     using Fields = nlohmann::ordered_json;
 
+    /// Nobody may ever take them, so of more records the oldest are forgotten.
+    static constexpr std::size_t mostRecords = 100'000;
+
     static ActivityLog& shared();
 
     /// Tells the seconds since the phone's start on the phone's clock.
     void setClock(std::function<double()> clock) { clock_ = std::move(clock); }
     /// Adds `{"at", "kind", …fields}`; the fields are those that the control protocol lists for the kind.
     void record(const std::string& kind, Fields fields = Fields::object());
-    /// Puts back a record that was taken in an earlier process of the same phone.
-    void restore(Fields record) { records_.push_back(std::move(record)); }
     /// The records since the last call, in order.
     Fields take();
+    /// How many older ones were forgotten since the last `take`.
+    std::size_t dropped() const { return dropped_; }
+
+    /// Takes all there is, for a later process of the same phone, which puts it back.
+    Fields handOver();
+    void restore(Fields handedOver);
 
 private:
+    void add(Fields record);
+
     std::function<double()> clock_ = [] { return 0.0; };
-    Fields records_ = Fields::array();
+    std::deque<Fields> records_;
+    std::size_t dropped_ = 0;
 };
 
 }

@@ -8,7 +8,11 @@ namespace Simulator::Control {
 
 void addLogMethods(PhoneContext& context)
 {
-    context.add("log.take", [](const Json&) { return Json{{"records", ActivityLog::shared().take()}}; });
+    context.add("log.take", [](const Json&) {
+        ActivityLog& log = ActivityLog::shared();
+        const std::size_t dropped = log.dropped();
+        return Json{{"records", log.take()}, {"dropped", dropped}};
+    });
     context.add("counts.take", [](const Json&) { return Json{{"counts", ExtensionCounts::shared().take()}}; });
 }
 
