@@ -6,6 +6,7 @@
 #include <chrono>
 #include <cmath>
 #include <filesystem>
+#include <regex>
 #include <unicode/ucal.h>
 #include <unicode/unistr.h>
 #include <unistd.h>
@@ -98,19 +99,12 @@ bool isTimeZone(const std::string& name)
     return U_SUCCESS(status);
 }
 
-// "en", "en_US", "zh-Hans", "ar_SA@calendar=gregorian".
+// "en", "en_US", "zh-Hans-CN", "ar_SA@calendar=gregorian".
 bool isLocale(const std::string& name)
 {
-    const auto isLetter = [](char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); };
-    const auto language = std::find_if_not(name.begin(), name.end(), isLetter);
-    const auto length = language - name.begin();
-    if (length < 2 || length > 8 || name.size() > 120)
-        return false;
-    return (language == name.end() || std::string_view("-_@").find(*language) != std::string_view::npos)
-        && std::all_of(language, name.end(), [&](char c) {
-               return isLetter(c) || (c >= '0' && c <= '9')
-                   || std::string_view("-_@=;").find(c) != std::string_view::npos;
-           });
+    static const std::regex form("[A-Za-z]{2,8}([-_][A-Za-z0-9]{1,8})*(@[a-z]+=[A-Za-z0-9-]+(;[a-z]+=[A-Za-z0-9-]+)*)?");
+    constexpr std::size_t longest = 120;
+    return name.size() <= longest && std::regex_match(name, form);
 }
 
 bool isBase64(const std::string& text)

@@ -2,6 +2,7 @@
 #include "Platform/Foundation/NSLocale.hpp"
 #include "Platform/Foundation/NSArray.hpp"
 #include "Platform/Foundation/NSDictionary.hpp"
+#include "Simulator/Foundation/IcuNames.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
@@ -30,6 +31,7 @@ constexpr std::array keyNames = {
 
 IMP stockComponents = nullptr;
 IMP stockIdentifier = nullptr;
+IMP stockLocaleIdentifier = nullptr;
 IMP stockObjectForKey = nullptr;
 
 // Asked for at every refresh of the clock, so the object is kept as long as the user keeps the locale.
@@ -42,6 +44,18 @@ NS::Locale NSLocale_currentLocale(Class, SEL)
         current = NS::Locale::make<"initWithLocaleIdentifier:">(stringOf(*identifier));
     }
     return current;
+}
+
+// Every locale is made of its canonical identifier; GNUstep's own raises for a hyphen before the region.
+NS::String NSLocale_canonicalIdentifier(Class, SEL, NS::String identifier)
+{
+    return identifier ? stringOf(localeName(textOf(identifier))) : NS::String();
+}
+
+// GNUstep writes an underscore before a script.
+NS::String NSLocale_localeIdentifier(id self, SEL command)
+{
+    return stringOf(localeName(textOf(ObjC::callImplementation<NS::String>(stockLocaleIdentifier, self, command))));
 }
 
 NS::Array NSLocale_preferredLanguages(Class, SEL)
@@ -111,12 +125,16 @@ void registerNSLocale()
 {
     stockComponents = stockClassMethod("componentsFromLocaleIdentifier:");
     stockIdentifier = stockClassMethod("localeIdentifierFromComponents:");
+    stockLocaleIdentifier
+        = class_getMethodImplementation(objc_getClass("NSLocale"), sel_registerName("localeIdentifier"));
     stockObjectForKey = class_getMethodImplementation(objc_getClass("NSLocale"), sel_registerName("objectForKey:"));
     replaceClassMethod<NSLocale_currentLocale>("NSLocale", "currentLocale");
     replaceClassMethod<NSLocale_currentLocale>("NSLocale", "autoupdatingCurrentLocale");
+    replaceClassMethod<NSLocale_canonicalIdentifier>("NSLocale", "canonicalLocaleIdentifierFromString:");
     replaceClassMethod<NSLocale_preferredLanguages>("NSLocale", "preferredLanguages");
     replaceClassMethod<NSLocale_componentsFromLocaleIdentifier>("NSLocale", "componentsFromLocaleIdentifier:");
     replaceClassMethod<NSLocale_localeIdentifierFromComponents>("NSLocale", "localeIdentifierFromComponents:");
+    replaceInFamily<NSLocale_localeIdentifier>("NSLocale", "localeIdentifier");
     replaceInFamily<NSLocale_objectForKey>("NSLocale", "objectForKey:");
 }
 

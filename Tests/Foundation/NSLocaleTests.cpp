@@ -27,6 +27,36 @@ TEST_F(NSLocale, CurrentIsThePhones)
     EXPECT_EQ(textOf(NS::Locale::currentLocale().localeIdentifier()), "he_IL");
 }
 
+TEST_F(NSLocale, HyphensMeanWhatUnderscoresDo)
+{
+    for (const auto& [given, expected] : {std::pair{"en-US", "en_US"}, {"zh-Hans-CN", "zh-Hans_CN"},
+             {"zh_Hans_CN", "zh-Hans_CN"}, {"zh-Hans_CN", "zh-Hans_CN"}, {"sr-Latn-RS", "sr-Latn_RS"}, {"de", "de"},
+             {"de-u-ca-buddhist", "de@calendar=buddhist"}, {"abcdefgh-12", "abcdefgh__12"}}) {
+        PhoneLocale::shared().locale = given;
+        EXPECT_EQ(textOf(NS::Locale::currentLocale().localeIdentifier()), expected) << given;
+        const NS::Locale made = NS::Locale::make<"initWithLocaleIdentifier:">(stringOf(given));
+        EXPECT_EQ(textOf(made.localeIdentifier()), expected) << given;
+    }
+}
+
+TEST_F(NSLocale, IsMadeOfAnyIdentifier)
+{
+    for (const std::string& identifier : {std::string(), std::string("-"), std::string("_"), std::string("en-"),
+             std::string("en--US"), std::string("-US"), std::string("@calendar"), std::string("e n"), std::string("zh-_-"),
+             std::string(5000, 'e'), "en" + std::string(5000, '-')}) {
+        const NS::Locale made = NS::Locale::make<"initWithLocaleIdentifier:">(stringOf(identifier));
+        EXPECT_NO_THROW(made.localeIdentifier()) << identifier;
+        EXPECT_NO_THROW((part(identifier.c_str(), "kCFLocaleLanguageCodeKey"))) << identifier;
+    }
+}
+
+TEST_F(NSLocale, KeepsItsScript)
+{
+    const NS::Locale locale = NS::Locale::make<"initWithLocaleIdentifier:">("sr-Latn-RS"_ns);
+    EXPECT_EQ(textOf(locale.send<NS::String, "objectForKey:">("kCFLocaleScriptCodeKey"_ns)), "Latn");
+    EXPECT_EQ(textOf(locale.send<NS::String, "objectForKey:">("kCFLocaleCountryCodeKey"_ns)), "RS");
+}
+
 TEST_F(NSLocale, LanguagesAreThePhones)
 {
     PhoneLocale::shared().languages = {"zh-Hans", "de-DE"};

@@ -1,6 +1,7 @@
 // device.*: battery, weather, alarm, calendar, appearance, language.
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
+#include "Simulator/Foundation/IcuNames.hpp"
 #include "Simulator/Foundation/PhoneLocale.hpp"
 
 #include <array>
@@ -99,6 +100,14 @@ void applyAlarm(const Json& json)
     alarm = json.is_null() ? std::nullopt : std::optional(json.get<std::string>());
 }
 
+void applyLanguages(const Json& json)
+{
+    auto& languages = PhoneLocale::shared().languages;
+    languages.clear();
+    for (const std::string name : json)
+        languages.push_back(languageName(name));
+}
+
 }
 
 void applyDevice(const Json& parameters)
@@ -113,9 +122,9 @@ void applyDevice(const Json& parameters)
             [](const Json& json) {
                 DeviceState::shared().style = json == "dark" ? InterfaceStyle::Dark : InterfaceStyle::Light;
             }},
-        {"locale", [](const Json& json) { PhoneLocale::shared().locale = json; }},
+        {"locale", [](const Json& json) { PhoneLocale::shared().locale = localeName(json.get<std::string>()); }},
         {"timeZone", [](const Json& json) { PhoneLocale::shared().timeZone = json; }},
-        {"languages", [](const Json& json) { PhoneLocale::shared().languages = json.get<std::vector<std::string>>(); }},
+        {"languages", applyLanguages},
     };
     for (const auto& [name, apply] : members)
         if (parameters.contains(name))
