@@ -17,7 +17,7 @@ int measureStart(const char* root, const char* extension)
     Simulator::Control::ShellStart start;
     start.parameters = {{"clock", "virtual"}, {"extension", false}};
     start.root = root;
-    auto shell = Simulator::App::makeSimulatedPhone(extension);
+    auto shell = Simulator::App::makeSimulatedPhone({.extension = extension});
     shell->start(start);
 
     int loaded = 0;

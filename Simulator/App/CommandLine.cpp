@@ -52,15 +52,20 @@ struct Values {
     std::string look;
     std::vector<std::string> languages;
     bool stdio = false;
-    std::string extension; // a host path
+    ShellOptions shellOptions;
     std::string shell = "/proc/self/exe"; // the program of the shell process
     int socket = -1;
 };
 
 void addExtension(CLI::App& command, Values& values)
 {
-    command.add_option("--extension", values.extension, "The extension: a library of Linux or of the phone")
+    command.add_option("--extension", values.shellOptions.extension, "The extension: a library of Linux or of the phone")
         ->type_name("FILE");
+}
+
+void addVerbose(CLI::App& command, Values& values)
+{
+    command.add_flag("--verbose", values.shellOptions.isVerbose, "Print the extension's log on standard error");
 }
 
 // A shell process for another processor, under an emulator; nothing for users.
@@ -112,6 +117,7 @@ void addRender(CLI::App& app, Values& values)
     CLI::App& command = *app.add_subcommand("render", "Draw a picture of the lock screen");
     command.add_option("-o,--output", values.output, "PNG file to write")->required()->type_name("FILE");
     addExtension(command, values);
+    addVerbose(command, values);
     addShellProgram(command, values);
     addStartOptions(command, values);
 }
@@ -121,6 +127,7 @@ void addServe(CLI::App& app, Values& values)
     CLI::App& command = *app.add_subcommand("serve", "Serve the control protocol to scripts and tests");
     command.add_flag("--stdio", values.stdio, "One JSON-RPC request a line in, one reply a line out")->required();
     addExtension(command, values);
+    addVerbose(command, values);
     addShellProgram(command, values);
 }
 
@@ -136,6 +143,7 @@ void addPreview(CLI::App& app, Values& values)
         ->type_name("N")
         ->check(CLI::Range(1, 65535));
     addRoot(command, values, "Folder that is the phone's / and is kept (default: a temporary one)");
+    addVerbose(command, values);
     addStartOptions(command, values);
 }
 
@@ -157,6 +165,7 @@ void addShell(CLI::App& app, Values& values)
     CLI::App& command = *app.add_subcommand("shell")->group("");
     command.add_option("--fd", values.socket)->required();
     addExtension(command, values);
+    addVerbose(command, values);
 }
 
 void describe(CLI::App& app, Values& values)
@@ -192,7 +201,7 @@ void logLine(const std::string& line)
 
 int runShell(const Values& values, const PhoneKind& kind)
 {
-    const auto shell = kind.make(values.extension);
+    const auto shell = kind.make(values.shellOptions);
     return ShellProcess(*shell, Descriptor(values.socket)).run();
 }
 
@@ -200,14 +209,17 @@ int runShell(const Values& values, const PhoneKind& kind)
 std::vector<std::string> shellCommand(const Values& values, const PhoneKind& kind)
 {
     std::vector<std::string> command{values.shell, "shell"};
-    if (values.extension.empty())
+    if (values.shellOptions.isVerbose)
+        command.push_back("--verbose");
+    const std::string& extension = values.shellOptions.extension;
+    if (extension.empty())
         return command;
     try {
-        kind.checkExtension(values.extension);
+        kind.checkExtension(extension);
     } catch (const std::exception& error) {
-        throw Failure(values.extension + ": cannot be loaded: " + error.what());
+        throw Failure(extension + ": cannot be loaded: " + error.what());
     }
-    command.insert(command.end(), {"--extension", std::filesystem::absolute(values.extension).string()});
+    command.insert(command.end(), {"--extension", std::filesystem::absolute(extension).string()});
     return command;
 }
 

@@ -8,6 +8,7 @@
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Foundation/Foundation.hpp"
 #include "Simulator/Foundation/PhoneLocale.hpp"
+#include "Simulator/Foundation/SystemLog.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
 #include "Simulator/Loader/LackingParts.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
@@ -35,9 +36,10 @@ double hostNow()
 
 class SimulatedPhone : public Control::Shell {
 public:
-    explicit SimulatedPhone(std::string extension)
-        : _extension(std::move(extension))
+    explicit SimulatedPhone(const ShellOptions& options)
+        : _extension(options.extension)
     {
+        SystemLog::shared().isOnStandardError = options.isVerbose;
     }
 
     void addMethods(Control::Dispatcher& dispatcher) override
@@ -156,9 +158,9 @@ private:
 
 }
 
-std::unique_ptr<Control::Shell> makeSimulatedPhone(const std::string& extension)
+std::unique_ptr<Control::Shell> makeSimulatedPhone(const ShellOptions& options)
 {
-    return std::make_unique<SimulatedPhone>(extension);
+    return std::make_unique<SimulatedPhone>(options);
 }
 
 }

@@ -1,6 +1,7 @@
-// The system log: on standard error and, for what the extension says, in the activity log.
+// The system log: what the extension says is in the activity log, and on standard error if that is wanted.
 #include "Platform/Foundation/NSLog.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
+#include "Simulator/Foundation/SystemLog.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 
@@ -42,11 +43,18 @@ void logMessage(id format, va_list arguments, void* caller)
         return;
     const bool own = isFoundationItself(caller);
     const std::string text = formatted(format, arguments);
-    std::fprintf(stderr, "%s: %s\n", own ? "foundation" : "phone", text.c_str());
+    if (own || SystemLog::shared().isOnStandardError)
+        std::fprintf(stderr, "%s: %s\n", own ? "foundation" : "phone", text.c_str());
     if (!own)
         ActivityLog::shared().record("nslog", {{"text", text}});
 }
 
+}
+
+SystemLog& SystemLog::shared()
+{
+    static SystemLog log;
+    return log;
 }
 
 // The calls reach the functions below by their names; this one makes the linker keep them.

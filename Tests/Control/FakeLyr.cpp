@@ -3,7 +3,7 @@
 
 int main(int argumentCount, char** arguments)
 {
-    const auto make = [](const std::string&) { return FakePhone::make(); };
+    const auto make = [](const Simulator::App::ShellOptions&) { return FakePhone::make(); };
     const auto checkNothing = [](const std::string&) {};
     return Simulator::App::run(argumentCount, arguments, {make, checkNothing, FakePhone::methods()});
 }

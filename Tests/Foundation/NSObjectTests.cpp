@@ -6,6 +6,7 @@
 #include "Platform/Foundation/NSDictionary.hpp"
 #include "Platform/Foundation/NSLog.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
+#include "Simulator/Foundation/SystemLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 
 using namespace Simulator;
@@ -82,14 +83,24 @@ TEST_F(NSObject, GetsDelayedMessagesOnThePhonesLoop)
     EXPECT_EQ(notes(), "bawq");
 }
 
-TEST_F(NSObject, LogsToStandardErrorAndTheRecord)
+TEST_F(NSObject, LogsToTheRecord)
 {
+    testing::internal::CaptureStderr();
+    NS::log("said"_ns);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    EXPECT_EQ(records("nslog").size(), 1u);
+}
+
+TEST_F(NSObject, LogsToStandardErrorTooWhereThatIsWanted)
+{
+    SystemLog::shared().isOnStandardError = true;
     Loop::shared().advance(3);
     testing::internal::CaptureStderr();
     NS::log("50% done, %@ é"_ns);
     NSLog("%@ has %d"_ns.raw(), "it"_ns.raw(), 7);
     NSLog(nullptr);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "phone: 50% done, %@ é\nphone: it has 7\n");
+    SystemLog::shared().isOnStandardError = false;
     const auto logged = records("nslog");
     ASSERT_EQ(logged.size(), 2u);
     EXPECT_EQ(logged[0]["text"], "50% done, %@ é");
