@@ -2,9 +2,9 @@
 #include "Simulator/App/LookFile.hpp"
 
 #include "Simulator/App/StartFiles.hpp"
+#include "Simulator/Control/OutputFile.hpp"
 #include "Simulator/Preview/Look.hpp"
 
-#include <fstream>
 #include <iostream>
 
 namespace Simulator::App {
@@ -13,12 +13,8 @@ using Control::Json;
 
 int exportLook(const std::string& root, const std::string& file)
 {
-    const UnfinishedFile look(file, "a look");
-    std::ofstream stream(look.path(), std::ios::binary);
-    stream << Preview::readLook(root).dump(4) << std::endl;
-    if (!stream)
-        throw Failure(file + ": cannot be written");
-    look.finish();
+    const Control::OutputFile look(file);
+    look.write(Preview::readLook(root).dump(4) + "\n");
     return 0;
 }
 

@@ -2,15 +2,14 @@
 #include "Simulator/App/Render.hpp"
 
 #include "Simulator/App/Lifeline.hpp"
+#include "Simulator/Control/OutputFile.hpp"
 
-#include <filesystem>
 #include <iostream>
 #include <unistd.h>
 
 namespace Simulator::App {
 
 using namespace Control;
-namespace fs = std::filesystem;
 
 namespace {
 
@@ -32,11 +31,11 @@ private:
     bool _isTerminal = isatty(STDERR_FILENO);
 };
 
-void takePicture(const RenderOptions& options, Supervisor& supervisor)
+void takePicture(const RenderOptions& options, Supervisor& supervisor, const OutputFile& output)
 {
     const Progress progress;
     const Workshop workshop;
-    const UnfinishedFile picture(options.output, "a picture");
+    const std::string picture = workshop.at("lock.png");
     progress.show("starting the phone …");
     supervisor.call("phone.start", startParameters(options.start, workshop));
     if (const auto seconds = timerSeconds(options.start))
@@ -44,9 +43,9 @@ void takePicture(const RenderOptions& options, Supervisor& supervisor)
     progress.show("waiting for the lock screen to settle …");
     supervisor.call("clock.settle", {{"seconds", settlingSeconds}});
     progress.show("taking the picture …");
-    supervisor.call("screen.capture", {{"path", fs::absolute(picture.path()).string()}});
+    supervisor.call("screen.capture", {{"path", picture}});
     supervisor.stop();
-    picture.finish();
+    output.write(bytesOf(picture));
 }
 
 }
@@ -54,17 +53,22 @@ void takePicture(const RenderOptions& options, Supervisor& supervisor)
 int render(const RenderOptions& options, Supervisor::Options supervisorOptions)
 {
     int signal = 0;
+    bool saysPath = true;
     try {
         Lifeline lifeline;
         supervisorOptions.wait = [&](int descriptor, short events) { lifeline.wait(descriptor, events); };
+        const OutputFile output(options.output, OutputFile::OwnStreams::Taken, supervisorOptions.wait);
+        // Nothing follows a picture on standard output.
+        saysPath = !output.isStandardOutput();
         Supervisor supervisor(std::move(supervisorOptions));
-        takePicture(options, supervisor);
+        takePicture(options, supervisor, output);
     } catch (const Interrupted& interrupted) {
         signal = interrupted.signal;
     }
     if (signal)
         dieOf(signal);
-    std::cout << options.output << std::endl;
+    if (saysPath)
+        std::cout << options.output << std::endl;
     return 0;
 }
 

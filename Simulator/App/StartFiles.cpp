@@ -11,7 +11,6 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <unistd.h>
 
 namespace Simulator::App {
 
@@ -98,7 +97,7 @@ Json jsonOf(const std::string& path, const std::string& bytes)
 
 std::string Workshop::put(const std::string& name, const std::string& bytes) const
 {
-    const std::string path = _folder.path() + "/" + name;
+    const std::string path = at(name);
     std::ofstream file(path, std::ios::binary);
     if (!file.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).flush())
         throw Failure("cannot write " + path);
@@ -132,25 +131,6 @@ std::optional<double> timerSeconds(const StartOptions& options)
 {
     const Json device = options.device.empty() ? Json::object() : deviceIn(options.device);
     return device.contains(timerMember) ? std::optional(device.at(timerMember).get<double>()) : std::nullopt;
-}
-
-UnfinishedFile::UnfinishedFile(const std::string& output, const std::string& what)
-    : _output(output)
-    , _path(output + ".part-" + std::to_string(getpid()))
-{
-    if (!hostDestination().accepts(output))
-        throw Failure(output + ": " + what + " needs a file name in a folder that exists and can be written");
-}
-
-UnfinishedFile::~UnfinishedFile()
-{
-    std::error_code ignored;
-    fs::remove(_path, ignored);
-}
-
-void UnfinishedFile::finish() const
-{
-    fs::rename(_path, _output);
 }
 
 }

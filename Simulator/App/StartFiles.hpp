@@ -27,6 +27,7 @@ struct StartOptions {
 // A host folder for what is made on the way, removed with its owner.
 class Workshop {
 public:
+    std::string at(const std::string& name) const { return _folder.path() + "/" + name; }
     std::string put(const std::string& name, const std::string& bytes) const;
 
 private:
@@ -40,22 +41,5 @@ std::optional<double> timerSeconds(const StartOptions&);
 
 std::string bytesOf(const std::string& path);
 Control::Json jsonOf(const std::string& path, const std::string& bytes);
-
-// A file that takes its place when it is complete.
-class UnfinishedFile {
-public:
-    // `what` the file is, for the message of the Failure.
-    UnfinishedFile(const std::string& output, const std::string& what);
-    ~UnfinishedFile();
-    UnfinishedFile(const UnfinishedFile&) = delete;
-    UnfinishedFile& operator=(const UnfinishedFile&) = delete;
-
-    const std::string& path() const { return _path; }
-    void finish() const;
-
-private:
-    std::string _output;
-    std::string _path;
-};
 
 }

@@ -30,7 +30,7 @@ Type hostFile(const std::string& what);
 Type hostFolder();
 // An existing file or folder.
 Type hostPath();
-// A file that may be there or not, in a folder that is.
+// A path; what is wrong with it, if anything, its OutputFile says.
 Type hostDestination();
 
 // [x, y] in points of the screen, beside it as well.

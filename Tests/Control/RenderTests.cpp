@@ -6,7 +6,11 @@
 #include <algorithm>
 #include <chrono>
 #include <ctime>
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/sysmacros.h>
+#include <unistd.h>
 
 using namespace Support;
 using namespace std::chrono_literals;
@@ -14,7 +18,6 @@ using Simulator::Control::propertyListXml;
 
 namespace {
 
-const std::string jpegStart = "\xFF\xD8\xFF\xE0";
 const std::string settingsOnPhone = "/var/mobile/Library/Preferences/com.ostrel.lyrprefs.plist";
 const std::string coloursOnPhone = "/var/mobile/Library/Preferences/com.ostrel.colorslyr.plist";
 
@@ -122,7 +125,7 @@ TEST_F(Render, TakesTheDevicesFileForAllOfIt)
 
 TEST_F(Render, PutsPropertyListsOnThePhoneAsTheyAre)
 {
-    const std::string settings = folder.put("s.plist", propertyListXml({{"a", Json::array({1})}}));
+    const std::string settings = folder.put("s.plist", propertyListXml({{"timeFormat", Json::array({1})}}));
     const std::string colours = folder.put("c.plist", propertyListXml({{"colourTime", "#fff"}}));
     EXPECT_EQ(startedWith({"--settings", settings, "--colours", colours})["files"],
         Json({{settingsOnPhone, settings}, {coloursOnPhone, colours}}));
@@ -130,13 +133,13 @@ TEST_F(Render, PutsPropertyListsOnThePhoneAsTheyAre)
 
 TEST_F(Render, TakesSettingsInJson)
 {
-    const std::string settings = folder.put("s.json", "\n {\"enabled\": true, \"list\": [1, {\"a\": \"b\"}]}");
+    const std::string settings = folder.put("s.json", "\n {\"enabled\": true, \"timeFormat\": [1, {\"a\": \"b\"}]}");
     EXPECT_TRUE(startedWith({"--settings", settings})["files"].contains(settingsOnPhone));
 }
 
 TEST_F(Render, PassesOnWallpaperFontsAndDevice)
 {
-    const std::string wallpaper = folder.put("w.jpg", jpegStart);
+    const std::string wallpaper = folder.put("w.jpg", "\xFF\xD8\xFF\xE0");
     const std::string font = folder.put("f.ttf", "font");
     const std::string other = folder.put("g.ttf", "font");
     const std::string device = folder.put("d.json", R"({"battery":{"level":0.5},"alarm":null,"style":"light"})");
@@ -205,10 +208,64 @@ TEST_F(Render, KeepsAnOldPictureWhenItFails)
     EXPECT_EQ(folder.read("lock.png"), "old");
 }
 
-TEST(RenderOutput, NeedsAFolder)
+TEST_F(Render, TakesNoPictureWhereItCannotBeWritten)
 {
-    const Finished finished = runProgram({"render", "-o", "/none/lock.png"});
-    EXPECT_EQ(finished.status, 1);
-    EXPECT_EQ(finished.errors,
-        "lyr: /none/lock.png: a picture needs a file name in a folder that exists and can be written\n");
+    mkfifo(folder.at("pipe").c_str(), 0600);
+    folder.put("mine.png", "kept");
+    chmod(folder.at("mine.png").c_str(), 0444);
+    for (const auto& [path, why] : {std::pair{std::string("/none/lock.png"), "a file name in a folder that exists is needed"},
+             std::pair{folder.at("pipe"), "nobody reads from this pipe"},
+             std::pair{folder.at("mine.png"), "it is read-only"},
+             std::pair{folder.path().string(), "it is a folder"}}) {
+        const Finished finished = runProgram({"render", "-o", path});
+        EXPECT_EQ(finished.status, 1);
+        EXPECT_EQ(finished.output, "");
+        EXPECT_EQ(finished.errors, "lyr: " + path + ": cannot be written: " + why + "\n");
+    }
+    EXPECT_EQ(folder.read("mine.png"), "kept");
 }
+
+TEST_F(Render, ReplacesWhatALinkLeadsTo)
+{
+    std::filesystem::create_symlink("target.png", folder.at("link.png"));
+    EXPECT_EQ(runProgram({"render", "-o", folder.at("link.png")}).status, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.at("link.png")));
+    EXPECT_TRUE(Json::accept(folder.read("target.png")));
+}
+
+TEST_F(Render, FillsAPipe)
+{
+    mkfifo(folder.at("pipe").c_str(), 0600);
+    const int reader = open(folder.at("pipe").c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+    EXPECT_EQ(runProgram({"render", "-o", folder.at("pipe")}).status, 0);
+    std::string picture(65536, '\0');
+    const auto length = read(reader, picture.data(), picture.size());
+    close(reader);
+    ASSERT_GT(length, 0);
+    EXPECT_TRUE(Json::accept(picture.substr(0, static_cast<std::size_t>(length))));
+}
+
+TEST_F(Render, TellsWhenADeviceIsFullAndLeavesIt)
+{
+    // Whoever may replace the system's own device is given another.
+    std::string device = "/dev/full";
+    constexpr unsigned memoryDevices = 1, full = 7;
+    if (access("/dev", W_OK) == 0) {
+        device = folder.at("full");
+        if (mknod(device.c_str(), S_IFCHR | 0666, makedev(memoryDevices, full)) != 0)
+            GTEST_SKIP() << "no devices can be made here";
+    }
+    const Finished finished = runProgram({"render", "-o", device});
+    EXPECT_EQ(finished.status, 1);
+    EXPECT_EQ(finished.errors, "lyr: " + device + ": cannot be written: No space left on device\n");
+    EXPECT_TRUE(std::filesystem::is_character_file(device));
+}
+
+TEST(RenderOutput, IsThePictureAndNothingElseOnStandardOutput)
+{
+    const Finished finished = runProgram({"render", "-o", "/dev/stdout"});
+    EXPECT_EQ(finished.status, 0);
+    EXPECT_TRUE(Json::accept(finished.output)) << finished.output;
+    EXPECT_NE(finished.output.back(), '\n');
+}
+

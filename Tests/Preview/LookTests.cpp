@@ -137,6 +137,29 @@ TEST_F(Look, OfADamagedPhoneIsNotWritten)
     EXPECT_FALSE(folder.has("mine.lyrlook"));
 }
 
+TEST_F(Look, GoesWhereTheFileNameLeads)
+{
+    folder.put("target.lyrlook", "old");
+    std::filesystem::create_symlink("target.lyrlook", folder.at("link.lyrlook"));
+    EXPECT_EQ(look("export", "link.lyrlook").status, 0);
+    EXPECT_TRUE(std::filesystem::is_symlink(folder.at("link.lyrlook")));
+    EXPECT_TRUE(Json::accept(folder.read("target.lyrlook")));
+    const Finished finished = runProgram({"look", "export", "/dev/stdout", "--root", folder.at("root")});
+    EXPECT_EQ(finished.output, folder.read("target.lyrlook"));
+}
+
+TEST_F(Look, IsNotWrittenWhereItMayNotBe)
+{
+    chmod(folder.put("mine.lyrlook", "kept").c_str(), 0444);
+    mkfifo(folder.at("pipe").c_str(), 0600);
+    EXPECT_EQ(look("export", "mine.lyrlook").errors,
+        "lyr: " + folder.at("mine.lyrlook") + ": cannot be written: it is read-only\n");
+    EXPECT_EQ(look("export", "pipe").errors,
+        "lyr: " + folder.at("pipe") + ": cannot be written: nobody reads from this pipe\n");
+    EXPECT_EQ(look("export", "pipe").status, 1);
+    EXPECT_EQ(folder.read("mine.lyrlook"), "kept");
+}
+
 TEST_F(Look, NeedsAPhone)
 {
     EXPECT_EQ(runProgram({"look", "export", folder.at("mine.lyrlook")}).status, 2);

@@ -2,24 +2,20 @@
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
 #include "Platform/Foundation/NSData.hpp"
+#include "Simulator/Control/OutputFile.hpp"
 #include "Simulator/Control/Shell.hpp"
 #include "Simulator/Control/Types.hpp"
 
-#include <cstdio>
-#include <fstream>
-
 namespace Simulator::Control {
 
-/// Beside its place first, so that nobody sees half a picture.
+/// This process's streams are the supervisor's.
 static void writeFile(const std::string& path, const std::vector<std::byte>& bytes)
 {
-    const std::string temporary = path + ".part";
-    std::ofstream file(temporary, std::ios::binary);
-    file.write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    file.close();
-    if (!file || std::rename(temporary.c_str(), path.c_str()) != 0) {
-        std::remove(temporary.c_str());
-        throw ProtocolError(ErrorCode::BadParameters, "path: cannot write " + quote(path));
+    try {
+        OutputFile(path, OutputFile::OwnStreams::Refused)
+            .write({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
+    } catch (const std::runtime_error& error) {
+        throw ProtocolError(ErrorCode::BadParameters, std::string("parameter \"path\": ") + error.what());
     }
 }
 

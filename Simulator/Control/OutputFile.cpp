@@ -1,0 +1,190 @@
+// Looks at what a path names before it is written.
+#include "Simulator/Control/OutputFile.hpp"
+
+#include <algorithm>
+#include <cerrno>
+#include <charconv>
+#include <climits>
+#include <csignal>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+
+namespace Simulator::Control {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int mostLinks = 40;
+
+fs::path ownStreams()
+{
+    return "/proc/" + std::to_string(getpid()) + "/fd";
+}
+
+// Where the links lead, whether or not there is anything; empty where a folder on the way is missing. The links of a
+// process's streams are left: they only look like paths.
+fs::path followed(const std::string& given)
+{
+    std::error_code error;
+    fs::path path = given.empty() ? fs::path() : fs::absolute(given, error);
+    for (int links = 0; links <= mostLinks && path.has_filename(); ++links) {
+        const fs::path folder = fs::canonical(path.parent_path(), error);
+        if (error)
+            return {};
+        path = folder / path.filename();
+        if (folder == ownStreams() || !fs::is_symlink(path, error))
+            return path;
+        path = folder / fs::read_symlink(path, error);
+    }
+    return {};
+}
+
+// A name of its own, beside the file whose place it takes.
+Descriptor createBeside(const fs::path& path, std::string& name)
+{
+    for (int number = 0;; ++number) {
+        name = path.parent_path() / (".lyr-" + std::to_string(getpid()) + "-" + std::to_string(number));
+        Descriptor file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+        if (file || errno != EEXIST)
+            return file;
+    }
+}
+
+struct RemovedAtTheEnd {
+    std::string path;
+    ~RemovedAtTheEnd() { unlink(path.c_str()); }
+};
+
+// A reader that has gone is told by an error.
+class WithoutPipeSignal {
+public:
+    WithoutPipeSignal() = default;
+    ~WithoutPipeSignal() { std::signal(SIGPIPE, _before); }
+    WithoutPipeSignal(const WithoutPipeSignal&) = delete;
+    WithoutPipeSignal& operator=(const WithoutPipeSignal&) = delete;
+
+private:
+    void (*_before)(int) = std::signal(SIGPIPE, SIG_IGN);
+};
+
+}
+
+OutputFile::OutputFile(const std::string& path, OwnStreams streams, Wait wait)
+    : _given(path)
+    , _wait(std::move(wait))
+    , _path(followed(path))
+{
+    if (_path.empty())
+        refuse("a file name in a folder that exists is needed");
+    if (_path.parent_path() == ownStreams())
+        openStream(streams);
+    else
+        look();
+}
+
+void OutputFile::openStream(OwnStreams streams)
+{
+    if (streams == OwnStreams::Refused)
+        refuse("this program needs its streams for itself");
+    const std::string name = _path.filename();
+    int number = -1;
+    std::from_chars(name.data(), name.data() + name.size(), number);
+    _descriptor = Descriptor(fcntl(number, F_DUPFD_CLOEXEC, 3));
+    if (!_descriptor)
+        refuseWithError();
+}
+
+void OutputFile::look()
+{
+    struct stat status {};
+    if (stat(_path.c_str(), &status) != 0) {
+        if (errno != ENOENT)
+            refuseWithError();
+        return checkFolder();
+    }
+    if (S_ISDIR(status.st_mode))
+        refuse("it is a folder");
+    if (S_ISSOCK(status.st_mode))
+        refuse("it is a socket");
+    // The mode holds for the superuser too, whom the system lets do anything.
+    constexpr mode_t writeBits = 0222;
+    if ((status.st_mode & writeBits) == 0 || access(_path.c_str(), W_OK) != 0)
+        refuse("it is read-only");
+    if (S_ISREG(status.st_mode)) {
+        _replaced = status;
+        return checkFolder();
+    }
+    // A pipe that nobody reads would make the program wait.
+    _descriptor = Descriptor(open(_path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!_descriptor && errno == ENXIO && S_ISFIFO(status.st_mode))
+        refuse("nobody reads from this pipe");
+    if (!_descriptor)
+        refuseWithError();
+}
+
+void OutputFile::checkFolder() const
+{
+    if (access(_path.parent_path().c_str(), W_OK | X_OK) != 0)
+        refuse("its folder is read-only");
+}
+
+void OutputFile::write(std::string_view bytes) const
+{
+    if (_descriptor)
+        send(_descriptor.number(), bytes);
+    else
+        replace(bytes);
+}
+
+void OutputFile::replace(std::string_view bytes) const
+{
+    RemovedAtTheEnd unfinished;
+    const Descriptor file = createBeside(_path, unfinished.path);
+    if (!file)
+        refuseWithError();
+    send(file.number(), bytes);
+    if (_replaced) {
+        constexpr mode_t permissions = 0777;
+        // Only the superuser can give a file away, and only to others need it be given.
+        [[maybe_unused]] const int ignored = fchown(file.number(), _replaced->st_uid, _replaced->st_gid);
+        fchmod(file.number(), _replaced->st_mode & permissions);
+    }
+    if (std::rename(unfinished.path.c_str(), _path.c_str()) != 0)
+        refuseWithError();
+}
+
+// No more at a time than a pipe that is ready takes without waiting.
+void OutputFile::send(int descriptor, std::string_view bytes) const
+{
+    const WithoutPipeSignal ignored;
+    while (!bytes.empty()) {
+        _wait(descriptor, POLLOUT);
+        const auto count = ::write(descriptor, bytes.data(), std::min<std::size_t>(bytes.size(), PIPE_BUF));
+        if (count > 0)
+            bytes.remove_prefix(static_cast<std::size_t>(count));
+        else if (count < 0 && errno != EINTR && errno != EAGAIN)
+            refuseWithError();
+    }
+}
+
+bool OutputFile::isStandardOutput() const
+{
+    struct stat own {};
+    struct stat standard {};
+    return _descriptor && fstat(_descriptor.number(), &own) == 0 && fstat(STDOUT_FILENO, &standard) == 0
+        && own.st_dev == standard.st_dev && own.st_ino == standard.st_ino;
+}
+
+void OutputFile::refuse(const std::string& why) const
+{
+    throw std::runtime_error(_given + ": cannot be written: " + why);
+}
+
+void OutputFile::refuseWithError() const
+{
+    refuse(std::strerror(errno));
+}
+
+}
