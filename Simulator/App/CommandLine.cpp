@@ -1,6 +1,7 @@
 // Reads the command line and runs what it asks for.
 #include "Simulator/App/CommandLine.hpp"
 
+#include "Simulator/App/Lifeline.hpp"
 #include "Simulator/App/LookFile.hpp"
 #include "Simulator/App/Preview.hpp"
 #include "Simulator/App/Render.hpp"
@@ -91,6 +92,7 @@ void addStartOptions(CLI::App& command, Values& values)
         ->type_name("FILE")
         ->expected(1)
         ->take_all();
+    command.add_flag("--strict", options.isStrict, "Refuse unknown keys, damaged fonts and wallpapers (default: tell)");
     command.add_option("--screen", values.single["screen"], "Screen in points and its scale (default: 375x812@3)")
         ->type_name("WxH@S")
         ->check([](const std::string& text) {
@@ -131,9 +133,9 @@ void addServe(CLI::App& app, Values& values)
     addShellProgram(command, values);
 }
 
-CLI::Option* addRoot(CLI::App& command, Values& values, const char* help)
+CLI::Option* addRoot(CLI::App& command, Values& values, const Type& folder, const char* help)
 {
-    return takes(command.add_option("--root", values.root, help), hostFolder(), "DIR");
+    return takes(command.add_option("--root", values.root, help), folder, "DIR");
 }
 
 void addPreview(CLI::App& app, Values& values)
@@ -142,7 +144,8 @@ void addPreview(CLI::App& app, Values& values)
     command.add_option("--port", values.preview.port, "Port on this machine (default: any that is free)")
         ->type_name("N")
         ->check(CLI::Range(1, 65535));
-    addRoot(command, values, "Folder that is the phone's / and is kept (default: a temporary one)");
+    addRoot(command, values, hostFolderToBe(),
+        "Folder that is the phone's / and is kept, made where it is missing (default: a temporary one)");
     addVerbose(command, values);
     addStartOptions(command, values);
 }
@@ -155,7 +158,7 @@ void addLook(CLI::App& app, Values& values)
              std::pair{"import", "Give the phone the look of a file"}}) {
         CLI::App& command = *look.add_subcommand(name, help);
         command.add_option("file", values.look, "A look")->required()->type_name("FILE.lyrlook");
-        addRoot(command, values, "Folder that is the phone's /")->required();
+        addRoot(command, values, hostFolder(), "Folder that is the phone's /")->required();
     }
 }
 
@@ -253,6 +256,7 @@ std::string firstLine(const std::string& text)
 
 int run(int argumentCount, char** arguments, const PhoneKind& kind)
 {
+    openClosedStreams();
     CLI::App app("LYR Pro: the lock screen of a simulated phone.", "lyr");
     Values values;
     describe(app, values);

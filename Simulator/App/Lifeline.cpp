@@ -4,6 +4,7 @@
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
@@ -81,6 +82,15 @@ void Lifeline::throwIfSignalled() const
     signalfd_siginfo arrived;
     if (read(_signals.number(), &arrived, sizeof arrived) == sizeof arrived)
         throw Interrupted{static_cast<int>(arrived.ssi_signo)};
+}
+
+void openClosedStreams()
+{
+    // The lowest free number is taken, so all three are there once a higher one is had.
+    int stream = STDIN_FILENO;
+    while (stream >= 0 && stream <= STDERR_FILENO)
+        stream = open("/dev/null", O_RDWR);
+    close(stream);
 }
 
 void dieOf(int signal)

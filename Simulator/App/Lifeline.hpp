@@ -40,6 +40,9 @@ private:
     std::optional<Clock::time_point> _end;
 };
 
+// Standard streams that the program was started without lead nowhere; else the next file opened would be one of them.
+void openClosedStreams();
+
 // Ends the process by the signal, as if it had not been caught.
 [[noreturn]] void dieOf(int signal);
 

@@ -3,6 +3,7 @@
 
 #include "Simulator/App/FactoryContent.hpp"
 #include "Simulator/App/Lifeline.hpp"
+#include "Simulator/App/StartDoubts.hpp"
 #include "Simulator/App/WeatherGlyph.hpp"
 #include "Simulator/Control/RootFolder.hpp"
 #include "Simulator/Preview/Server.hpp"
@@ -28,13 +29,17 @@ int preview(const PreviewOptions& options, Supervisor::Options supervisorOptions
         Lifeline lifeline;
         supervisorOptions.wait = [&](int descriptor, short events) { lifeline.wait(descriptor, events); };
         const Workshop workshop;
+        const Json start = startParameters(options.start, workshop);
+        sayDoubts(options.start);
+        if (!options.root.empty())
+            std::filesystem::create_directory(options.root);
         RootFolder root = options.root.empty() ? RootFolder() : RootFolder(options.root);
         provideColourFile(root);
         Preview::ServerOptions server;
         server.page = pageFolder();
         server.port = static_cast<unsigned short>(options.port);
         server.root = root.path();
-        server.start = startParameters(options.start, workshop);
+        server.start = start;
         server.withGlyph
             = [](const Json& weather, const std::string& time) { return withGlyph(weather, time, glyphFolder()); };
         server.interruption = lifeline.descriptor();

@@ -2,6 +2,7 @@
 #include "Simulator/App/Render.hpp"
 
 #include "Simulator/App/Lifeline.hpp"
+#include "Simulator/App/StartDoubts.hpp"
 #include "Simulator/Control/OutputFile.hpp"
 
 #include <iostream>
@@ -36,8 +37,10 @@ void takePicture(const RenderOptions& options, Supervisor& supervisor, const Out
     const Progress progress;
     const Workshop workshop;
     const std::string picture = workshop.at("lock.png");
+    const Json start = startParameters(options.start, workshop);
+    sayDoubts(options.start);
     progress.show("starting the phone …");
-    supervisor.call("phone.start", startParameters(options.start, workshop));
+    supervisor.call("phone.start", start);
     if (const auto seconds = timerSeconds(options.start))
         supervisor.call("phone.timer", {{"seconds", *seconds}});
     progress.show("waiting for the lock screen to settle …");

@@ -22,6 +22,7 @@ struct StartOptions {
     std::string device; // without one the phone is in use already
     bool isBare = false; // a new phone instead
     std::vector<std::string> fonts;
+    bool isStrict = false; // what a phone would pass over is refused
 };
 
 // A host folder for what is made on the way, removed with its owner.

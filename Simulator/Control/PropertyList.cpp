@@ -48,12 +48,23 @@ std::string propertyListXml(const Json& value)
     return writeXmlPropertyList(listOf(value));
 }
 
-bool isPropertyListDictionary(std::string_view bytes)
+std::optional<std::vector<std::string>> propertyListKeys(std::string_view bytes)
 {
     auto list = readXmlPropertyList(bytes);
     if (!list)
         list = readBinaryPropertyList(bytes);
-    return list && std::holds_alternative<PropertyListDictionary>(list->value);
+    const auto* dictionary = list ? std::get_if<PropertyListDictionary>(&list->value) : nullptr;
+    if (!dictionary)
+        return std::nullopt;
+    std::vector<std::string> keys;
+    for (const auto& [key, value] : *dictionary)
+        keys.push_back(key);
+    return keys;
+}
+
+bool isPropertyListDictionary(std::string_view bytes)
+{
+    return propertyListKeys(bytes).has_value();
 }
 
 }

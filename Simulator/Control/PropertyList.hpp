@@ -8,7 +8,8 @@ namespace Simulator::Control {
 // XML, for a value that holds neither null nor a NUL in a text.
 std::string propertyListXml(const Json&);
 
-// Whether the bytes are an XML or binary property list with a dictionary at its root.
+// The keys of the dictionary at the root of an XML or binary property list; nothing for any other bytes.
+std::optional<std::vector<std::string>> propertyListKeys(std::string_view bytes);
 bool isPropertyListDictionary(std::string_view bytes);
 
 }

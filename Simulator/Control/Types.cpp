@@ -53,6 +53,14 @@ bool isFolder(const fs::path& path)
     return fs::is_directory(path, ignored) && access(path.c_str(), R_OK | W_OK | X_OK) == 0;
 }
 
+bool canBeFolder(const fs::path& path)
+{
+    std::error_code ignored;
+    // With or without a slash at the end.
+    const fs::path parent = (fs::absolute(path, ignored) / "").parent_path().parent_path();
+    return isFolder(path) || (!fs::exists(fs::symlink_status(path, ignored)) && isFolder(parent));
+}
+
 std::optional<int> digits(std::string_view text, std::size_t at, std::size_t count)
 {
     int value = 0;
@@ -231,6 +239,11 @@ Type hostFile(const std::string& what)
 Type hostFolder()
 {
     return hostEntry("the host path of a folder that exists and can be written", isFolder);
+}
+
+Type hostFolderToBe()
+{
+    return hostEntry("the host path of a folder that can be written, or of a new one in such a folder", canBeFolder);
 }
 
 Type hostPath()

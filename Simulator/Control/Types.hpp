@@ -28,6 +28,8 @@ Type locale();
 Type phonePath();
 Type hostFile(const std::string& what);
 Type hostFolder();
+// Or one that is not there yet, in a folder that is.
+Type hostFolderToBe();
 // An existing file or folder.
 Type hostPath();
 // A path; what is wrong with it, if anything, its OutputFile says.

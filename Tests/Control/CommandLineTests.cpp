@@ -26,7 +26,8 @@ TEST(CommandLine, SaysEverythingOnHelp)
     EXPECT_EQ(finished.errors, "");
     for (const char* word :
         {"render", "serve", "--stdio", "--settings", "--colours", "--wallpaper", "--screen", "--time", "--time-zone",
-            "--locale", "--language", "--style", "--font", "--device", "--bare", "-o", "--version", "WxH@S"})
+            "--locale", "--language", "--style", "--font", "--device", "--bare", "--strict", "--verbose", "-o", "--version",
+            "WxH@S"})
         EXPECT_NE(finished.output.find(word), std::string::npos) << word;
     EXPECT_EQ(finished.output.find("--fd"), std::string::npos);
 }
@@ -53,6 +54,10 @@ TEST(CommandLine, RefusesBadUsageInOneLine)
     expectBadUsage({"render", "-o", "a.png", "--language", "e"}, "\"e\"");
     expectBadUsage({"render", "-o", "a.png", "--bare", "--device", "d.json"}, "--bare");
     expectBadUsage({"preview", "--device", "d.json", "--bare"}, "--bare");
+    for (const char* locale : {"-", "en-", "en--US"})
+        expectBadUsage({"render", "-o", "a.png", "--locale", locale}, locale);
+    expectBadUsage({"preview", "--root", "/none/phone"}, "/none/phone");
+    expectBadUsage({"preview", "--root", "/dev/null"}, "/dev/null");
     for (const char* screen : {"375", "375x812", "0x812@3", "375x812@9", "375x812@3x", "x@"})
         expectBadUsage({"render", "-o", "a.png", "--screen", screen}, screen);
 }

@@ -1,5 +1,6 @@
 // `lyr render` up to the phone: the fake phone's picture says what it was started with.
 #include "Simulator/Control/PropertyList.hpp"
+#include "Tests/Graphics/SamplePictures.hpp"
 #include "Tests/Support/Program.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
@@ -139,9 +140,12 @@ TEST_F(Render, TakesSettingsInJson)
 
 TEST_F(Render, PassesOnWallpaperFontsAndDevice)
 {
-    const std::string wallpaper = folder.put("w.jpg", "\xFF\xD8\xFF\xE0");
-    const std::string font = folder.put("f.ttf", "font");
-    const std::string other = folder.put("g.ttf", "font");
+    using namespace Simulator::Graphics::Samples;
+    const auto picture = jpeg(8, 8, quarters(8, 8));
+    const std::string wallpaper
+        = folder.put("w.jpg", {reinterpret_cast<const char*>(picture.data()), picture.size()});
+    const std::string font = "/usr/share/fonts/truetype/lato/Lato-Bold.ttf";
+    const std::string other = "/usr/share/fonts/truetype/lato/Lato-Black.ttf";
     const std::string device = folder.put("d.json", R"({"battery":{"level":0.5},"alarm":null,"style":"light"})");
     EXPECT_EQ(
         startedWith({"--wallpaper", wallpaper, "--font", font, "--font", other, "--device", device, "--style", "dark"}),
@@ -269,3 +273,12 @@ TEST(RenderOutput, IsThePictureAndNothingElseOnStandardOutput)
     EXPECT_NE(finished.output.back(), '\n');
 }
 
+TEST_F(Render, DrawsWithoutStandardStreams)
+{
+    for (const char* closed : {"<&-", ">&-", "2>&-", "<&- >&- 2>&-"}) {
+        const std::string command = programPath() + " render -o " + folder.at("lock.png") + " " + closed;
+        EXPECT_EQ(std::system(command.c_str()), 0) << closed;
+        EXPECT_TRUE(Json::accept(folder.read("lock.png"))) << closed;
+        std::filesystem::remove(folder.at("lock.png"));
+    }
+}

@@ -54,6 +54,12 @@ TEST(Serve, EndsWithStatusZeroAtTheEndOfItsInput)
     EXPECT_EQ(finished.errors, "");
 }
 
+TEST(Serve, EndsLikewiseWhereItsInputIsClosed)
+{
+    const std::string command = "timeout 60 " + programPath() + " serve --stdio <&-";
+    EXPECT_EQ(std::system(command.c_str()), 0);
+}
+
 TEST(Serve, AnswersEveryLineOfAFileBeforeItEnds)
 {
     const Finished finished = runProgram({"serve", "--stdio"},

@@ -96,6 +96,14 @@ TEST(Types, HostPathsExist)
     EXPECT_EQ(hostFile("a JPEG").takes, "the host path of a JPEG that exists");
 }
 
+TEST(Types, AFolderMayBeAboutToBeMade)
+{
+    const Support::TemporaryFolder folder;
+    std::filesystem::create_symlink("nowhere", folder.at("link"));
+    expectAccepts(hostFolderToBe(), {folder.path().string(), folder.at("new"), folder.at("new/"), "relative"});
+    expectRefuses(hostFolderToBe(), {folder.put("file", "x"), folder.at("none/new"), folder.at("link"), ""});
+}
+
 TEST(Types, DestinationsAreNames)
 {
     expectAccepts(hostDestination(), {"/tmp/new.png", "relative.png"});
