@@ -5,6 +5,7 @@
 
 namespace {
 
+constexpr const char* weatherPicture = LYR_GOLDEN_FOLDER "/weather.png";
 constexpr const char* attachment = "\xEF\xBF\xBC"; // where an icon stands in a line
 
 Json weatherAt(const std::string& temperature, const std::string& low, const std::string& high)
@@ -332,7 +333,7 @@ TEST(ItemsInTheDateLine, FollowItsCaseButForTheTemperature)
                 "15" + icon + "my dENTIST"}},
     };
     auto weather = weatherAt("21°c", "15°", "24°");
-    weather.update({{"conditions", "Partly cLOUDY"}, {"location", "Haifa bay"}});
+    weather.update({{"conditions", "Partly cLOUDY"}, {"location", "Haifa bay"}, {"image", weatherPicture}});
     auto phone = settled(itemPhone({})
                              .weather(weather)
                              .alarm("2020-11-16T06:30:00")
@@ -348,7 +349,9 @@ TEST(ItemsInTheDateLine, FollowItsCaseButForTheTemperature)
 
 TEST(ItemsInTheDateLine, TheirIconsAllHaveTheSameGeometry)
 {
-    auto phone = settled(stripPhone());
+    auto weather = sunnyWeather;
+    weather["image"] = weatherPicture;
+    auto phone = settled(stripPhone().weather(weather));
     for (int size : {1, 13, 20, 24, 60}) {
         // The built-in date font's capitals are 0.7165 of its size tall.
         const double y = std::trunc((0.7165 * size - 1.5 * size) / 2);
