@@ -7,7 +7,7 @@ constexpr int badParameters = -32602;
 
 Support::PhoneStart phoneOf(const std::string& locale)
 {
-    return eveningPhone({{"dateFormat", "EEEE d MMMM"}}).locale(locale);
+    return eveningPhone({{"dateFormat", "EEEE d MMMM"}, {"dateOption", "0"}}).locale(locale);
 }
 
 std::string dateIn(const std::string& locale)
@@ -39,6 +39,9 @@ TEST(Locales, ChangeOnAPhoneThatRuns)
 {
     auto phone = settled(phoneOf("en_US"));
     phone.call("device.set", {{"locale", "sr-Latn-RS"}});
+    phone.call("phone.lock");
+    phone.call("phone.wake");
+    phone.settle();
     refresh(phone);
     EXPECT_EQ(phone.label("_dateLabel").text, "nedelja 15 novembar");
     EXPECT_EQ(phone.info().at("safeMode"), false);
