@@ -151,7 +151,8 @@ TEST(EditorMainSegments, EachShowsItsOwnControls)
         {&widgetTab, 1, {"_colorWheel1", "_colorWheel2", "_colorWheel3", "_colorWheel4", "_colorWheel5", "_showWell"}},
         {&widgetTab, 2, {"_sliderLabelX", "_sliderLabelY", "_sliderX", "_sliderY"}},
     };
-    auto phone = editing();
+    // The wells have the colours of a wallpaper.
+    auto phone = editing(eveningPhone());
     for (auto& row : rows) {
         choose(phone, *row.tab, row.segment);
         std::vector<std::string> shown;
