@@ -91,7 +91,7 @@ TEST_P(EditorLayout, EachControlLiesOnThePanelApartFromTheOthersAndIsWhole)
 {
     for (const char* style : {"light", "dark"}) {
         auto phone
-            = editing(editorPhone().screen(GetParam().width, GetParam().height, 1).style(style).weather(weather));
+            = editing(eveningPhone().screen(GetParam().width, GetParam().height, 1).style(style).weather(weather));
         for (const EditorTab& tab : editorTabs) {
             for (int segment = 0; segment < static_cast<int>(tab.segments.size()); ++segment) {
                 choose(phone, tab, segment);
