@@ -91,7 +91,7 @@ test("says in one line why it cannot start", () => {
     };
     assert.deepEqual(run("--port", String(preview.port)), { status: 1,
         stderr: `lyr: port ${preview.port} cannot be had: Address already in use; without --port any free one is taken\n` });
-    for (const options of [["--port", "0"], ["--port", "70000"], ["--root", "/none"], ["--screen", "big"]]) {
+    for (const options of [["--port", "0"], ["--port", "70000"], ["--root", "/none/phone"], ["--screen", "big"]]) {
         const { status, stderr } = run(...options);
         assert.equal(status, 2, options.join(" "));
         assert.match(stderr, /^lyr: .+\n$/);
