@@ -3,8 +3,8 @@
 #include "Benchmarks/BenchmarkPhone.hpp"
 #include "Benchmarks/Comparison.hpp"
 
+#include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
-#include "Simulator/UIKit/Fonts.hpp"
 #include "Simulator/UIKit/LayerTree.hpp"
 #include "Simulator/UIKit/ScreenRenderer.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"

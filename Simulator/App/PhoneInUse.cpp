@@ -1,6 +1,6 @@
 #include "Simulator/App/PhoneInUse.hpp"
 
-#include "Simulator/Foundation/DateText.hpp"
+#include "Simulator/Text/DateText.hpp"
 
 #include <algorithm>
 #include <chrono>

@@ -2,9 +2,9 @@
 #include "Platform/EventKit/EKEventStore.hpp"
 
 #include "Simulator/Companions/Registrations.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
 
 #include <algorithm>
 

@@ -4,10 +4,10 @@
 #include "Platform/UIKit/UIImage.hpp"
 #include "Simulator/Companions/PropertyListValues.hpp"
 #include "Simulator/Companions/Registrations.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
 
 #include <fstream>
 #include <iterator>

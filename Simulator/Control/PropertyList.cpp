@@ -1,7 +1,7 @@
 // Property lists made from JSON.
 #include "Simulator/Control/PropertyList.hpp"
 
-#include "Simulator/Foundation/PropertyList.hpp"
+#include "Simulator/Text/PropertyList.hpp"
 
 #include <limits>
 

@@ -3,7 +3,7 @@
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/CoreGraphics/CGImage.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
+#include "Simulator/CoreGraphics/Geometry.hpp"
 
 #include <algorithm>
 #include <cmath>

@@ -4,10 +4,10 @@
 #include "Platform/Foundation/NSURL.hpp"
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/CoreGraphics/CGFont.hpp"
+#include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
-#include "Simulator/UIKit/Fonts.hpp"
 
 #include <array>
 #include <span>

@@ -3,19 +3,12 @@
 
 #include "Platform/ObjC/Runtime.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
 
 namespace Simulator {
-
-PhoneLocale& PhoneLocale::shared()
-{
-    static auto* locale = new PhoneLocale;
-    return *locale;
-}
 
 void registerFoundation()
 {

@@ -1,9 +1,9 @@
 // Bundles on the phone. Resources are looked up afresh each time, since files may appear while the shell runs.
 #include "Platform/Foundation/NSDictionary.hpp"
 #include "Platform/Foundation/NSURL.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/FileAccess.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Runtime/Binder.hpp"

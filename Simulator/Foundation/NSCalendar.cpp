@@ -1,13 +1,13 @@
 // NSCalendar by ICU, under the phone's identifiers.
 #include "Platform/Foundation/NSCalendar.hpp"
 #include "Platform/Foundation/NSLocale.hpp"
-#include "Simulator/Foundation/CalendarMath.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Text/CalendarMath.hpp"
 
 #include <algorithm>
 #include <array>

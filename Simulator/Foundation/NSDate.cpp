@@ -1,11 +1,11 @@
 // NSDate by the phone's clock. A date may be no number, as on the phone, where GNUstep would raise.
 #include "Platform/Foundation/NSDate.hpp"
-#include "Simulator/Foundation/DateText.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Text/DateText.hpp"
 
 #include <cmath>
 #include <string>

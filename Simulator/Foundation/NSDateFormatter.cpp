@@ -1,13 +1,13 @@
 // NSDateFormatter on ICU directly: the pattern is taken as it stands, in any of the phone's calendars.
-#include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Platform/Foundation/NSArray.hpp"
-#include "Simulator/Foundation/CalendarMath.hpp"
-#include "Simulator/Foundation/DateText.hpp"
+#include "Platform/Foundation/NSDateFormatter.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Text/CalendarMath.hpp"
+#include "Simulator/Text/DateText.hpp"
 
 namespace Simulator {
 

@@ -1,12 +1,12 @@
 // The user's locale and languages, and the phone's keys for the parts of a locale.
-#include "Platform/Foundation/NSLocale.hpp"
 #include "Platform/Foundation/NSArray.hpp"
 #include "Platform/Foundation/NSDictionary.hpp"
-#include "Simulator/Foundation/IcuNames.hpp"
+#include "Platform/Foundation/NSLocale.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
+#include "Simulator/Text/IcuNames.hpp"
 
 #include <array>
 

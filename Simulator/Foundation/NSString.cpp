@@ -1,9 +1,9 @@
 // Case mapping, order and number parsing of strings as on the phone.
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
-#include "Simulator/Foundation/TextCase.hpp"
 #include "Simulator/Foundation/Texts.hpp"
+#include "Simulator/Text/TextCase.hpp"
 
 #include <algorithm>
 #include <limits>

@@ -1,11 +1,11 @@
 // The phone's time zone.
 #include "Platform/Foundation/NSString.hpp"
-#include "Simulator/Foundation/CalendarMath.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Loop/Loop.hpp"
+#include "Simulator/Text/CalendarMath.hpp"
 
 namespace Simulator {
 

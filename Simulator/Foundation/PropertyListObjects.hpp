@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Platform/ObjC/Object.hpp"
-#include "Simulator/Foundation/PropertyList.hpp"
+#include "Simulator/Text/PropertyList.hpp"
 
 namespace Simulator {
 

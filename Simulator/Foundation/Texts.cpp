@@ -1,7 +1,7 @@
 // Conversion of strings, tolerant of ill-formed ones.
 #include "Simulator/Foundation/Texts.hpp"
 
-#include "Simulator/Foundation/TextCase.hpp"
+#include "Simulator/Text/TextCase.hpp"
 
 namespace Simulator {
 

@@ -3,8 +3,8 @@
 
 #include "Simulator/Control/PropertyList.hpp"
 #include "Simulator/Control/RootFolder.hpp"
-#include "Simulator/Foundation/PropertyList.hpp"
 #include "Simulator/Graphics/FontCatalogue.hpp"
+#include "Simulator/Text/PropertyList.hpp"
 
 #include <algorithm>
 #include <cerrno>

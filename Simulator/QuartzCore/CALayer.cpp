@@ -2,9 +2,9 @@
 #include "Simulator/QuartzCore/CALayer.hpp"
 
 #include "Simulator/CoreGraphics/CGColor.hpp"
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/QuartzCore/LayerTransaction.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 
 #include <algorithm>
 #include <cmath>

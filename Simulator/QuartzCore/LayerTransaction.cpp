@@ -1,8 +1,8 @@
 #include "Simulator/QuartzCore/LayerTransaction.hpp"
 
 #include "Simulator/CoreGraphics/CGColor.hpp"
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Loop/Loop.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 
 #include <algorithm>
 #include <utility>

@@ -1,10 +1,10 @@
 // The shell as an application: what opens links, hears of memory running out and of the app in front.
 #include "Platform/Foundation/NSURL.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/Blocks.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
 #include "Simulator/SpringBoard/FrontApplication.hpp"
 #include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"

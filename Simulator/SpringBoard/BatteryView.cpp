@@ -1,7 +1,7 @@
 #include "Simulator/SpringBoard/BatteryView.hpp"
 
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
 #include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 

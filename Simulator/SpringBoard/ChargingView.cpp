@@ -1,8 +1,8 @@
 #include "Simulator/SpringBoard/ChargingView.hpp"
 
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/SpringBoard/BatteryView.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
 #include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 

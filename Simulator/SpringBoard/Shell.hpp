@@ -1,8 +1,8 @@
 // The stock shell of the phone: window, wallpaper, status bar, cover sheet and home screen, and what a hand does to it.
 #pragma once
 
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Loop/Loop.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
 #include "Simulator/UIKit/UIWindow.hpp"
 
 #include <string>

@@ -1,6 +1,6 @@
 #include "Simulator/SpringBoard/SpringBoard.hpp"
 
-#include "Simulator/SpringBoard/DeviceState.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/SpringBoard/Registrations.hpp"
 
 namespace Simulator {

@@ -1,8 +1,8 @@
 #include "Simulator/SpringBoard/StockDateText.hpp"
 
 #include "Platform/Foundation/NSDateFormatter.hpp"
-#include "Simulator/Foundation/DateText.hpp"
-#include "Simulator/Foundation/TextCase.hpp"
+#include "Simulator/Text/DateText.hpp"
+#include "Simulator/Text/TextCase.hpp"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 // Services of the system beside the shell: restarting it, and the battery saver.
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
 #include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/SpringBoard/SpringBoard.hpp"

@@ -1,7 +1,7 @@
 #include "Simulator/UIKit/ControlDrawing.hpp"
 
+#include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/UIKit/Fonts.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIFont.hpp"

@@ -1,7 +1,7 @@
 // What the control protocol tells of a label.
+#include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
-#include "Simulator/UIKit/Fonts.hpp"
 #include "Simulator/UIKit/NSTextAttachment.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIFont.hpp"

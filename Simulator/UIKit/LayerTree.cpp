@@ -2,10 +2,10 @@
 #include "Simulator/UIKit/LayerTree.hpp"
 
 #include "Simulator/CoreGraphics/CGColor.hpp"
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/QuartzCore/LayerTransaction.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 // Draws windows. The compositor is made anew when the screen's size, its scale or the fonts changed.
 #include "Simulator/UIKit/ScreenRenderer.hpp"
 
-#include "Simulator/UIKit/Fonts.hpp"
+#include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/UIKit/LayerTree.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 

@@ -1,10 +1,10 @@
 #include "Simulator/UIKit/UIColorWell.hpp"
 
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
 #include "Simulator/UIKit/ColorSheet.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIWindow.hpp"
 #include "Simulator/UIKit/ViewDescription.hpp"

@@ -2,7 +2,7 @@
 #include "Simulator/UIKit/UIFont.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
-#include "Simulator/UIKit/Fonts.hpp"
+#include "Simulator/CoreGraphics/Fonts.hpp"
 
 #include <array>
 #include <cmath>

@@ -1,8 +1,8 @@
 // Image contexts: what is drawn into them is collected and becomes pixels when the picture is asked for.
 #include "Simulator/CoreGraphics/CFBase.hpp"
+#include "Simulator/CoreGraphics/Fonts.hpp"
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Graphics/Compositor.hpp"
-#include "Simulator/UIKit/Fonts.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/ImageOrigins.hpp"
 #include "Simulator/UIKit/UIImage.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"

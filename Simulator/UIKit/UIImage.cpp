@@ -3,10 +3,10 @@
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/CoreGraphics/CGImage.hpp"
+#include "Simulator/CoreGraphics/Fonts.hpp"
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Graphics/Compositor.hpp"
-#include "Simulator/UIKit/Fonts.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/ImageOrigins.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"

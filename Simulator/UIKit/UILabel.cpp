@@ -1,10 +1,10 @@
 // Labels: the text they hold, and the text as it is drawn.
 #include "Simulator/UIKit/UILabel.hpp"
 
+#include "Simulator/CoreGraphics/Fonts.hpp"
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
-#include "Simulator/UIKit/Fonts.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/NSTextAttachment.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 #include "Simulator/UIKit/UIColor.hpp"

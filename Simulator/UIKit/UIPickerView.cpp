@@ -1,9 +1,9 @@
 #include "Simulator/UIKit/UIPickerView.hpp"
 
 #include "Platform/UIKit/UILabel.hpp"
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 
 #include <nlohmann/json.hpp>
 

@@ -1,9 +1,9 @@
 #include "Simulator/UIKit/UISegmentedControl.hpp"
 
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/NSTextAttachment.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIFont.hpp"

@@ -1,8 +1,8 @@
 #include "Simulator/UIKit/UISlider.hpp"
 
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UITouch.hpp"
 

@@ -1,8 +1,8 @@
 #include "Simulator/UIKit/UIStepper.hpp"
 
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/UITouch.hpp"
 
 #include <nlohmann/json.hpp>

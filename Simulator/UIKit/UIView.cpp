@@ -1,9 +1,9 @@
 // A view's geometry and appearance, and its registration.
 #include "Simulator/UIKit/UIView.hpp"
 
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/QuartzCore/LayerTransaction.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 #include "Simulator/UIKit/UIColor.hpp"

@@ -1,6 +1,6 @@
 // Layout: sizes that follow the superview, the passes through the tree, and coordinates of one view in another.
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 #include "Simulator/UIKit/UIViewController.hpp"
 

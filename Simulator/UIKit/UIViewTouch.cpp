@@ -1,6 +1,6 @@
 // What a touch means to a view: whether it is inside, which view gets it, and the recognisers that watch it.
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 #include "Simulator/UIKit/UIGestureRecognizer.hpp"
 #include "Simulator/UIKit/UIView.hpp"

@@ -1,9 +1,9 @@
 // The view object of the control protocol, and looking for views.
 #include "Simulator/UIKit/ViewDescription.hpp"
 
+#include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
-#include "Simulator/UIKit/Geometry.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIImage.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"

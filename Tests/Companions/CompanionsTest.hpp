@@ -3,12 +3,12 @@
 
 #include "Platform/Foundation/NSString.hpp"
 #include "Simulator/Companions/Companions.hpp"
+#include "Simulator/Device/DeviceState.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Foundation/Foundation.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
 #include "Simulator/UIKit/Registration.hpp"
 
 #include <gtest/gtest.h>

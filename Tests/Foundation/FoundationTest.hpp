@@ -3,10 +3,10 @@
 
 #include "Platform/Foundation/NSDate.hpp"
 #include "Platform/Foundation/NSString.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Foundation/Foundation.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"

@@ -4,7 +4,7 @@
 #include "Platform/Foundation/NSData.hpp"
 #include "Platform/Foundation/NSDictionary.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
-#include "Simulator/Foundation/PropertyList.hpp"
+#include "Simulator/Text/PropertyList.hpp"
 
 using namespace Simulator;
 

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Platform/UIKit/UILabel.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Foundation/Foundation.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"

@@ -1,8 +1,8 @@
 // device.*: battery, weather, alarm, calendar, appearance, language.
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
-#include "Simulator/Foundation/IcuNames.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
+#include "Simulator/Text/IcuNames.hpp"
 
 #include <array>
 #include <cmath>

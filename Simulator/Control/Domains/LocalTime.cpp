@@ -1,7 +1,7 @@
 #include "Simulator/Control/Domains/LocalTime.hpp"
 
-#include "Simulator/Foundation/DateText.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
+#include "Simulator/Text/DateText.hpp"
 
 namespace Simulator::Control {
 

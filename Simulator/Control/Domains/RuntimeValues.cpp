@@ -7,7 +7,7 @@
 #include "Platform/UIKit/UIView.hpp"
 #include "Simulator/Control/Domains/LocalTime.hpp"
 #include "Simulator/Control/Types.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 
 #include <cmath>
 #include <cstdio>

@@ -1,7 +1,7 @@
 // Case mapping and sorting by ICU.
-#include "Simulator/Foundation/TextCase.hpp"
+#include "Simulator/Text/TextCase.hpp"
 
-#include "Simulator/Foundation/IcuNames.hpp"
+#include "Simulator/Text/IcuNames.hpp"
 
 #include <unicode/coll.h>
 #include <unicode/uchar.h>

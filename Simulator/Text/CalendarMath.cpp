@@ -1,8 +1,8 @@
 // Calendar arithmetic by ICU.
-#include "Simulator/Foundation/CalendarMath.hpp"
+#include "Simulator/Text/CalendarMath.hpp"
 
-#include "Simulator/Foundation/IcuNames.hpp"
-#include "Simulator/Foundation/StyleCache.hpp"
+#include "Simulator/Text/IcuNames.hpp"
+#include "Simulator/Text/StyleCache.hpp"
 
 #include <unicode/calendar.h>
 

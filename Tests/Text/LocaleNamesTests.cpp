@@ -1,5 +1,5 @@
 // Locales and languages as the phone writes them, however they were written.
-#include "Simulator/Foundation/IcuNames.hpp"
+#include "Simulator/Text/IcuNames.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // Reads binary property lists. Offsets, lengths, cycles and repeated references are all checked, since a damaged
 // file may hold any.
-#include "Simulator/Foundation/PropertyList.hpp"
-#include "Simulator/Foundation/PropertyListCoding.hpp"
+#include "Simulator/Text/PropertyList.hpp"
+#include "Simulator/Text/PropertyListCoding.hpp"
 
 #include <bit>
 

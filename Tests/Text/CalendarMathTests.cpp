@@ -1,5 +1,5 @@
 // Fields of dates and moving dates, in the phone's calendars.
-#include "Simulator/Foundation/CalendarMath.hpp"
+#include "Simulator/Text/CalendarMath.hpp"
 
 #include <gtest/gtest.h>
 

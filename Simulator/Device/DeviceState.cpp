@@ -1,8 +1,8 @@
 // The device's state and its local times.
-#include "Simulator/SpringBoard/DeviceState.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 
-#include "Simulator/Foundation/CalendarMath.hpp"
-#include "Simulator/Foundation/PhoneLocale.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
+#include "Simulator/Text/CalendarMath.hpp"
 
 #include <cstdio>
 
@@ -31,6 +31,12 @@ DeviceState& DeviceState::shared()
 {
     static DeviceState* state = new DeviceState;
     return *state;
+}
+
+PhoneLocale& PhoneLocale::shared()
+{
+    static auto* locale = new PhoneLocale;
+    return *locale;
 }
 
 std::optional<double> momentOfLocalTime(const std::string& text)

@@ -1,6 +1,6 @@
 // Reads XML property lists. Anything that is no element of a property list makes the whole text none.
-#include "Simulator/Foundation/PropertyList.hpp"
-#include "Simulator/Foundation/PropertyListCoding.hpp"
+#include "Simulator/Text/PropertyList.hpp"
+#include "Simulator/Text/PropertyListCoding.hpp"
 
 #include <charconv>
 #include <limits>

@@ -1,7 +1,7 @@
 // Writes property lists as XML and as binary files.
-#include "Simulator/Foundation/PropertyList.hpp"
-#include "Simulator/Foundation/PropertyListCoding.hpp"
-#include "Simulator/Foundation/TextCase.hpp"
+#include "Simulator/Text/PropertyList.hpp"
+#include "Simulator/Text/PropertyListCoding.hpp"
+#include "Simulator/Text/TextCase.hpp"
 
 #include <algorithm>
 #include <bit>

@@ -1,5 +1,5 @@
 // Upper, lower and capitalised text, and alphabetical order.
-#include "Simulator/Foundation/TextCase.hpp"
+#include "Simulator/Text/TextCase.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The cache of date formatters: it is used, it is bounded, and it never mixes styles up.
-#include "Simulator/Foundation/DateText.hpp"
+#include "Simulator/Text/DateText.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 // The process's catalogue of fonts and its set of symbols, made when first needed.
-#include "Simulator/UIKit/Fonts.hpp"
+#include "Simulator/CoreGraphics/Fonts.hpp"
 
 #include <memory>
 

@@ -1,5 +1,5 @@
 // UTF-8, base 64 and calendar dates in property lists.
-#include "Simulator/Foundation/PropertyListCoding.hpp"
+#include "Simulator/Text/PropertyListCoding.hpp"
 
 #include <algorithm>
 #include <array>

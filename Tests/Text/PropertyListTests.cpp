@@ -1,5 +1,5 @@
 // Property lists written and read in each format.
-#include "Simulator/Foundation/PropertyList.hpp"
+#include "Simulator/Text/PropertyList.hpp"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // A bounded cache of ICU's date formatters and what is asked of them.
-#include "Simulator/Foundation/DateText.hpp"
+#include "Simulator/Text/DateText.hpp"
 
-#include "Simulator/Foundation/IcuNames.hpp"
-#include "Simulator/Foundation/StyleCache.hpp"
+#include "Simulator/Text/IcuNames.hpp"
+#include "Simulator/Text/StyleCache.hpp"
 
 #include <unicode/dtfmtsym.h>
 #include <unicode/dtptngen.h>

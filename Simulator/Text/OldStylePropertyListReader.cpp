@@ -1,6 +1,6 @@
 // Reads property lists of the old text style, { key = value; }, and files of "key" = "value"; lines.
-#include "Simulator/Foundation/PropertyList.hpp"
-#include "Simulator/Foundation/PropertyListCoding.hpp"
+#include "Simulator/Text/PropertyList.hpp"
+#include "Simulator/Text/PropertyListCoding.hpp"
 
 #include <algorithm>
 #include <cctype>

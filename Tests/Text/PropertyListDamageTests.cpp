@@ -1,5 +1,5 @@
 // Damaged and malicious property lists give nothing, and never a crash or a hang.
-#include "Simulator/Foundation/PropertyList.hpp"
+#include "Simulator/Text/PropertyList.hpp"
 
 #include <gtest/gtest.h>
 

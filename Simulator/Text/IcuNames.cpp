@@ -1,5 +1,5 @@
 // Names, dates and texts translated between the phone and ICU.
-#include "Simulator/Foundation/IcuNames.hpp"
+#include "Simulator/Text/IcuNames.hpp"
 
 #include <unicode/ucal.h>
 
