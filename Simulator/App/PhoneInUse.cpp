@@ -1,71 +1,56 @@
 #include "Simulator/App/PhoneInUse.hpp"
 
-#include "Simulator/Text/DateText.hpp"
+#include "Simulator/Text/LocalTime.hpp"
 
 #include <algorithm>
 #include <chrono>
-#include <cstdio>
+#include <cmath>
 
 namespace Simulator::App {
 
 using Control::Json;
-using namespace std::chrono;
 
 namespace {
 
-// Seconds from 1970 to 2001, where the phone's count begins.
-constexpr double referenceDateSinceEpoch = 978307200;
+constexpr double minute = 60;
+constexpr double hour = 60 * minute;
+constexpr double day = 24 * hour;
 
-std::string text(local_seconds time)
+// Where a clock shows the text, whatever its zone. The text was checked before.
+double momentOf(const std::string& text)
 {
-    const auto day = floor<days>(time);
-    const year_month_day date{day};
-    const hh_mm_ss clock{time - day};
-    char buffer[32];
-    std::snprintf(buffer, sizeof buffer, "%04d-%02u-%02uT%02d:%02d:%02d", int(date.year()), unsigned(date.month()),
-        unsigned(date.day()), int(clock.hours().count()), int(clock.minutes().count()), int(clock.seconds().count()));
-    return buffer;
-}
-
-// The text was checked before.
-local_seconds timeOf(const std::string& text)
-{
-    int year = 0, hour = 0, minute = 0, second = 0;
-    unsigned month = 0, day = 0;
-    std::sscanf(text.c_str(), "%4d-%2u-%2uT%2d:%2d:%2d", &year, &month, &day, &hour, &minute, &second);
-    return local_days{std::chrono::year(year) / std::chrono::month(month) / std::chrono::day(day)} + hours(hour)
-        + minutes(minute) + seconds(second);
+    return momentOfLocalTime(text, "UTC").value_or(0);
 }
 
 // The time of day when it comes next; the last moment that the phone can be told where it comes no more.
-local_seconds next(minutes timeOfDay, local_seconds time)
+std::string next(double timeOfDay, double moment)
 {
-    const local_seconds last = local_days{year(9999) / December / 31} + days(1) - seconds(1);
-    const local_seconds today = floor<days>(time) + timeOfDay;
-    return std::min(today > time ? today : today + days(1), last);
+    const double today = std::floor(moment / day) * day + timeOfDay;
+    return localTimeText(std::min(today > moment ? today : today + day, momentOf("9999-12-31T23:59:59")), "UTC");
 }
 
 }
 
 Json phoneInUse(const std::string& time)
 {
-    const local_seconds now = timeOf(time);
+    const double now = momentOf(time);
     // The event is the one that the stock notification speaks of.
     return {{"battery", {{"level", 0.87}, {"state", "unplugged"}}},
         {"weather",
             {{"temperature", "21°"}, {"high", "24°"}, {"low", "15°"}, {"conditions", "Partly Cloudy"},
                 {"location", "Haifa"}, {"sunrise", "6:12"}, {"sunset", "16:41"}}},
-        {"alarm", text(next(6h + 30min, now))},
+        {"alarm", next(6 * hour + 30 * minute, now)},
         {"events",
-            Json::array({{{"title", "Dentist"}, {"start", text(next(9h + 30min, now))}, {"allDay", false}}})}};
+            Json::array({{{"title", "Dentist"}, {"start", next(9 * hour + 30 * minute, now)}, {"allDay", false}}})}};
 }
 
 std::string localTimeNow(const std::string& timeZone)
 {
-    const double moment = duration<double>(system_clock::now().time_since_epoch()).count() - referenceDateSinceEpoch;
-    const std::u16string text
-        = formatDate(moment, {u"yyyy-MM-dd'T'HH:mm:ss", "en_US_POSIX", "gregorian", timeZone});
-    return std::string(text.begin(), text.end());
+    // The phone counts from 2001.
+    constexpr double referenceDateSinceEpoch = 978307200;
+    using namespace std::chrono;
+    const double sinceEpoch = duration<double>(system_clock::now().time_since_epoch()).count();
+    return localTimeText(sinceEpoch - referenceDateSinceEpoch, timeZone);
 }
 
 }

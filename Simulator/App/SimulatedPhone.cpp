@@ -3,9 +3,9 @@
 
 #include "Simulator/App/FactoryContent.hpp"
 #include "Simulator/Companions/Companions.hpp"
-#include "Simulator/Control/Domains/LocalTime.hpp"
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 #include "Simulator/CoreGraphics/Fonts.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Foundation/Foundation.hpp"
@@ -104,12 +104,10 @@ private:
         DeviceState& device = DeviceState::shared();
         device.installed = start.parameters.value("installed", std::set<std::string>());
         lackingParts() = start.parameters.value("lacking", std::set<std::string>());
-        ScreenSettings& screen = screenSettings();
-        screen.style = static_cast<UserInterfaceStyle>(device.style);
         if (start.parameters.contains("screen")) {
             const Json& given = start.parameters.at("screen");
-            screen.size = {given.at("width"), given.at("height")};
-            screen.scale = given.at("scale");
+            device.screen.size = {given.at("width"), given.at("height")};
+            device.screen.scale = given.at("scale");
         }
     }
 

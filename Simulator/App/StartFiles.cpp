@@ -4,13 +4,13 @@
 #include "Simulator/App/FactoryContent.hpp"
 #include "Simulator/App/PhoneInUse.hpp"
 #include "Simulator/App/WeatherGlyph.hpp"
+#include "Simulator/Base/HostFile.hpp"
 #include "Simulator/Control/Methods.hpp"
 #include "Simulator/Control/PropertyList.hpp"
 #include "Simulator/Control/Types.hpp"
 
 #include <filesystem>
 #include <fstream>
-#include <sstream>
 
 namespace Simulator::App {
 
@@ -79,11 +79,11 @@ std::string jpegFile(const std::string& path)
 
 std::string bytesOf(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    if (!file || !fs::is_regular_file(path) || !(bytes << file.rdbuf()))
+    std::error_code ignored;
+    auto bytes = fs::is_regular_file(path, ignored) ? readHostFile(path).value : std::string();
+    if (bytes.empty())
         throw Failure(path + ": cannot be read; an existing file that is not empty is needed");
-    return bytes.str();
+    return bytes;
 }
 
 Json jsonOf(const std::string& path, const std::string& bytes)

@@ -1,7 +1,8 @@
 // What a phone is started with, gathered from options and files of the host.
 #pragma once
 
-#include "Simulator/Control/RootFolder.hpp"
+#include "Simulator/Base/TemporaryFolder.hpp"
+#include "Simulator/Control/Envelope.hpp"
 
 #include <optional>
 #include <stdexcept>
@@ -28,11 +29,11 @@ struct StartOptions {
 // A host folder for what is made on the way, removed with its owner.
 class Workshop {
 public:
-    std::string at(const std::string& name) const { return _folder.path() + "/" + name; }
+    std::string at(const std::string& name) const { return (_folder.path() / name).string(); }
     std::string put(const std::string& name, const std::string& bytes) const;
 
 private:
-    Control::RootFolder _folder;
+    TemporaryFolder _folder;
 };
 
 // The parameters of `phone.start`. Throws a Failure.

@@ -1,5 +1,6 @@
 // The weather library: the device's weather as the dictionary that it gives out.
 #include "Platform/Companions/WeatherApp.hpp"
+#include "Simulator/Base/HostFile.hpp"
 
 #include "Platform/UIKit/UIImage.hpp"
 #include "Simulator/Companions/PropertyListValues.hpp"
@@ -9,7 +10,6 @@
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
 
-#include <fstream>
 #include <iterator>
 
 namespace Simulator {
@@ -39,8 +39,7 @@ NS::Object objectOrNil(const Value& value)
 /// The picture of the conditions lies on the host.
 UI::Image imageOnHost(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    const std::string bytes(std::istreambuf_iterator<char>(file), {});
+    const std::string bytes = readHostFile(path).value;
     return bytes.empty() ? UI::Image() : UI::Image::imageWithData(NS::Data::dataWithBytes(bytes.data(), bytes.size()));
 }
 

@@ -1,9 +1,9 @@
 // One end of the socket between the supervisor and its shell process: a JSON document a line, both ways.
 #pragma once
 
+#include "Simulator/Base/Descriptor.hpp"
 #include "Simulator/Control/Envelope.hpp"
 #include "Simulator/Control/LineReader.hpp"
-#include "Simulator/Files/Descriptor.hpp"
 
 namespace Simulator::Control {
 

@@ -1,6 +1,8 @@
 // Looks at what a path names before it is written.
 #include "Simulator/Control/OutputFile.hpp"
 
+#include "Simulator/Base/UnfinishedFile.hpp"
+
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
@@ -40,22 +42,6 @@ fs::path followed(const std::string& given)
     }
     return {};
 }
-
-// A name of its own, beside the file whose place it takes.
-Descriptor createBeside(const fs::path& path, std::string& name)
-{
-    for (int number = 0;; ++number) {
-        name = path.parent_path() / (".lyr-" + std::to_string(getpid()) + "-" + std::to_string(number));
-        Descriptor file(open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
-        if (file || errno != EEXIST)
-            return file;
-    }
-}
-
-struct RemovedAtTheEnd {
-    std::string path;
-    ~RemovedAtTheEnd() { unlink(path.c_str()); }
-};
 
 // A reader that has gone is told by an error.
 class WithoutPipeSignal {
@@ -140,19 +126,18 @@ void OutputFile::write(std::string_view bytes) const
 
 void OutputFile::replace(std::string_view bytes) const
 {
-    RemovedAtTheEnd unfinished;
-    const Descriptor file = createBeside(_path, unfinished.path);
+    UnfinishedFile file(_path);
     if (!file)
         refuseWithError();
-    send(file.number(), bytes);
+    send(file.descriptor(), bytes);
     if (_replaced) {
         constexpr mode_t permissions = 0777;
         // Only the superuser can give a file away, and only to others need it be given.
-        [[maybe_unused]] const int ignored = fchown(file.number(), _replaced->st_uid, _replaced->st_gid);
-        fchmod(file.number(), _replaced->st_mode & permissions);
+        [[maybe_unused]] const int ignored = fchown(file.descriptor(), _replaced->st_uid, _replaced->st_gid);
+        fchmod(file.descriptor(), _replaced->st_mode & permissions);
     }
-    if (std::rename(unfinished.path.c_str(), _path.c_str()) != 0)
-        refuseWithError();
+    if (const int error = file.takePlace())
+        refuse(std::strerror(error));
 }
 
 // No more at a time than a pipe that is ready takes without waiting.

@@ -1,11 +1,9 @@
 // Makes, fills and removes the phone's root folder.
 #include "Simulator/Control/RootFolder.hpp"
 
+#include "Simulator/Base/HostFile.hpp"
 #include "Simulator/Control/PropertyList.hpp"
 
-#include <cstdlib>
-#include <fstream>
-#include <sstream>
 #include <system_error>
 
 namespace Simulator::Control {
@@ -14,43 +12,24 @@ namespace fs = std::filesystem;
 
 namespace {
 
-std::string makeTemporaryFolder()
-{
-    std::string name = (fs::temp_directory_path() / "lyr-phone-XXXXXX").string();
-    if (!mkdtemp(name.data()))
-        throw std::system_error(errno, std::generic_category(), "cannot make the folder " + name);
-    return name;
-}
-
 std::string bytesOf(const fs::path& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    if (!file)
+    auto bytes = readHostFile(path);
+    if (!bytes)
         throw std::runtime_error("cannot read " + path.string());
-    return bytes.str();
+    return std::move(bytes.value);
 }
 
 }
 
 RootFolder::RootFolder()
-    : _isTemporary(true)
 {
-    _files.setRoot(makeTemporaryFolder());
+    _files.setRoot(_temporary.emplace("lyr-phone").path());
 }
 
 RootFolder::RootFolder(const std::string& given)
-    : _isTemporary(false)
 {
     _files.setRoot(given);
-}
-
-RootFolder::~RootFolder()
-{
-    std::error_code ignored;
-    if (_isTemporary)
-        fs::remove_all(path(), ignored);
 }
 
 void RootFolder::fill(const Json& parameters)

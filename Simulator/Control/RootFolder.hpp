@@ -1,10 +1,12 @@
 // The host folder that is the phone's `/`: a given one, or a temporary one that goes with its owner.
 #pragma once
 
+#include "Simulator/Base/TemporaryFolder.hpp"
 #include "Simulator/Control/Envelope.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 
 #include <filesystem>
+#include <optional>
 
 namespace Simulator::Control {
 
@@ -19,9 +21,6 @@ public:
     // Makes a temporary folder.
     RootFolder();
     explicit RootFolder(const std::string& given);
-    ~RootFolder();
-    RootFolder(const RootFolder&) = delete;
-    RootFolder& operator=(const RootFolder&) = delete;
 
     const std::string& path() const { return _files.root(); }
 
@@ -32,8 +31,8 @@ private:
     void put(std::string_view phonePath, const std::string& bytes);
     void copy(const std::filesystem::path& from, const std::string& phonePath);
 
+    std::optional<TemporaryFolder> _temporary;
     PhoneFiles _files;
-    bool _isTemporary;
 };
 
 }

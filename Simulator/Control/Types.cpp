@@ -1,6 +1,8 @@
 // The checks behind the kinds of values.
 #include "Simulator/Control/Types.hpp"
 
+#include "Simulator/Base/Base64.hpp"
+
 #include <algorithm>
 #include <charconv>
 #include <chrono>
@@ -109,21 +111,6 @@ bool isLocale(const std::string& name)
     return name.size() <= longest && std::regex_match(name, form);
 }
 
-bool isBase64(const std::string& text)
-{
-    if (text.size() % 4 != 0)
-        return false;
-    const auto end = text.find('=');
-    const auto body = std::string_view(text).substr(0, end);
-    const auto padding = text.size() - body.size();
-    const auto isDigit = [](char c) {
-        return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '+' || c == '/';
-    };
-    return padding <= 2 && std::all_of(body.begin(), body.end(), isDigit)
-        && std::all_of(
-            text.begin() + static_cast<std::ptrdiff_t>(body.size()), text.end(), [](char c) { return c == '='; });
-}
-
 // A property list has no null, and its texts end at a NUL.
 bool isPropertyList(const Json& value)
 {
@@ -207,7 +194,7 @@ Type propertyList()
 
 Type base64()
 {
-    return textThat("a string in base64", isBase64);
+    return textThat("a string in base64", [](const std::string& text) { return fromBase64(text).has_value(); });
 }
 
 Type localTime()

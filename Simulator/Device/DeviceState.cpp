@@ -3,8 +3,7 @@
 
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Text/CalendarMath.hpp"
-
-#include <cstdio>
+#include "Simulator/Text/LocalTime.hpp"
 
 namespace Simulator {
 
@@ -41,15 +40,11 @@ PhoneLocale& PhoneLocale::shared()
 
 std::optional<double> momentOfLocalTime(const std::string& text)
 {
-    int year, month, day, hour, minute, second, length = 0;
-    const int read
-        = std::sscanf(text.c_str(), "%4d-%2d-%2dT%2d:%2d:%2d%n", &year, &month, &day, &hour, &minute, &second, &length);
-    if (read != 6 || static_cast<std::size_t>(length) != text.size())
-        return std::nullopt;
-    return dateFromFields(
-        {{CalendarUnit::Year, year}, {CalendarUnit::Month, month}, {CalendarUnit::Day, day}, {CalendarUnit::Hour, hour},
-            {CalendarUnit::Minute, minute}, {CalendarUnit::Second, second}},
-        calendarOfPhone());
+    return momentOfLocalTime(text, PhoneLocale::shared().timeZone);
+}
+std::string localTimeText(double moment)
+{
+    return localTimeText(moment, PhoneLocale::shared().timeZone);
 }
 
 double startOfDay(double moment)

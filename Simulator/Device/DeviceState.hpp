@@ -1,6 +1,8 @@
-// What the phone's surroundings are like: battery, weather, alarm, calendar, appearance, other extensions.
+// What the phone has and what surrounds it: screen, battery, weather, alarm, calendar, appearance, other extensions.
 // Plain values; whoever changes them tells the shell (Shell::deviceChanged).
 #pragma once
+
+#include "Platform/CoreGraphics/CGGeometry.hpp"
 
 #include <nlohmann/json.hpp>
 
@@ -20,6 +22,12 @@ struct Battery {
     double level = 1;
     BatteryState state = BatteryState::Unplugged;
     bool lowPower = false;
+};
+
+/// To be set before the first window.
+struct ScreenSettings {
+    CGSize size = {375, 812};
+    double scale = 3;
 };
 
 /// Finished texts, as the weather library holds them. An empty one is absent. A value of another kind is given out as
@@ -49,18 +57,28 @@ struct CalendarEvent {
 struct DeviceState {
     static DeviceState& shared();
 
+    std::string name = "iPhone";
+    ScreenSettings screen;
     Battery battery;
     std::optional<WeatherReport> weather;
     /// Local time of the next alarm.
     std::optional<std::string> alarm;
     std::vector<CalendarEvent> events;
+    /// Once there is a window, it is changed by `changeInterfaceStyle`.
     InterfaceStyle style = InterfaceStyle::Light;
     /// Other extensions: "AFont", "LastLook", "Axon", "Filza".
     std::set<std::string> installed;
 };
 
+inline ScreenSettings& screenSettings()
+{
+    return DeviceState::shared().screen;
+}
+
 /// Seconds since 2001-01-01 UTC of a local time in the phone's time zone; nothing if the text is none.
 std::optional<double> momentOfLocalTime(const std::string& text);
+/// The reverse.
+std::string localTimeText(double moment);
 /// The first moment of the day that a moment lies in, and of the day after it.
 double startOfDay(double moment);
 double startOfNextDay(double moment);

@@ -2,7 +2,7 @@
 // used. Not mapped: a mapped file that someone shortens would end the process.
 #pragma once
 
-#include "Simulator/Files/Descriptor.hpp"
+#include "Simulator/Base/Descriptor.hpp"
 
 #include <cstddef>
 #include <cstdlib>

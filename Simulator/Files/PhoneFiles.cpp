@@ -1,7 +1,8 @@
 // Writing and listing under the phone's root, with faults where a test asks for them.
 #include "Simulator/Files/PhoneFiles.hpp"
 
-#include "Simulator/Files/Descriptor.hpp"
+#include "Simulator/Base/Descriptor.hpp"
+#include "Simulator/Base/UnfinishedFile.hpp"
 
 #include <algorithm>
 #include <cerrno>
@@ -97,21 +98,12 @@ int PhoneFiles::writeAtomically(
         return writeFault;
     if (fs::is_directory(hostPath, status))
         return EISDIR;
-    std::string temporary = fs::path(hostPath).parent_path().string() + "/.write-XXXXXX";
-    int error = 0;
-    {
-        const Descriptor file(::mkstemp(temporary.data()));
-        if (!file)
-            return errno;
-        error = ::fchmod(file.number(), 0644) == 0 ? writeAll(file.number(), bytes) : errno;
-    }
-    if (!error)
-        error = renameFault;
-    if (!error && ::rename(temporary.c_str(), hostPath.c_str()) != 0)
-        error = errno;
-    if (error)
-        ::unlink(temporary.c_str());
-    return error;
+    UnfinishedFile file(hostPath);
+    if (!file || ::fchmod(file.descriptor(), 0644) != 0)
+        return errno;
+    if (const int error = writeAll(file.descriptor(), bytes))
+        return error;
+    return renameFault ? renameFault : file.takePlace();
 }
 
 int PhoneFiles::write(std::string_view phonePath, std::string_view bytes, WriteMode mode)

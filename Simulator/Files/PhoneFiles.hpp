@@ -2,6 +2,7 @@
 // with injected faults and a record of what the shell writes.
 #pragma once
 
+#include "Simulator/Base/HostFile.hpp"
 #include "Simulator/Files/RecentContents.hpp"
 
 #include <functional>
@@ -15,14 +16,6 @@ namespace Simulator {
 
 enum class FileOperation { Read, Write, Rename };
 enum class WriteMode { Direct, Atomic };
-
-/// A value, or the errno that says why there is none.
-template <typename T>
-struct FileResult {
-    T value{};
-    int error = 0;
-    explicit operator bool() const { return error == 0; }
-};
 
 class PhoneFiles {
 public:

@@ -1,9 +1,8 @@
 // The phone's files as bytes: all of them at once, or as a content that is shared and read when it is asked for.
 #include "Simulator/Files/PhoneFiles.hpp"
 
-#include "Simulator/Files/Descriptor.hpp"
+#include "Simulator/Base/Descriptor.hpp"
 
-#include <algorithm>
 #include <cerrno>
 
 #include <fcntl.h>
@@ -13,22 +12,6 @@
 namespace Simulator {
 
 namespace {
-
-FileResult<std::string> readAll(int descriptor, std::size_t length)
-{
-    std::string bytes(length, '\0');
-    std::size_t filled = 0;
-    while (filled < length) {
-        const ssize_t count = ::read(descriptor, bytes.data() + filled, length - filled);
-        if (count == 0)
-            break;
-        if (count < 0 && errno != EINTR)
-            return {{}, errno};
-        filled += static_cast<std::size_t>(std::max<ssize_t>(count, 0));
-    }
-    bytes.resize(filled);
-    return {std::move(bytes), 0};
-}
 
 struct OpenFile {
     Descriptor descriptor{-1};
@@ -81,7 +64,7 @@ FileResult<std::string> PhoneFiles::fetch(std::string_view phonePath) const
 {
     auto opened = openToRead(phonePath);
     const auto file = opened ? plainFile(std::move(opened.value)) : FileResult<OpenFile>{{}, opened.error};
-    return file ? readAll(file.value.descriptor.number(), file.value.size()) : FileResult<std::string>{{}, file.error};
+    return file ? readAll(file.value.descriptor.number()) : FileResult<std::string>{{}, file.error};
 }
 
 FileResult<PhoneFiles::Content> PhoneFiles::load(std::string_view phonePath) const
@@ -95,7 +78,7 @@ FileResult<PhoneFiles::Content> PhoneFiles::load(std::string_view phonePath) con
     _openObserver();
     const struct stat& status = file.value.status;
     if (!RecentContents::suits(status)) {
-        const auto bytes = readAll(file.value.descriptor.number(), file.value.size());
+        const auto bytes = readAll(file.value.descriptor.number());
         return {bytes ? std::make_shared<const FileContent>(bytes.value) : nullptr, bytes.error};
     }
     auto content = _recent.find(status);

@@ -2,12 +2,12 @@
 #include "Simulator/Foundation/FileAccess.hpp"
 
 #include "Platform/Foundation/NSDictionary.hpp"
+#include "Simulator/Base/HostFile.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 
 #include <array>
 #include <cerrno>
-#include <fstream>
 #include <iterator>
 
 extern "C" {
@@ -35,15 +35,6 @@ constexpr std::array errorCodes = {
     ErrorCodes{ENAMETOOLONG, 258, 514},
     ErrorCodes{0, 256, 512},
 };
-
-FileResult<std::string> readHostFile(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    if (!file)
-        return {{}, errno ? errno : ENOENT};
-    std::string bytes((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
-    return file.bad() ? FileResult<std::string>{{}, EIO} : FileResult<std::string>{std::move(bytes), 0};
-}
 
 }
 

@@ -1,7 +1,7 @@
 // Conversion of strings, tolerant of ill-formed ones.
 #include "Simulator/Foundation/Texts.hpp"
 
-#include "Simulator/Text/TextCase.hpp"
+#include "Simulator/Base/Utf.hpp"
 
 namespace Simulator {
 

@@ -1,12 +1,14 @@
 // Reads names and metrics of font files by FreeType.
 #include "Simulator/Graphics/FontFile.hpp"
 
+#include "Simulator/Base/HostFile.hpp"
+#include "Simulator/Base/Utf.hpp"
+
 #include FT_SFNT_NAMES_H
 #include FT_TRUETYPE_IDS_H
 #include FT_TRUETYPE_TABLES_H
 
 #include <algorithm>
-#include <fstream>
 
 namespace Simulator::Graphics {
 
@@ -32,30 +34,17 @@ FacePointer accepted(FacePointer face)
     return face;
 }
 
-void appendUtf8(std::string& out, unsigned codePoint)
-{
-    if (codePoint < 0x80) {
-        out += static_cast<char>(codePoint);
-    } else if (codePoint < 0x800) {
-        out += static_cast<char>(0xC0 | codePoint >> 6);
-        out += static_cast<char>(0x80 | (codePoint & 0x3F));
-    } else {
-        out += static_cast<char>(0xE0 | codePoint >> 12);
-        out += static_cast<char>(0x80 | (codePoint >> 6 & 0x3F));
-        out += static_cast<char>(0x80 | (codePoint & 0x3F));
-    }
-}
-
 // Names are stored as big-endian UTF-16; those of fonts keep to the basic plane.
 std::string fromUtf16(const FT_SfntName& name)
 {
-    std::string text;
+    constexpr char16_t replacement = 0xFFFD;
+    std::u16string text;
     for (FT_UInt i = 0; i + 1 < name.string_len; i += 2) {
-        const unsigned unit = name.string[i] << 8 | name.string[i + 1];
+        const auto unit = static_cast<char16_t>(name.string[i] << 8 | name.string[i + 1]);
         const bool isSurrogate = unit >= 0xD800 && unit < 0xE000;
-        appendUtf8(text, isSurrogate || unit == 0 ? 0xFFFD : unit);
+        text += isSurrogate || unit == 0 ? replacement : unit;
     }
-    return text;
+    return toUtf8(text);
 }
 
 // FreeType reduces names to ASCII; a family named in another script is read from the table itself.
@@ -194,11 +183,9 @@ std::vector<std::byte> readFile(const std::filesystem::path& path, std::size_t l
     const auto size = std::filesystem::file_size(path, error);
     if (error || size == 0 || size > limit)
         return {};
-    std::vector<std::byte> bytes(size);
-    std::ifstream stream(path, std::ios::binary);
-    stream.read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(size));
-    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(0, stream.gcount())));
-    return bytes;
+    const auto content = readHostFile(path);
+    const auto bytes = std::as_bytes(std::span(content.value));
+    return {bytes.begin(), bytes.end()};
 }
 
 }

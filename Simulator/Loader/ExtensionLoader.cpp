@@ -1,6 +1,7 @@
 #include "Simulator/Loader/ExtensionLoader.hpp"
 
 #include "Platform/Foundation/NSDictionary.hpp"
+#include "Simulator/Base/HostFile.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Loader/HookRecord.hpp"
 #include "Simulator/Loader/MachOImage.hpp"
@@ -13,9 +14,7 @@
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <memory>
-#include <sstream>
 
 namespace Simulator {
 
@@ -44,11 +43,10 @@ static std::string bytesOf(const std::string& hostPath)
     std::error_code error;
     if (!std::filesystem::is_regular_file(hostPath, error))
         throw LoadError(error ? "it cannot be read: " + error.message() : "it is not a file");
-    std::ifstream file(hostPath, std::ios::binary);
-    std::ostringstream bytes;
-    if (!file || !(bytes << file.rdbuf()))
+    auto bytes = readHostFile(hostPath).value;
+    if (bytes.empty())
         throw LoadError("it cannot be read, or is empty");
-    return std::move(bytes).str();
+    return bytes;
 }
 
 static bool isLinuxLibrary(std::string_view bytes)

@@ -1,7 +1,7 @@
 // Tells when files of a folder of the host have been written or replaced.
 #pragma once
 
-#include "Simulator/Files/Descriptor.hpp"
+#include "Simulator/Base/Descriptor.hpp"
 
 #include <string>
 #include <vector>

@@ -1,6 +1,7 @@
 // Looks read from and written to the files of a phone.
 #include "Simulator/Preview/Look.hpp"
 
+#include "Simulator/Base/HostFile.hpp"
 #include "Simulator/Control/PropertyList.hpp"
 #include "Simulator/Control/RootFolder.hpp"
 #include "Simulator/Graphics/FontCatalogue.hpp"
@@ -9,10 +10,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
-#include <fstream>
 #include <set>
 #include <span>
-#include <sstream>
 
 namespace Simulator::Preview {
 
@@ -118,11 +117,8 @@ void checkLook(const Json& look)
 
 std::string nameOfFont(const fs::path& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    const std::string content = bytes.str();
-    const auto names = Graphics::FontCatalogue::namesOf(std::as_bytes(std::span(content)));
+    const auto content = readHostFile(path);
+    const auto names = Graphics::FontCatalogue::namesOf(std::as_bytes(std::span(content.value)));
     return names ? names->postScriptName : std::string();
 }
 

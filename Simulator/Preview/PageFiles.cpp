@@ -1,8 +1,8 @@
 #include "Simulator/Preview/PageFiles.hpp"
 
+#include "Simulator/Base/HostFile.hpp"
+
 #include <array>
-#include <fstream>
-#include <sstream>
 
 namespace Simulator::Preview {
 
@@ -35,12 +35,8 @@ std::optional<PageFile> pageFile(const fs::path& folder, std::string_view target
     std::error_code error;
     for (const auto& entry : fs::directory_iterator(folder, error)) {
         const auto type = typeOf(entry.path());
-        if (!type || "/" + entry.path().filename().string() != wanted)
-            continue;
-        std::ifstream file(entry.path(), std::ios::binary);
-        std::ostringstream bytes;
-        bytes << file.rdbuf();
-        return PageFile{bytes.str(), *type};
+        if (type && "/" + entry.path().filename().string() == wanted)
+            return PageFile{readHostFile(entry.path()).value, *type};
     }
     return std::nullopt;
 }

@@ -7,7 +7,6 @@
 #include "Simulator/SpringBoard/NotificationList.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 #include "Simulator/SpringBoard/Wallpaper.hpp"
-#include "Simulator/UIKit/UIDevice.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 
 #include <utility>
@@ -35,11 +34,6 @@ CSCoverSheetViewController& sheet(const UI::ViewController& controller)
     return standIn<CSCoverSheetViewController>(controller.raw());
 }
 
-UserInterfaceStyle platformStyle(InterfaceStyle style)
-{
-    return style == InterfaceStyle::Dark ? UserInterfaceStyle::dark : UserInterfaceStyle::light;
-}
-
 }
 
 Shell* Shell::current()
@@ -65,7 +59,6 @@ Shell::~Shell()
 void Shell::start()
 {
     ObjC::AutoreleasePool pool;
-    screenSettings().style = platformStyle(DeviceState::shared().style);
     buildWindow();
     applyDeviceState();
     present(true);
@@ -237,11 +230,8 @@ void Shell::deviceChanged()
 
 void Shell::applyDeviceState()
 {
-    const Battery& state = DeviceState::shared().battery;
-    battery().level = state.level;
-    battery().state = static_cast<UI::DeviceBatteryState>(state.state);
     updateStatusBar();
-    changeInterfaceStyle(window(), platformStyle(DeviceState::shared().style));
+    changeInterfaceStyle(window(), DeviceState::shared().style);
 }
 
 void Shell::commit()

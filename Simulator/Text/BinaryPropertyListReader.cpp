@@ -1,5 +1,6 @@
 // Reads binary property lists. Offsets, lengths, cycles and repeated references are all checked, since a damaged
 // file may hold any.
+#include "Simulator/Base/Utf.hpp"
 #include "Simulator/Text/PropertyList.hpp"
 #include "Simulator/Text/PropertyListCoding.hpp"
 

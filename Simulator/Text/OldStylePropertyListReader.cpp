@@ -1,4 +1,5 @@
 // Reads property lists of the old text style, { key = value; }, and files of "key" = "value"; lines.
+#include "Simulator/Base/Utf.hpp"
 #include "Simulator/Text/PropertyList.hpp"
 #include "Simulator/Text/PropertyListCoding.hpp"
 

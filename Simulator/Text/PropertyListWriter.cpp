@@ -1,7 +1,8 @@
 // Writes property lists as XML and as binary files.
+#include "Simulator/Base/Base64.hpp"
+#include "Simulator/Base/Utf.hpp"
 #include "Simulator/Text/PropertyList.hpp"
 #include "Simulator/Text/PropertyListCoding.hpp"
-#include "Simulator/Text/TextCase.hpp"
 
 #include <algorithm>
 #include <bit>
@@ -70,7 +71,7 @@ private:
     void write(const PropertyListData& data)
     {
         constexpr std::size_t charactersPerLine = 68;
-        const std::string encoded = encodeBase64(data.bytes);
+        const std::string encoded = toBase64(data.bytes);
         _text.append(_indent, '\t').append("<data>\n");
         for (std::size_t at = 0; at < encoded.size(); at += charactersPerLine)
             _text.append(_indent, '\t').append(encoded, at, charactersPerLine).append("\n");

@@ -96,15 +96,4 @@ int compareText(std::u16string_view one, std::u16string_view other, std::string_
     return collator->compare(icuText(one), icuText(other), status);
 }
 
-std::u16string toUtf16(std::string_view utf8)
-{
-    return plainText(icu::UnicodeString::fromUTF8({utf8.data(), static_cast<int>(utf8.size())}));
-}
-
-std::string toUtf8(std::u16string_view text)
-{
-    std::string utf8;
-    return icuText(text).toUTF8String(utf8);
-}
-
 }

@@ -16,7 +16,4 @@ std::u16string capitalized(std::u16string_view, std::string_view locale = {});
 /// Negative, zero or positive, in the locale's alphabetical order. Accents count; case only if asked for.
 int compareText(std::u16string_view, std::u16string_view, std::string_view locale, bool caseSensitive);
 
-std::u16string toUtf16(std::string_view utf8);
-std::string toUtf8(std::u16string_view);
-
 }

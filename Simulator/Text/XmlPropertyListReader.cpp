@@ -1,4 +1,5 @@
 // Reads XML property lists. Anything that is no element of a property list makes the whole text none.
+#include "Simulator/Base/Utf.hpp"
 #include "Simulator/Text/PropertyList.hpp"
 #include "Simulator/Text/PropertyListCoding.hpp"
 

@@ -2,8 +2,8 @@
 #include "Simulator/UIKit/UIColor.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
-#include "Simulator/UIKit/UIScreen.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -125,7 +125,7 @@ void UIColor::initWithHue(double hue, double saturation, double brightness, doub
 
 const ColorComponents& UIColor::current() const
 {
-    return screenSettings().style == UserInterfaceStyle::dark ? dark : light;
+    return DeviceState::shared().style == InterfaceStyle::Dark ? dark : light;
 }
 
 bool UIColor::getRed(double* red, double* green, double* blue, double* alpha) const

@@ -1,15 +1,10 @@
 // The one device object, which reads the simulated battery.
 #include "Simulator/UIKit/UIDevice.hpp"
 
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 
 namespace Simulator {
-
-BatteryReading& battery()
-{
-    static BatteryReading reading;
-    return reading;
-}
 
 UI::Device UIDevice::currentDevice()
 {
@@ -21,17 +16,18 @@ UI::Device UIDevice::currentDevice()
 
 float UIDevice::batteryLevel() const
 {
-    return batteryMonitoringEnabled ? static_cast<float>(battery().level) : -1;
+    return batteryMonitoringEnabled ? static_cast<float>(DeviceState::shared().battery.level) : -1;
 }
 
 UI::DeviceBatteryState UIDevice::batteryState() const
 {
-    return batteryMonitoringEnabled ? battery().state : UI::DeviceBatteryState::unknown;
+    const auto state = static_cast<UI::DeviceBatteryState>(DeviceState::shared().battery.state);
+    return batteryMonitoringEnabled ? state : UI::DeviceBatteryState::unknown;
 }
 
 NS::String UIDevice::name() const
 {
-    return NS::String::fromUTF8(battery().deviceName);
+    return NS::String::fromUTF8(DeviceState::shared().name);
 }
 
 NS::String UIDevice::model() const

@@ -4,18 +4,7 @@
 #include "Platform/UIKit/UIDevice.hpp"
 #include "Simulator/Runtime/StandIn.hpp"
 
-#include <string>
-
 namespace Simulator {
-
-/// What the simulated battery says; the control protocol writes it.
-struct BatteryReading {
-    double level = 1.0;
-    UI::DeviceBatteryState state = UI::DeviceBatteryState::unplugged;
-    std::string deviceName = "iPhone";
-};
-
-BatteryReading& battery();
 
 struct UIDevice : StandIn {
     using Root = UIDevice;

@@ -17,13 +17,13 @@ UI::Screen mainScreen()
     return screen;
 }
 
-NS::Object makeTraits(UserInterfaceStyle style)
+NS::Object makeTraits(InterfaceStyle style)
 {
     const ObjC::Object traits = ObjC::Object::adopting(ObjC::sendMessage<id>(
         ObjC::sendMessage<id>(reinterpret_cast<id>(objc_getClass("UITraitCollection")), ObjC::selector<"alloc">()),
         ObjC::selector<"init">()));
     auto& standing = standIn<UITraitCollection>(traits.raw());
-    standing.style = style;
+    standing.style = static_cast<UserInterfaceStyle>(style);
     standing.displayScale = screenSettings().scale;
     return traits;
 }
@@ -41,23 +41,18 @@ void announceTraits(const UI::View& object, const NS::Object& previous)
 
 }
 
-ScreenSettings& screenSettings()
-{
-    static ScreenSettings settings;
-    return settings;
-}
-
 NS::Object currentTraits()
 {
-    return makeTraits(screenSettings().style);
+    return makeTraits(DeviceState::shared().style);
 }
 
-void changeInterfaceStyle(UIWindow& window, UserInterfaceStyle style)
+void changeInterfaceStyle(UIWindow& window, InterfaceStyle style)
 {
-    if (screenSettings().style == style)
+    DeviceState::shared().style = style;
+    if (window.announcedStyle == style)
         return;
-    const NS::Object previous = currentTraits();
-    screenSettings().style = style;
+    const NS::Object previous = makeTraits(window.announcedStyle);
+    window.announcedStyle = style;
     announceTraits(window.self<UI::View>(), previous);
 }
 

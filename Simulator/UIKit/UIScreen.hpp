@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/UIKit/UIScreen.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/StandIn.hpp"
 
 namespace Simulator {
@@ -10,18 +11,8 @@ struct UIWindow;
 
 using UserInterfaceStyle = UI::UserInterfaceStyle;
 
-/// What the simulated device has; the screen object reads it.
-struct ScreenSettings {
-    CGSize size = {375, 812};
-    double scale = 3;
-    UserInterfaceStyle style = UserInterfaceStyle::light;
-};
-
-/// To be set before the first window; the style later through `changeInterfaceStyle`.
-ScreenSettings& screenSettings();
-
-/// Changes the style and tells every view and view controller of the window so.
-void changeInterfaceStyle(UIWindow& window, UserInterfaceStyle style);
+/// Changes the device's style and tells every view and view controller of the window so.
+void changeInterfaceStyle(UIWindow& window, InterfaceStyle style);
 
 /// The traits that hold now.
 NS::Object currentTraits();

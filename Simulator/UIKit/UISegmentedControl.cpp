@@ -1,6 +1,7 @@
 #include "Simulator/UIKit/UISegmentedControl.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
@@ -8,7 +9,6 @@
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIFont.hpp"
 #include "Simulator/UIKit/UIImage.hpp"
-#include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/UITouch.hpp"
 
 #include <nlohmann/json.hpp>
@@ -235,7 +235,7 @@ void UISegmentedControl::decorate(Graphics::Layer& layer) const
     UIControl::decorate(layer);
     layer.children.push_back(makeBox(toGraphics(bounds()), systemColor("tertiarySystemFillColor"), cornerRadius));
     if (selectedSegmentIndex != noSegment) {
-        const bool isDark = screenSettings().style == UserInterfaceStyle::dark;
+        const bool isDark = DeviceState::shared().style == InterfaceStyle::Dark;
         const Graphics::Color pill = isDark ? systemColor("systemGray2Color") : Graphics::Color{1, 1, 1, 1};
         const Graphics::Rect area = frameOf(selectedSegmentIndex).insetBy(inset, inset);
         Graphics::Layer box = makeBox(area, resolvedColor(selectedSegmentTint).value_or(pill), cornerRadius - inset);

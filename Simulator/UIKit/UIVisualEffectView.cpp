@@ -2,7 +2,7 @@
 #include "Simulator/UIKit/UIVisualEffectView.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
-#include "Simulator/UIKit/UIScreen.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 
 #include <array>
 
@@ -82,7 +82,7 @@ Graphics::LayerContent UIVisualEffectView::layerContent() const
         if (static_cast<long>(candidate.style) == style())
             material = &candidate;
     }
-    const bool isDark = screenSettings().style == UserInterfaceStyle::dark;
+    const bool isDark = DeviceState::shared().style == InterfaceStyle::Dark;
     return Graphics::BackdropBlur{material->radius, isDark ? material->dark : material->light};
 }
 

@@ -1,6 +1,7 @@
 // The root of a tree of views that is on the screen.
 #pragma once
 
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/UIKit/UIView.hpp"
 
 namespace Simulator {
@@ -12,6 +13,8 @@ struct UIWindow : UIView {
 
     UI::ViewController rootViewController;
     double windowLevel = 0;
+    /// What its views were told last.
+    InterfaceStyle announcedStyle = DeviceState::shared().style;
 };
 
 void registerUIWindow();

@@ -1,6 +1,7 @@
 // The view object of the control protocol, and looking for views.
 #include "Simulator/UIKit/ViewDescription.hpp"
 
+#include "Simulator/Base/ColourText.hpp"
 #include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
@@ -52,15 +53,7 @@ Json describeColor(const std::optional<Graphics::Color>& color)
 {
     if (!color)
         return nullptr;
-    const Graphics::Color shown = color->clamped();
-    std::string text = "#";
-    for (double component : {shown.r, shown.g, shown.b, shown.a}) {
-        constexpr char digits[] = "0123456789ABCDEF";
-        const auto byte = static_cast<unsigned>(std::lround(component * 255));
-        text += digits[byte >> 4];
-        text += digits[byte & 15];
-    }
-    return text;
+    return textOfColour({color->r, color->g, color->b, color->a});
 }
 
 Json describeFont(const UI::Font& font)

@@ -1,11 +1,10 @@
 // The phone's root folder on the host.
 #include "Simulator/Control/RootFolder.hpp"
 
+#include "Simulator/Base/HostFile.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
-#include <fstream>
 #include <gtest/gtest.h>
-#include <sstream>
 
 using namespace Simulator::Control;
 using Support::TemporaryFolder;
@@ -15,10 +14,7 @@ namespace {
 
 std::string read(const RootFolder& root, std::string_view phonePath)
 {
-    std::ifstream file(root.path() + std::string(phonePath));
-    std::ostringstream bytes;
-    bytes << file.rdbuf();
-    return bytes.str();
+    return Simulator::readHostFile(root.path() + std::string(phonePath)).value;
 }
 
 }

@@ -3,7 +3,6 @@
 #include "Tests/Support/Picture.hpp"
 
 #include <cmath>
-#include <fstream>
 
 namespace {
 
@@ -83,8 +82,7 @@ void putWallpaper(Phone& phone, const std::array<std::uint8_t, 3>& colour)
     Support::TemporaryFolder folder;
     const std::string path = folder.path() / "wallpaper.png";
     ASSERT_TRUE(picture.write(path));
-    std::ifstream file(path, std::ios::binary);
-    phone.writeFile(wallpaperPath, std::string(std::istreambuf_iterator<char>(file), {}));
+    phone.writeFile(wallpaperPath, Simulator::readHostFile(path).value);
 }
 
 /// As a finger does that knows where it was.

@@ -2,7 +2,6 @@
 #include "Tests/EndToEnd/Scenario.hpp"
 
 #include <algorithm>
-#include <fstream>
 
 namespace {
 
@@ -28,8 +27,7 @@ void replaceAll(std::string& bytes, const std::string& from, const std::string& 
 /// A font file with one name, in all the places where it has it, replaced by another of the same length.
 std::string renamed(const char* file, const std::string& from, const std::string& to)
 {
-    std::ifstream stream(file, std::ios::binary);
-    std::string bytes((std::istreambuf_iterator<char>(stream)), {});
+    std::string bytes = Simulator::readHostFile(file).value;
     replaceAll(bytes, from, to);
     replaceAll(bytes, wide(from), wide(to));
     return bytes;

@@ -134,8 +134,7 @@ TEST(Fonts, AFontAddedToTheFolderAppearsAfterTheNextStart)
         return std::find(names.begin(), names.end(), name) != names.end();
     };
     auto phone = settled(eveningPhone().root(root.path().string()));
-    std::ifstream file(quicksand, std::ios::binary);
-    std::string bytes((std::istreambuf_iterator<char>(file)), {});
+    const std::string bytes = Simulator::readHostFile(quicksand).value;
     phone.writeFile(fontFolder + "Quicksand-Bold.ttf", bytes);
     EXPECT_FALSE(has(phone, "Quicksand-Bold"));
     phone.call("notify.post", {{"name", "com.ostrel.lyr/respring"}});

@@ -1,8 +1,8 @@
 // Alters font files as bytes: big-endian tables behind a directory.
 #include "SampleFonts.hpp"
+#include "Simulator/Base/HostFile.hpp"
 
 #include <cstdint>
-#include <cstdlib>
 #include <fstream>
 #include <string>
 
@@ -54,10 +54,9 @@ FontCatalogue& systemCatalogue()
 
 Bytes read(const std::filesystem::path& path)
 {
-    Bytes bytes(std::filesystem::file_size(path));
-    std::ifstream(path, std::ios::binary)
-        .read(reinterpret_cast<char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    return bytes;
+    const auto content = readHostFile(path);
+    const auto bytes = std::as_bytes(std::span(content.value));
+    return {bytes.begin(), bytes.end()};
 }
 
 Bytes renamed(Bytes font, std::string_view from, std::string_view to)
@@ -102,24 +101,12 @@ Bytes collection(std::span<const Bytes> fonts)
     return out;
 }
 
-TemporaryFolder::TemporaryFolder()
-{
-    std::string pattern = (std::filesystem::temp_directory_path() / "graphics-XXXXXX").string();
-    m_path = mkdtemp(pattern.data());
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-    std::error_code error;
-    std::filesystem::remove_all(m_path, error);
-}
-
 std::filesystem::path TemporaryFolder::write(std::string_view name, std::span<const std::byte> bytes) const
 {
-    const auto path = m_path / name;
-    std::ofstream(path, std::ios::binary | std::ios::trunc)
+    const auto file = path() / name;
+    std::ofstream(file, std::ios::binary | std::ios::trunc)
         .write(reinterpret_cast<const char*>(bytes.data()), static_cast<std::streamsize>(bytes.size()));
-    return path;
+    return file;
 }
 
 }

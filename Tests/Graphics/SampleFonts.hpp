@@ -1,6 +1,7 @@
 // Font files for tests: installed ones, and ones altered in memory.
 #pragma once
 
+#include "Simulator/Base/TemporaryFolder.hpp"
 #include "Simulator/Graphics/FontCatalogue.hpp"
 
 #include <cstddef>
@@ -28,18 +29,9 @@ Bytes withoutCapitalHeight(Bytes font);
 Bytes collection(std::span<const Bytes> fonts);
 
 // A folder of its own that goes with the object.
-class TemporaryFolder {
+class TemporaryFolder : public Simulator::TemporaryFolder {
 public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-
     std::filesystem::path write(std::string_view name, std::span<const std::byte> bytes) const;
-    const std::filesystem::path& path() const { return m_path; }
-
-private:
-    std::filesystem::path m_path;
 };
 
 }

@@ -2,14 +2,13 @@
 #pragma once
 
 #include "Platform/Foundation/NSDictionary.hpp"
+#include "Simulator/Base/HostFile.hpp"
 #include "Tests/Foundation/FoundationTest.hpp"
 
 #include <nlohmann/json.hpp>
 
-#include <fstream>
 #include <functional>
 #include <set>
-#include <sstream>
 #include <vector>
 
 namespace LYR {
@@ -25,10 +24,7 @@ protected:
     /// A file of the bundle as text; the JSON of a language by its name.
     static std::string read(const std::string& name)
     {
-        std::ifstream file(std::string(LYR_SETTINGS_BUNDLE "/") + name, std::ios::binary);
-        std::ostringstream bytes;
-        bytes << file.rdbuf();
-        return bytes.str();
+        return Simulator::readHostFile(LYR_SETTINGS_BUNDLE "/" + name).value;
     }
     static Json texts(const std::string& language) { return Json::parse(read(language + ".json")); }
 

@@ -1,20 +1,19 @@
 // The built library's bytes, and ways to spoil them.
 #pragma once
 
+#include "Simulator/Base/HostFile.hpp"
+
 #include <cstdint>
 #include <cstring>
-#include <fstream>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 
 inline std::string bytesOfFile(const std::string& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream bytes;
-    if (!file || !(bytes << file.rdbuf()))
+    auto bytes = Simulator::readHostFile(path).value;
+    if (bytes.empty())
         throw std::runtime_error("cannot read " + path);
-    return bytes.str();
+    return bytes;
 }
 
 inline std::uint32_t numberAt(const std::string& bytes, std::size_t offset)

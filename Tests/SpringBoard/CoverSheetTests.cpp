@@ -119,6 +119,6 @@ TEST_F(CoverSheet, ChangesItsAppearance)
 {
     start();
     shell().setStyle(InterfaceStyle::Dark);
-    EXPECT_EQ(screenSettings().style, UserInterfaceStyle::dark);
+    EXPECT_EQ(UI::Screen::mainScreen().traitCollection().userInterfaceStyle(), UI::UserInterfaceStyle::dark);
     EXPECT_EQ(DeviceState::shared().style, InterfaceStyle::Dark);
 }

@@ -11,7 +11,6 @@
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/SpringBoard/SpringBoard.hpp"
 #include "Simulator/UIKit/Registration.hpp"
-#include "Simulator/UIKit/UIDevice.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/ViewDescription.hpp"
 
@@ -33,7 +32,6 @@ protected:
         PhoneFiles::shared().setRoot(root_);
         PhoneLocale::shared() = {};
         DeviceState::shared() = {};
-        screenSettings() = {};
         Loop::shared().reset(*momentOfLocalTime("2020-11-15T21:41:00"));
         ActivityLog::shared().take();
     }

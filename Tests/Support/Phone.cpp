@@ -1,9 +1,14 @@
 // Speaks the control protocol for end-to-end tests.
 #include "Tests/Support/Phone.hpp"
 
-#include "Tests/Support/Base64.hpp"
+#include "Simulator/Base/Base64.hpp"
 
 namespace Support {
+
+static std::string bytesIn(const Json& answer)
+{
+    return Simulator::fromBase64(answer.at("base64").get<std::string>()).value();
+}
 
 PhoneStart& PhoneStart::screen(double width, double height, double scale)
 {
@@ -77,17 +82,17 @@ std::vector<Json> Phone::takeLog(const std::string& kind)
 
 std::string Phone::readFile(const std::string& path)
 {
-    return fromBase64(call("file.read", {{"path", path}}).at("base64").get<std::string>());
+    return bytesIn(call("file.read", {{"path", path}}));
 }
 
 void Phone::writeFile(const std::string& path, const std::string& bytes)
 {
-    call("file.write", {{"path", path}, {"base64", toBase64(bytes)}});
+    call("file.write", {{"path", path}, {"base64", Simulator::toBase64(bytes)}});
 }
 
 std::string Phone::capture()
 {
-    return fromBase64(call("screen.capture").at("base64").get<std::string>());
+    return bytesIn(call("screen.capture"));
 }
 
 }

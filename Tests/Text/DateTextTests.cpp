@@ -1,6 +1,6 @@
 // Dates as text in the phone's calendars, and what patterns that make no sense give.
+#include "Simulator/Base/Utf.hpp"
 #include "Simulator/Text/DateText.hpp"
-#include "Simulator/Text/TextCase.hpp"
 
 #include <gtest/gtest.h>
 

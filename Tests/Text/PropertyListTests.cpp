@@ -126,3 +126,18 @@ TEST(PropertyList, ReadsDatesByTheCalendar)
     EXPECT_FALSE(readXmlPropertyList("<date>2020-02-30T00:00:00Z</date>"));
     EXPECT_FALSE(readXmlPropertyList("<date>yesterday</date>"));
 }
+
+TEST(PropertyList, FarDatesComeBackAsTheyWere)
+{
+    for (const double seconds : {63113904000.0, 3e9, -3.2e9, 0.0}) {
+        const PropertyList date{PropertyListDate{seconds}};
+        EXPECT_EQ(readPropertyList(writeXmlPropertyList(date)), date) << seconds;
+        EXPECT_EQ(readPropertyList(writeBinaryPropertyList(date)), date) << seconds;
+    }
+}
+
+TEST(PropertyList, NumbersAreWrittenInTheFewestDigits)
+{
+    EXPECT_NE(writeXmlPropertyList({0.1}).find("<real>0.1</real>"), std::string::npos);
+    EXPECT_NE(writeXmlPropertyList({1e300}).find("<real>1e+300</real>"), std::string::npos);
+}

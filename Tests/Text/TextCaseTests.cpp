@@ -1,4 +1,5 @@
 // Upper, lower and capitalised text, and alphabetical order.
+#include "Simulator/Base/Utf.hpp"
 #include "Simulator/Text/TextCase.hpp"
 
 #include <gtest/gtest.h>

@@ -1,8 +1,7 @@
 #include "Platform/Foundation/NSNumber.hpp"
 #include "Recorder.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "UIKitTest.hpp"
-
-#include "Simulator/UIKit/UIDevice.hpp"
 
 namespace Simulator {
 
@@ -60,7 +59,8 @@ TEST_F(KeyValue, AnInstanceVariableIsReleasedWithItsOwner)
 TEST_F(KeyValue, TheBatteryIsUnknownWhileNobodyWatchesIt)
 {
     const auto device = UI::Device::currentDevice();
-    battery() = {0.87, UI::DeviceBatteryState::charging, "Phone"};
+    DeviceState::shared().battery = {0.87, BatteryState::Charging};
+    DeviceState::shared().name = "Phone";
     device.setBatteryMonitoringEnabled(false);
     EXPECT_EQ(device.batteryLevel(), -1);
     EXPECT_EQ(device.batteryState(), UI::DeviceBatteryState::unknown);
@@ -68,7 +68,6 @@ TEST_F(KeyValue, TheBatteryIsUnknownWhileNobodyWatchesIt)
     EXPECT_EQ(device.batteryLevel(), 0.87f);
     EXPECT_EQ(device.batteryState(), UI::DeviceBatteryState::charging);
     EXPECT_EQ(textOf(device.name()), "Phone");
-    battery() = {};
 }
 
 }

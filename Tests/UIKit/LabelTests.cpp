@@ -53,7 +53,7 @@ TEST_F(Label, TheDefaultColourFollowsTheAppearance)
     const auto label = makeLabel();
     label.setText("9:41"_ns);
     EXPECT_EQ(drawn(label).runs[0].color, (Graphics::Color{0, 0, 0, 1}));
-    screenSettings().style = UserInterfaceStyle::dark;
+    DeviceState::shared().style = InterfaceStyle::Dark;
     EXPECT_EQ(drawn(label).runs[0].color, (Graphics::Color{1, 1, 1, 1}));
 }
 

@@ -11,7 +11,7 @@ class Rendering : public PhoneRoot {
 protected:
     Rendering()
     {
-        screenSettings() = {{20, 20}, 2, UserInterfaceStyle::light};
+        screenSettings() = {{20, 20}, 2};
         window = makeWindow();
     }
     /// Red, green and blue at a point of the last frame.
@@ -101,7 +101,7 @@ TEST_F(Rendering, ALayerWithoutAViewLiesBehindTheSubviews)
 
 TEST_F(Rendering, ALabelShowsItsTextInItsColour)
 {
-    screenSettings() = {{100, 40}, 2, UserInterfaceStyle::light};
+    screenSettings() = {{100, 40}, 2};
     const auto label = makeLabel({{0, 0}, {100, 40}});
     label.setText("9:41"_ns);
     label.setFont(UI::Font::systemFontOfSize(30));
@@ -122,7 +122,7 @@ TEST_F(Rendering, SystemColoursFollowTheAppearanceOfTheNextFrame)
     window.setBackgroundColor(UI::Color::sendClass<UI::Color, "labelColor">());
     renderer.render(windowOf(window));
     EXPECT_EQ(at(5, 5), black);
-    changeInterfaceStyle(windowOf(window), UserInterfaceStyle::dark);
+    changeInterfaceStyle(windowOf(window), InterfaceStyle::Dark);
     renderer.render(windowOf(window));
     EXPECT_EQ(at(5, 5), (Pixel{255, 255, 255}));
 }

@@ -26,7 +26,7 @@ protected:
     {
         registerUIKit();
         pool.emplace();
-        screenSettings() = {};
+        DeviceState::shared() = {};
         ActivityLog::shared().take();
     }
 

@@ -179,8 +179,8 @@ TEST_F(ViewTree, AppearanceChangesAreToldToTheWholeWindow)
     const auto window = makeWindow();
     window.addSubview(recordingView());
     takeRecordedCalls();
-    changeInterfaceStyle(windowOf(window), UserInterfaceStyle::dark);
-    changeInterfaceStyle(windowOf(window), UserInterfaceStyle::dark);
+    changeInterfaceStyle(windowOf(window), InterfaceStyle::Dark);
+    changeInterfaceStyle(windowOf(window), InterfaceStyle::Dark);
     EXPECT_EQ(takeRecordedCalls(), Calls{"traitCollectionDidChange: something"});
     EXPECT_EQ((window.send<NS::Object, "traitCollection">().send<long, "userInterfaceStyle">()), 2);
 }

@@ -1,7 +1,7 @@
 // file.*: the phone's files, by a tester's hand.
+#include "Simulator/Base/Base64.hpp"
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
-#include "Platform/Foundation/NSData.hpp"
 #include "Simulator/Companions/PropertyListValues.hpp"
 #include "Simulator/Control/PropertyList.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
@@ -26,18 +26,6 @@ constexpr std::array faults{FaultName{"EACCES", EACCES}, FaultName{"ENOSPC", ENO
     if (error == ENOENT || error == ENOTDIR)
         throwNotFound(message);
     throw ProtocolError(ErrorCode::Internal, message);
-}
-
-std::string toBase64(const std::string& bytes)
-{
-    auto data = NS::Data::dataWithBytes(bytes.data(), bytes.size());
-    return std::string(data.send<NS::String, "base64EncodedStringWithOptions:">(0UL).utf8());
-}
-
-std::string fromBase64(const std::string& text)
-{
-    auto data = NS::Data::make<"initWithBase64EncodedString:options:">(NS::String::fromUTF8(text), 0UL);
-    return std::string(static_cast<const char*>(data.bytes()), data.length());
 }
 
 Json readFile(const std::string& path)
@@ -75,7 +63,7 @@ void addFileMethods(PhoneContext& context)
     context.add("file.read", [](const Json& parameters) { return readFile(parameters.at("path")); });
     context.add("file.write", [](const Json& parameters) {
         const std::string path = parameters.at("path");
-        if (int error = PhoneFiles::shared().put(path, fromBase64(parameters.at("base64"))))
+        if (int error = PhoneFiles::shared().put(path, *fromBase64(parameters.at("base64").get<std::string>())))
             fail(path, error);
         return Json::object();
     });

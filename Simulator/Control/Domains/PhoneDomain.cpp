@@ -1,6 +1,6 @@
 // phone.*: what happens to a phone.
-#include "Simulator/Control/Domains/LocalTime.hpp"
 #include "Simulator/Control/Domains/PhoneContext.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 
 #include "Platform/Foundation/NSString.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"

@@ -5,12 +5,10 @@
 #include "Platform/Foundation/NSNumber.hpp"
 #include "Platform/Foundation/NSTimer.hpp"
 #include "Platform/UIKit/UIView.hpp"
-#include "Simulator/Control/Domains/LocalTime.hpp"
+#include "Simulator/Base/ColourText.hpp"
 #include "Simulator/Control/Types.hpp"
 #include "Simulator/Device/DeviceState.hpp"
 
-#include <cmath>
-#include <cstdio>
 #include <regex>
 
 namespace Simulator::Control {
@@ -38,10 +36,7 @@ Json jsonOfColor(const UI::Color& color)
 {
     CGFloat components[4]{};
     color.getRed(&components[0], &components[1], &components[2], &components[3]);
-    char text[16];
-    auto byte = [&](int i) { return static_cast<int>(std::lround(std::clamp(components[i], 0.0, 1.0) * 255)); };
-    std::snprintf(text, sizeof text, "#%02X%02X%02X%02X", byte(0), byte(1), byte(2), byte(3));
-    return text;
+    return textOfColour({components[0], components[1], components[2], components[3]});
 }
 
 Json jsonOfArray(const NS::Array& array)

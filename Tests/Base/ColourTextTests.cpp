@@ -1,5 +1,5 @@
-// Colour texts of the colour-picker library.
-#include "Simulator/Companions/ColourText.hpp"
+// Colour texts: the colour-picker library's, and the control protocol's.
+#include "Simulator/Base/ColourText.hpp"
 
 #include <gtest/gtest.h>
 
@@ -36,4 +36,10 @@ TEST(ColourText, IsNothingElse)
     for (const char* text : {"", "#", "red", "#12345", "#1234567", "#GG0000", "#FFFFFF:", "#FFFFFF:nan",
              "#FFFFFF:1.0.0", "#FFFFFF:inf", "#-1-1-1", "##FFFFFF", "#FFFFFF:1 ", " #FFFFFF"})
         EXPECT_FALSE(colourOfText(text).has_value()) << text;
+}
+
+TEST(ColourText, IsWrittenInFourPairsOfDigits)
+{
+    EXPECT_EQ(textOfColour({1, 128 / 255.0, 0, 1}), "#FF8000FF");
+    EXPECT_EQ(textOfColour({2, -1, 0.5, 0}), "#FF008000");
 }

@@ -1,5 +1,5 @@
 // Opening by the kernel's own check that a path stays below a folder.
-#include "Simulator/Files/Descriptor.hpp"
+#include "Simulator/Base/Descriptor.hpp"
 
 #include <fcntl.h>
 #include <linux/openat2.h>

@@ -1,7 +1,8 @@
-// Colours as texts: "#RRGGBB", "#RGB", either with ":opacity".
+// Colours as texts. Read are "#RRGGBB" and "#RGB", either with ":opacity"; written is "#RRGGBBAA".
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace Simulator {
@@ -17,5 +18,7 @@ struct ColourComponents {
 
 /// Nothing for a text that is no colour. The "#" may be missing; an opacity beyond 0 and 1 is held there.
 std::optional<ColourComponents> colourOfText(std::string_view text);
+/// "#RRGGBBAA"; what is beyond 0 and 1 is held there.
+std::string textOfColour(const ColourComponents& colour);
 
 }
