@@ -1,0 +1,2 @@
+// The simulator treats this extension like any other.
+#include "Tweak/Settings.hpp"
