@@ -64,7 +64,7 @@ struct DeviceState {
     /// Local time of the next alarm.
     std::optional<std::string> alarm;
     std::vector<CalendarEvent> events;
-    /// Once there is a window, it is changed by `changeInterfaceStyle`.
+    /// Views are told of a change by `changeInterfaceStyle`.
     InterfaceStyle style = InterfaceStyle::Light;
     /// Other extensions: "AFont", "LastLook", "Axon", "Filza".
     std::set<std::string> installed;

@@ -1,8 +1,8 @@
 #include "Simulator/SpringBoard/StockDateText.hpp"
 
+#include "Simulator/Base/Utf.hpp"
 #include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Simulator/Text/DateText.hpp"
-#include "Simulator/Text/TextCase.hpp"
 
 #include <algorithm>
 #include <cmath>
