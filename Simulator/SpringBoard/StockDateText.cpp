@@ -1,7 +1,7 @@
 #include "Simulator/SpringBoard/StockDateText.hpp"
 
-#include "Simulator/Base/Utf.hpp"
 #include "Platform/Foundation/NSDateFormatter.hpp"
+#include "Simulator/Base/Utf.hpp"
 #include "Simulator/Text/DateText.hpp"
 
 #include <algorithm>
