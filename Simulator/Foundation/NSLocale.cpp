@@ -6,7 +6,7 @@
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
-#include "Simulator/Text/IcuNames.hpp"
+#include "Simulator/Text/LocaleNames.hpp"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-// The phone's names of locales, calendars and zones, and its dates and texts, as ICU takes them.
+// The phone's names of calendars and zones, and its dates and texts, as ICU takes them: for this folder alone.
 #pragma once
 
 #include <unicode/locid.h>
@@ -10,12 +10,6 @@
 #include <string_view>
 
 namespace Simulator {
-
-/// The name as the phone writes it, of a name with hyphens, underscores or both: "zh-Hans_CN" of "zh_hans-cn". Empty for
-/// what names no locale.
-std::string localeName(std::string_view name);
-/// Likewise of a language: "zh-Hans-CN".
-std::string languageName(std::string_view name);
 
 /// The locale with the calendar as its keyword; unknown calendars leave the locale's own.
 icu::Locale icuLocale(std::string_view locale, std::string_view calendar);

@@ -1,5 +1,5 @@
 // Locales and languages as the phone writes them, however they were written.
-#include "Simulator/Text/IcuNames.hpp"
+#include "Simulator/Text/LocaleNames.hpp"
 
 #include <gtest/gtest.h>
 

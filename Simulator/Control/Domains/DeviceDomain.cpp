@@ -2,7 +2,7 @@
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
 #include "Simulator/Device/PhoneLocale.hpp"
-#include "Simulator/Text/IcuNames.hpp"
+#include "Simulator/Text/LocaleNames.hpp"
 
 #include <array>
 #include <cmath>
