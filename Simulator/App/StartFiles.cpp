@@ -7,6 +7,7 @@
 #include "Simulator/Base/HostFile.hpp"
 #include "Simulator/Control/Methods.hpp"
 #include "Simulator/Control/PropertyList.hpp"
+#include "Simulator/Control/RootFolder.hpp"
 #include "Simulator/Control/Types.hpp"
 
 #include <filesystem>
