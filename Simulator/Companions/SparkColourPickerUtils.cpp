@@ -2,8 +2,7 @@
 #include "Platform/Companions/SparkColourPickerUtils.hpp"
 
 #include "Simulator/Companions/ColourText.hpp"
-#include "Simulator/Companions/Registrations.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <algorithm>
 #include <array>
@@ -68,11 +67,9 @@ std::optional<ColourComponents> colourOfText(std::string_view text)
     return ColourComponents{*red, *green, *blue, *opacity};
 }
 
-void registerSparkColourPickerUtils()
-{
-    Binder<SparkColourPickerUtils>("SparkColourPickerUtils", "NSObject")
-        .classMethod<"colourWithString:withFallback:", &SparkColourPickerUtils::colourWithString>()
-        .add();
-}
+static const StandInClass sparkColourPickerUtils(
+    "SparkColourPickerUtils", "NSObject", [](Binder<SparkColourPickerUtils>& binder) {
+        binder.classMethod<"colourWithString:withFallback:", &SparkColourPickerUtils::colourWithString>().add();
+    });
 
 }

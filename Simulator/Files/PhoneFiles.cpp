@@ -1,6 +1,7 @@
 // Writing and listing under the phone's root, with faults where a test asks for them.
 #include "Simulator/Files/PhoneFiles.hpp"
 
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Files/Descriptor.hpp"
 
 #include <algorithm>
@@ -41,8 +42,7 @@ bool failsWhileWriting(int fault)
 
 PhoneFiles& PhoneFiles::shared()
 {
-    static PhoneFiles* files = new PhoneFiles;
-    return *files;
+    return Phone::part<PhoneFiles>();
 }
 
 FileResult<std::string> PhoneFiles::plainHostPath(std::string_view phonePath) const

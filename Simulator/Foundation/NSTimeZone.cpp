@@ -3,7 +3,6 @@
 #include "Simulator/Foundation/CalendarMath.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/PhoneLocale.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Loop/Loop.hpp"
 
@@ -34,13 +33,12 @@ ObjC::Object NSTimeZone_timeZoneWithName(id self, SEL command, NS::String name)
 
 }
 
-void registerNSTimeZone()
-{
+static const Mending nsTimeZone("NSTimeZone", [] {
     const SEL withName = sel_registerName("timeZoneWithName:");
     stockTimeZoneWithName = method_getImplementation(class_getClassMethod(objc_getClass("NSTimeZone"), withName));
     replaceClassMethod<NSTimeZone_timeZoneWithName>("NSTimeZone", "timeZoneWithName:");
     for (const char* selectorName : {"localTimeZone", "systemTimeZone", "defaultTimeZone"})
         replaceClassMethod<NSTimeZone_local>("NSTimeZone", selectorName);
-}
+});
 
 }

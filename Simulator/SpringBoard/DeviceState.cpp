@@ -1,6 +1,7 @@
 // The device's state and its local times.
 #include "Simulator/SpringBoard/DeviceState.hpp"
 
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Foundation/CalendarMath.hpp"
 #include "Simulator/Foundation/PhoneLocale.hpp"
 
@@ -29,8 +30,7 @@ double startOfDayAfter(double moment, long days)
 
 DeviceState& DeviceState::shared()
 {
-    static DeviceState* state = new DeviceState;
-    return *state;
+    return Phone::part<DeviceState>();
 }
 
 std::optional<double> momentOfLocalTime(const std::string& text)

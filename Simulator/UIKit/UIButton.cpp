@@ -1,6 +1,6 @@
 #include "Simulator/UIKit/UIButton.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
@@ -143,11 +143,9 @@ void UIButton::describe(nlohmann::json& description) const
     description["symbol"] = picture && !picture->path.empty() ? nlohmann::json(picture->path) : nlohmann::json();
 }
 
-void registerUIButton()
-{
+static const StandInClass uiButton("UIButton", "UIControl", [](Binder<UIButton>& binder) {
     using Button = UIButton;
-    Binder<Button>("UIButton", "UIControl")
-        .classMethod<"buttonWithType:", &Button::withType>()
+    binder.classMethod<"buttonWithType:", &Button::withType>()
         .init<"initWithFrame:", &Button::initWithFrame>()
         .def<"layoutSubviews", &Button::layoutSubviews>()
         .def<"tintColorDidChange", &Button::tintColorDidChange>()
@@ -168,6 +166,6 @@ void registerUIButton()
         .readonly<"contentEdgeInsets", &Button::contentEdgeInsets>()
         .def<"setContentEdgeInsets:", &Button::setContentEdgeInsets>()
         .add();
-}
+});
 
 }

@@ -50,6 +50,4 @@ private:
     ByState<UI::Image> images;
 };
 
-void registerUIButton();
-
 }

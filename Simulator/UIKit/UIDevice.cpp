@@ -1,22 +1,15 @@
 // The one device object, which reads the simulated battery.
 #include "Simulator/UIKit/UIDevice.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Base/Phone.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
 BatteryReading& battery()
 {
-    static BatteryReading reading;
-    return reading;
-}
-
-UI::Device UIDevice::currentDevice()
-{
-    static constinit ObjC::Variable<UI::Device> device;
-    if (!device)
-        device = UI::Device::make();
-    return device;
+    return Phone::part<BatteryReading>();
 }
 
 float UIDevice::batteryLevel() const
@@ -49,10 +42,8 @@ NS::String UIDevice::systemVersion() const
     return "14.2"_ns;
 }
 
-void registerUIDevice()
-{
-    Binder<UIDevice>("UIDevice", "NSObject")
-        .classMethod<"currentDevice", &UIDevice::currentDevice>()
+static const StandInClass uiDevice("UIDevice", "NSObject", [](Binder<UIDevice>& binder) {
+    binder.classMethod<"currentDevice", &sharedObject<UI::Device>>()
         .def<"batteryLevel", &UIDevice::batteryLevel>()
         .def<"batteryState", &UIDevice::batteryState>()
         .def<"name", &UIDevice::name>()
@@ -63,6 +54,6 @@ void registerUIDevice()
         .def<"userInterfaceIdiom", &UIDevice::userInterfaceIdiom>()
         .property<"isBatteryMonitoringEnabled", "setBatteryMonitoringEnabled:", &UIDevice::batteryMonitoringEnabled>()
         .add();
-}
+});
 
 }

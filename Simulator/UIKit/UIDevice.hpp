@@ -20,7 +20,6 @@ BatteryReading& battery();
 struct UIDevice : StandIn {
     using Root = UIDevice;
 
-    static UI::Device currentDevice();
     /// Both are unknown while nobody watches the battery.
     float batteryLevel() const;
     UI::DeviceBatteryState batteryState() const;
@@ -32,7 +31,5 @@ struct UIDevice : StandIn {
 
     bool batteryMonitoringEnabled = false;
 };
-
-void registerUIDevice();
 
 }

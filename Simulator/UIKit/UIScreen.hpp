@@ -39,6 +39,4 @@ struct UIScreen : StandIn {
     NS::Object traitCollection() const { return currentTraits(); }
 };
 
-void registerUIScreen();
-
 }

@@ -14,6 +14,4 @@ struct UIWindow : UIView {
     double windowLevel = 0;
 };
 
-void registerUIWindow();
-
 }
