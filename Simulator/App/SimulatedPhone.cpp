@@ -2,20 +2,18 @@
 #include "Simulator/App/SimulatedPhone.hpp"
 
 #include "Simulator/App/FactoryContent.hpp"
-#include "Simulator/Companions/Companions.hpp"
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 #include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
-#include "Simulator/Foundation/Foundation.hpp"
 #include "Simulator/Foundation/SystemLog.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
 #include "Simulator/Loader/LackingParts.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/SpringBoard/SpringBoard.hpp"
-#include "Simulator/UIKit/Registration.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 
 #include <chrono>
@@ -59,7 +57,8 @@ public:
         installFactoryContent(start, _extension);
         setUpDevice(start);
         setUpClock(start);
-        registerClasses();
+        setUpSymbols(symbolFolder());
+        _phone.start();
         relaunchRequested() = [this] { _wantsRelaunch = true; };
         if (!start.isSafeMode && start.parameters.value("extension", true))
             loadExtensions();
@@ -137,15 +136,7 @@ private:
             _extension.empty() ? ExtensionLoader::reportOnStandardError : ExtensionLoader::Report(refuse));
     }
 
-    void registerClasses()
-    {
-        setUpSymbols(symbolFolder());
-        registerFoundation();
-        registerUIKit();
-        registerSpringBoard();
-        registerCompanions();
-    }
-
+    Phone _phone;
     std::string _extension;
     Simulator::Shell _shell;
     std::unique_ptr<Control::PhoneContext> _context;

@@ -3,6 +3,7 @@
 
 #include "Platform/Foundation/CFNotificationCenter.hpp"
 #include "Platform/Foundation/NSString.hpp"
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 
@@ -58,8 +59,7 @@ struct __CFNotificationCenter {
 
 static __CFNotificationCenter& darwinCentre()
 {
-    static auto* centre = new __CFNotificationCenter;
-    return *centre;
+    return Simulator::Phone::part<__CFNotificationCenter>();
 }
 
 namespace Simulator {

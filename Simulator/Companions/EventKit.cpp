@@ -1,10 +1,9 @@
 // The user's calendar: the device's events by interval.
 #include "Platform/EventKit/EKEventStore.hpp"
 
-#include "Simulator/Companions/Registrations.hpp"
 #include "Simulator/Device/DeviceState.hpp"
-#include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <algorithm>
 
@@ -107,20 +106,22 @@ public:
 
 }
 
-void registerEventKit()
-{
-    Binder<EKEvent>("EKEvent", "NSObject")
-        .def<"title", &EKEvent::title>()
+static const StandInClass ekEvent("EKEvent", "NSObject", [](Binder<EKEvent>& binder) {
+    binder.def<"title", &EKEvent::title>()
         .def<"startDate", &EKEvent::startDate>()
         .def<"endDate", &EKEvent::endDate>()
         .def<"isAllDay", &EKEvent::isAllDay>()
         .add();
-    Binder<EKEventPredicate>("EKEventPredicate", "NSObject").add();
-    Binder<EKEventStore>("EKEventStore", "NSObject")
-        .init<"init", &EKEventStore::init>()
+});
+
+static const StandInClass ekEventPredicate(
+    "EKEventPredicate", "NSObject", [](Binder<EKEventPredicate>& binder) { binder.add(); });
+
+static const StandInClass ekEventStore("EKEventStore", "NSObject", [](Binder<EKEventStore>& binder) {
+    binder.init<"init", &EKEventStore::init>()
         .def<"predicateForEventsWithStartDate:endDate:calendars:", &EKEventStore::predicateForEvents>()
         .def<"eventsMatchingPredicate:", &EKEventStore::eventsMatchingPredicate>()
         .add();
-}
+});
 
 }

@@ -2,11 +2,11 @@
 #include "Simulator/Companions/HBPreferences.hpp"
 
 #include "Platform/Foundation/NSNumber.hpp"
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Companions/PropertyListValues.hpp"
-#include "Simulator/Companions/Registrations.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <algorithm>
 
@@ -19,28 +19,22 @@ struct BoundVariable {
     id* object;
 };
 
-std::vector<HBPreferences*>& living()
-{
-    static auto* objects = new std::vector<HBPreferences*>;
-    return *objects;
-}
+/// The preferences service of a phone.
+struct Service {
+    std::vector<HBPreferences*> living;
+    std::map<std::string, BoundVariable> lastBound;
+    /// What could not be written yet, by domain: the disk failed, the service has it in memory.
+    std::map<std::string, NS::Dictionary> unwritten;
+};
 
-std::map<std::string, BoundVariable>& lastBound()
+Service& service()
 {
-    static auto* variables = new std::map<std::string, BoundVariable>;
-    return *variables;
+    return Phone::part<Service>();
 }
 
 std::string fileOfDomain(const std::string& domain)
 {
     return "/var/mobile/Library/Preferences/" + domain + ".plist";
-}
-
-/// What could not be written yet, by domain: the disk failed, the preferences service has it in memory.
-std::map<std::string, NS::Dictionary>& unwritten()
-{
-    static auto* domains = new std::map<std::string, NS::Dictionary>;
-    return *domains;
 }
 
 bool writeDomain(const std::string& domain, const std::string& bytes)
@@ -77,10 +71,10 @@ bool replaceStored(const std::string& domain, const NS::Dictionary& values)
     if (bytes.empty())
         return false;
     if (writeDomain(domain, bytes))
-        unwritten().erase(domain);
+        service().unwritten.erase(domain);
     else
-        unwritten()[domain] = values;
-    const std::vector<HBPreferences*> present = living();
+        service().unwritten[domain] = values;
+    const std::vector<HBPreferences*> present = service().living;
     for (HBPreferences* preferences : present) {
         if (preferences->domain() == domain)
             preferences->mirror(values);
@@ -92,7 +86,8 @@ bool replaceStored(const std::string& domain, const NS::Dictionary& values)
 
 HBPreferences::~HBPreferences()
 {
-    std::erase(living(), this);
+    if (auto* running = Phone::partIfMade<Service>())
+        std::erase(running->living, this);
 }
 
 bool HBPreferences::initWithIdentifier(const NS::String& identifier)
@@ -101,7 +96,7 @@ bool HBPreferences::initWithIdentifier(const NS::String& identifier)
         return false;
     domain_ = text(identifier);
     stored_ = storedValues(domain_);
-    living().push_back(this);
+    service().living.push_back(this);
     return true;
 }
 
@@ -126,7 +121,7 @@ void HBPreferences::bind(Binding binding)
         return;
     const std::string key = text(binding.key);
     fallbacks_[key] = binding.fallback;
-    lastBound()[key] = {binding.boolean, binding.object};
+    service().lastBound[key] = {binding.boolean, binding.object};
     give(binding);
     bindings_.push_back(std::move(binding));
 }
@@ -184,8 +179,8 @@ void HBPreferences::removeObjectForKey(const NS::String& key)
 
 NS::Dictionary storedValues(const std::string& domain)
 {
-    const auto kept = unwritten().find(domain);
-    return kept == unwritten().end() ? dictionaryInFile(fileOfDomain(domain)) : kept->second;
+    const auto kept = service().unwritten.find(domain);
+    return kept == service().unwritten.end() ? dictionaryInFile(fileOfDomain(domain)) : kept->second;
 }
 
 bool storeValue(const std::string& domain, const std::string& key, const NS::Object& value)
@@ -210,18 +205,16 @@ bool storeValues(const std::string& domain, const NS::Dictionary& values)
 
 std::optional<BoundValue> boundValue(const std::string& key)
 {
-    const auto found = lastBound().find(key);
-    if (found == lastBound().end())
+    const auto found = service().lastBound.find(key);
+    if (found == service().lastBound.end())
         return std::nullopt;
     if (found->second.boolean)
         return BoundValue{BoundValue::Kind::Boolean, *found->second.boolean, {}};
     return BoundValue{BoundValue::Kind::Object, false, NS::Object(*found->second.object)};
 }
 
-void registerHBPreferences()
-{
-    Binder<HBPreferences>("HBPreferences", "NSObject")
-        .init<"initWithIdentifier:", &HBPreferences::initWithIdentifier>()
+static const StandInClass hbPreferences("HBPreferences", "NSObject", [](Binder<HBPreferences>& binder) {
+    binder.init<"initWithIdentifier:", &HBPreferences::initWithIdentifier>()
         .def<"identifier", &HBPreferences::identifier>()
         .def<"registerBool:default:forKey:", &HBPreferences::registerBool>()
         .def<"registerObject:default:forKey:", &HBPreferences::registerObject>()
@@ -231,6 +224,6 @@ void registerHBPreferences()
         .def<"setBool:forKey:", &HBPreferences::setBool>()
         .def<"removeObjectForKey:", &HBPreferences::removeObjectForKey>()
         .add();
-}
+});
 
 }

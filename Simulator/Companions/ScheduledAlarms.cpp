@@ -1,10 +1,10 @@
 // The shell's watch over the clock app's alarms: observer, manager, cache, alarm.
 #include "Platform/SpringBoard/SBScheduledAlarmObserver.hpp"
 
-#include "Simulator/Companions/Registrations.hpp"
 #include "Simulator/Device/DeviceState.hpp"
-#include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
@@ -55,31 +55,27 @@ class SBScheduledAlarmObserver : public StandIn {
 public:
     using Root = SBScheduledAlarmObserver;
 
-    static SB::ScheduledAlarmObserver sharedInstance()
-    {
-        static ObjC::Variable<SB::ScheduledAlarmObserver> observer;
-        if (!observer)
-            observer = SB::ScheduledAlarmObserver::make();
-        return observer;
-    }
     void init() { setIvar("_alarmManager", SB::AlarmManager::make()); }
 };
 
 }
 
-void registerScheduledAlarms()
-{
-    Binder<MTAlarm>("MTAlarm", "NSObject").def<"nextFireDate", &MTAlarm::nextFireDate>().add();
-    Binder<MTAlarmCache>("MTAlarmCache", "NSObject").def<"nextAlarm", &MTAlarmCache::nextAlarm>().add();
-    Binder<MTAlarmManager>("MTAlarmManager", "NSObject")
-        .init<"init", &MTAlarmManager::init>()
-        .def<"cache", &MTAlarmManager::cache>()
-        .add();
-    Binder<SBScheduledAlarmObserver>("SBScheduledAlarmObserver", "NSObject")
-        .classMethod<"sharedInstance", &SBScheduledAlarmObserver::sharedInstance>()
-        .init<"init", &SBScheduledAlarmObserver::init>()
-        .ivar<"_alarmManager">()
-        .add();
-}
+static const StandInClass mtAlarm(
+    "MTAlarm", "NSObject", [](Binder<MTAlarm>& binder) { binder.def<"nextFireDate", &MTAlarm::nextFireDate>().add(); });
+
+static const StandInClass mtAlarmCache("MTAlarmCache", "NSObject",
+    [](Binder<MTAlarmCache>& binder) { binder.def<"nextAlarm", &MTAlarmCache::nextAlarm>().add(); });
+
+static const StandInClass mtAlarmManager("MTAlarmManager", "NSObject", [](Binder<MTAlarmManager>& binder) {
+    binder.init<"init", &MTAlarmManager::init>().def<"cache", &MTAlarmManager::cache>().add();
+});
+
+static const StandInClass sbScheduledAlarmObserver(
+    "SBScheduledAlarmObserver", "NSObject", [](Binder<SBScheduledAlarmObserver>& binder) {
+        binder.classMethod<"sharedInstance", &sharedObject<SB::ScheduledAlarmObserver>>()
+            .init<"init", &SBScheduledAlarmObserver::init>()
+            .ivar<"_alarmManager">()
+            .add();
+    });
 
 }

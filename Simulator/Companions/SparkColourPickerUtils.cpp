@@ -2,8 +2,7 @@
 #include "Platform/Companions/SparkColourPickerUtils.hpp"
 
 #include "Simulator/Base/ColourText.hpp"
-#include "Simulator/Companions/Registrations.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
@@ -25,11 +24,9 @@ public:
 
 }
 
-void registerSparkColourPickerUtils()
-{
-    Binder<SparkColourPickerUtils>("SparkColourPickerUtils", "NSObject")
-        .classMethod<"colourWithString:withFallback:", &SparkColourPickerUtils::colourWithString>()
-        .add();
-}
+static const StandInClass sparkColourPickerUtils(
+    "SparkColourPickerUtils", "NSObject", [](Binder<SparkColourPickerUtils>& binder) {
+        binder.classMethod<"colourWithString:withFallback:", &SparkColourPickerUtils::colourWithString>().add();
+    });
 
 }

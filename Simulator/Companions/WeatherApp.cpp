@@ -4,11 +4,11 @@
 
 #include "Platform/UIKit/UIImage.hpp"
 #include "Simulator/Companions/PropertyListValues.hpp"
-#include "Simulator/Companions/Registrations.hpp"
 #include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
-#include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <iterator>
 
@@ -47,14 +47,6 @@ class WeatherApp : public StandIn {
 public:
     using Root = WeatherApp;
 
-    static Weather::WeatherApp sharedManager()
-    {
-        static ObjC::Variable<Weather::WeatherApp> manager;
-        if (!manager)
-            manager = Weather::WeatherApp::make();
-        return manager;
-    }
-
     void refreshWeatherData()
     {
         ExtensionCounts::shared().add(Count::WeatherRequests);
@@ -89,15 +81,13 @@ private:
 
 }
 
-void registerWeatherApp()
-{
-    Binder<WeatherApp>("WeatherApp", "NSObject")
-        .classMethod<"sharedManager", &WeatherApp::sharedManager>()
+static const StandInClass weatherApp("WeatherApp", "NSObject", [](Binder<WeatherApp>& binder) {
+    binder.classMethod<"sharedManager", &sharedObject<Weather::WeatherApp>>()
         .def<"refreshWeatherData", &WeatherApp::refreshWeatherData>()
         .def<"weatherData", &WeatherApp::weatherData>()
         .def<"lowestTemperature", &WeatherApp::lowestTemperature>()
         .def<"highestTemperature", &WeatherApp::highestTemperature>()
         .add();
-}
+});
 
 }

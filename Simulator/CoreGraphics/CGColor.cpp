@@ -2,6 +2,7 @@
 #include "Simulator/CoreGraphics/CGColor.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
@@ -46,11 +47,10 @@ std::optional<Graphics::Color> resolvedColor(CGColorRef color)
     return components ? std::optional(components->color()) : std::nullopt;
 }
 
-void registerCGColor()
-{
-    Binder<CGColorObject>("CGColor", "NSObject").add();
-    Binder<CGColorSpaceObject>("CGColorSpace", "NSObject").add();
-}
+static const StandInClass cgColor("CGColor", "NSObject", [](Binder<CGColorObject>& binder) { binder.add(); });
+
+static const StandInClass cgColorSpace(
+    "CGColorSpace", "NSObject", [](Binder<CGColorSpaceObject>& binder) { binder.add(); });
 
 }
 

@@ -37,6 +37,4 @@ ObjC::Object makeCGColor(const ColorComponents& components);
 const ColorComponents* componentsOf(CGColorRef color);
 std::optional<Graphics::Color> resolvedColor(CGColorRef color);
 
-void registerCGColor();
-
 }

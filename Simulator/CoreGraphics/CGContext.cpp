@@ -1,12 +1,14 @@
 // Bitmap contexts. The one layout that is supported is red, green, blue, alpha: 8 bits each, premultiplied.
-#include "Simulator/CoreGraphics/CGContext.hpp"
-
+#include "Platform/CoreGraphics/CGContext.hpp"
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/CoreGraphics/CGImage.hpp"
 #include "Simulator/CoreGraphics/Geometry.hpp"
+#include "Simulator/Graphics/Image.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace Simulator {
 
@@ -55,35 +57,44 @@ void layOver(std::uint8_t* below, const std::uint8_t* above)
         below[i] = static_cast<std::uint8_t>(std::min(above[i] + (below[i] * uncovered + 127) / 255, 255u));
 }
 
-}
+struct CGContextObject : StandIn {
+    using Root = CGContextObject;
 
-void CGContextObject::draw(const Graphics::Image& image, CGRect rect)
-{
-    if (!isFinite(rect))
-        return;
-    rect = standardized(rect);
-    if (rect.size.width == 0 || rect.size.height == 0)
-        return;
-    const Stretch across(rect.origin.x, rect.size.width, width);
-    const Stretch down(height - rect.origin.y - rect.size.height, rect.size.height, height);
-    if (across.first >= across.last || down.first >= down.last)
-        return;
-    const std::size_t decodedStride = across.decoded * bytesPerPixel;
-    std::vector<std::uint8_t> decoded(decodedStride * down.decoded);
-    if (!image.drawInto({decoded.data(), across.decoded, down.decoded, static_cast<int>(decodedStride)}, false))
-        return;
-    for (int y = down.first; y < down.last; ++y) {
-        const std::uint8_t* source = decoded.data() + down.source(y) * decodedStride;
-        std::uint8_t* row = pixels + y * stride;
-        for (int x = across.first; x < across.last; ++x)
-            layOver(row + x * bytesPerPixel, source + across.source(x) * bytesPerPixel);
+    /// Scales the whole image to the rectangle and lays it over what is there. The origin is at the bottom left.
+    void draw(const Graphics::Image& image, CGRect rect)
+    {
+        if (!isFinite(rect))
+            return;
+        rect = standardized(rect);
+        if (rect.size.width == 0 || rect.size.height == 0)
+            return;
+        const Stretch across(rect.origin.x, rect.size.width, width);
+        const Stretch down(height - rect.origin.y - rect.size.height, rect.size.height, height);
+        if (across.first >= across.last || down.first >= down.last)
+            return;
+        const std::size_t decodedStride = across.decoded * bytesPerPixel;
+        std::vector<std::uint8_t> decoded(decodedStride * down.decoded);
+        if (!image.drawInto({decoded.data(), across.decoded, down.decoded, static_cast<int>(decodedStride)}, false))
+            return;
+        for (int y = down.first; y < down.last; ++y) {
+            const std::uint8_t* source = decoded.data() + down.source(y) * decodedStride;
+            std::uint8_t* row = pixels + y * stride;
+            for (int x = across.first; x < across.last; ++x)
+                layOver(row + x * bytesPerPixel, source + across.source(x) * bytesPerPixel);
+        }
     }
+
+    std::uint8_t* pixels = nullptr;
+    int width = 0;
+    int height = 0;
+    std::size_t stride = 0;
+    /// The memory, if the caller gave none.
+    std::vector<std::uint8_t> storage;
+};
+
 }
 
-void registerCGContext()
-{
-    Binder<CGContextObject>("CGContext", "NSObject").add();
-}
+static const StandInClass cgContext("CGContext", "NSObject", [](Binder<CGContextObject>& binder) { binder.add(); });
 
 }
 

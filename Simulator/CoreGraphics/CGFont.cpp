@@ -4,6 +4,7 @@
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/Foundation/PhoneFileData.hpp"
 #include "Simulator/Graphics/FontCatalogue.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <algorithm>
 
@@ -56,11 +57,10 @@ CGFontObject* fontObjectOf(CGFontRef font)
     return standInBehind<CGFontObject>(font);
 }
 
-void registerCGFont()
-{
-    Binder<CGDataProviderObject>("CGDataProvider", "NSObject").add();
-    Binder<CGFontObject>("CGFont", "NSObject").add();
-}
+static const StandInClass cgDataProvider(
+    "CGDataProvider", "NSObject", [](Binder<CGDataProviderObject>& binder) { binder.add(); });
+
+static const StandInClass cgFont("CGFont", "NSObject", [](Binder<CGFontObject>& binder) { binder.add(); });
 
 }
 

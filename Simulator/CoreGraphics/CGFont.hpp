@@ -31,6 +31,4 @@ CGFontObject* fontObjectOf(CGFontRef font);
 /// The extension reads each of its fonts several times over; what was found in a content is found again without a look.
 void rememberFontNames(const std::shared_ptr<const FileContent>& content, const Graphics::FaceNames& names);
 
-void registerCGFont();
-
 }

@@ -2,6 +2,7 @@
 #include "Simulator/CoreGraphics/CGImage.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
@@ -20,10 +21,7 @@ Graphics::Image::Pointer imageOf(CGImageRef image)
     return object ? object->image : nullptr;
 }
 
-void registerCGImage()
-{
-    Binder<CGImageObject>("CGImage", "NSObject").add();
-}
+static const StandInClass cgImage("CGImage", "NSObject", [](Binder<CGImageObject>& binder) { binder.add(); });
 
 }
 

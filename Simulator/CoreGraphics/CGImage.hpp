@@ -16,6 +16,4 @@ ObjC::Object makeCGImage(const Graphics::Image::Pointer& image);
 /// The pixels of an image object; null for anything else.
 Graphics::Image::Pointer imageOf(CGImageRef image);
 
-void registerCGImage();
-
 }

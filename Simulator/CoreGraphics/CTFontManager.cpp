@@ -1,13 +1,14 @@
 // Font registration: every attempt is recorded, and a failure says why as the phone's text system does.
-#include "Simulator/CoreGraphics/CTFontManager.hpp"
-
+#include "Platform/CoreText/CTFontManager.hpp"
 #include "Platform/Foundation/NSURL.hpp"
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/CoreGraphics/CGFont.hpp"
 #include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
+#include "Simulator/Graphics/Font.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <array>
 #include <span>
@@ -15,6 +16,12 @@
 namespace Simulator {
 
 namespace {
+
+struct CTFontObject : StandIn {
+    using Root = CTFontObject;
+    Graphics::FaceNames names;
+    double size = 12;
+};
 
 using Graphics::RegistrationError;
 
@@ -91,10 +98,7 @@ Graphics::RegistrationResult registerFile(const std::string& path)
 
 }
 
-void registerCTFontManager()
-{
-    Binder<CTFontObject>("CTFont", "NSObject").add();
-}
+static const StandInClass ctFont("CTFont", "NSObject", [](Binder<CTFontObject>& binder) { binder.add(); });
 
 }
 

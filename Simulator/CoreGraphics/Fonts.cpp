@@ -1,44 +1,48 @@
-// The process's catalogue of fonts and its set of symbols, made when first needed.
+// The phone's catalogue of fonts and its set of symbols, made when first needed.
 #include "Simulator/CoreGraphics/Fonts.hpp"
+
+#include "Simulator/Base/Phone.hpp"
 
 #include <memory>
 
 namespace Simulator {
 
-static std::unique_ptr<Graphics::FontCatalogue>& catalogueStorage()
+namespace {
+
+struct DrawingMeans {
+    std::unique_ptr<Graphics::FontCatalogue> fonts;
+    std::unique_ptr<Graphics::SymbolSet> symbols;
+};
+
+DrawingMeans& means()
 {
-    static std::unique_ptr<Graphics::FontCatalogue> catalogue;
-    return catalogue;
+    return Phone::part<DrawingMeans>();
 }
 
-static std::unique_ptr<Graphics::SymbolSet>& symbolStorage()
-{
-    static std::unique_ptr<Graphics::SymbolSet> symbols;
-    return symbols;
 }
 
 Graphics::FontCatalogue& fontCatalogue()
 {
-    if (!catalogueStorage())
+    if (!means().fonts)
         setUpFonts(Graphics::installedSystemFonts());
-    return *catalogueStorage();
+    return *means().fonts;
 }
 
 void setUpFonts(std::span<const std::filesystem::path> systemFontFiles)
 {
-    catalogueStorage() = std::make_unique<Graphics::FontCatalogue>(systemFontFiles);
+    means().fonts = std::make_unique<Graphics::FontCatalogue>(systemFontFiles);
 }
 
 const Graphics::SymbolSet& symbolSet()
 {
-    if (!symbolStorage())
+    if (!means().symbols)
         setUpSymbols({});
-    return *symbolStorage();
+    return *means().symbols;
 }
 
 void setUpSymbols(const std::filesystem::path& folder)
 {
-    symbolStorage() = std::make_unique<Graphics::SymbolSet>(folder);
+    means().symbols = std::make_unique<Graphics::SymbolSet>(folder);
 }
 
 }

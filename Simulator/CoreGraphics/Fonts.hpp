@@ -1,4 +1,4 @@
-// What the process draws with: the catalogue of fonts and the set of symbols.
+// What the phone draws with: the catalogue of fonts and the set of symbols.
 #pragma once
 
 #include "Simulator/Graphics/FontCatalogue.hpp"

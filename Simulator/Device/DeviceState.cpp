@@ -1,6 +1,7 @@
 // The device's state and its local times.
 #include "Simulator/Device/DeviceState.hpp"
 
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Text/CalendarMath.hpp"
 #include "Simulator/Text/LocalTime.hpp"
@@ -28,14 +29,12 @@ double startOfDayAfter(double moment, long days)
 
 DeviceState& DeviceState::shared()
 {
-    static DeviceState* state = new DeviceState;
-    return *state;
+    return Phone::part<DeviceState>();
 }
 
 PhoneLocale& PhoneLocale::shared()
 {
-    static auto* locale = new PhoneLocale;
-    return *locale;
+    return Phone::part<PhoneLocale>();
 }
 
 std::optional<double> momentOfLocalTime(const std::string& text)

@@ -2,6 +2,7 @@
 #include "Simulator/Files/PhoneFiles.hpp"
 
 #include "Simulator/Base/Descriptor.hpp"
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Base/UnfinishedFile.hpp"
 
 #include <algorithm>
@@ -42,8 +43,7 @@ bool failsWhileWriting(int fault)
 
 PhoneFiles& PhoneFiles::shared()
 {
-    static PhoneFiles* files = new PhoneFiles;
-    return *files;
+    return Phone::part<PhoneFiles>();
 }
 
 FileResult<std::string> PhoneFiles::plainHostPath(std::string_view phonePath) const

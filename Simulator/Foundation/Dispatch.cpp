@@ -1,6 +1,5 @@
 // The main queue's C functions on the phone's loop. Every queue is the main one: the shell has a single thread.
 #include "Platform/Foundation/Dispatch.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Loop/Loop.hpp"
 
 #include <cmath>
@@ -71,8 +70,5 @@ void dispatch_once_f(long* token, void* context, void (*work)(void*))
 }
 
 namespace Simulator {
-
-// The functions need no registration; the call makes the linker keep them for the extension.
-void registerDispatch() { }
 
 }

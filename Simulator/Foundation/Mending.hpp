@@ -4,9 +4,20 @@
 
 #include "Platform/ObjC/Method.hpp"
 #include "Simulator/Runtime/MethodTable.hpp"
-#include "Simulator/Runtime/StandInRegistry.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
+
+/// The row of a class, or of several that belong together, whose methods are replaced when the first phone starts.
+class Mending : StandInRow {
+public:
+    template <class Rows>
+    Mending(const char* name, Rows)
+        : StandInRow(
+            name, nullptr, [](const char*, const char*) { Rows()(); }, nullptr)
+    {
+    }
+};
 
 /// Gives `root` the method, and also every class derived from it that has one of its own.
 void replaceInFamily(Class root, const char* selectorName, IMP implementation, const char* types);

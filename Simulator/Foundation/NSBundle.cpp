@@ -4,9 +4,8 @@
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/FileAccess.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <vector>
 
@@ -164,8 +163,7 @@ ObjC::Object NSBundle_bundleWithUrl(ObjC::Object self, SEL, ObjC::Object url)
 
 }
 
-void registerNSBundle()
-{
+static const Mending nsBundle("NSBundle", [] {
     const Class type = objc_getClass("NSBundle");
     stockInit = class_getMethodImplementation(type, sel_registerName("initWithPath:"));
     stockBundle = method_getImplementation(class_getClassMethod(type, sel_registerName("bundleWithPath:")));
@@ -173,8 +171,10 @@ void registerNSBundle()
     replaceInFamily<NSBundle_initWithUrl>("NSBundle", "initWithURL:");
     replaceClassMethod<NSBundle_bundleWithPath>("NSBundle", "bundleWithPath:");
     replaceClassMethod<NSBundle_bundleWithUrl>("NSBundle", "bundleWithURL:");
-    Binder<PhoneBundle>("PhoneBundle", "NSBundle")
-        .init<"initWithPath:", &PhoneBundle::initWithPath>()
+});
+
+static const StandInClass phoneBundle("PhoneBundle", "NSBundle", [](Binder<PhoneBundle>& binder) {
+    binder.init<"initWithPath:", &PhoneBundle::initWithPath>()
         .init<"initWithURL:", &PhoneBundle::initWithUrl>()
         .def<"bundlePath", &PhoneBundle::bundlePath>()
         .def<"resourcePath", &PhoneBundle::resourcePath>()
@@ -190,6 +190,6 @@ void registerNSBundle()
         .def<"localizedStringForKey:value:table:", &PhoneBundle::localizedString>()
         .add();
     refuseInherited("PhoneBundle", "NSBundle");
-}
+});
 
 }

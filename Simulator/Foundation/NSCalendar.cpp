@@ -3,10 +3,9 @@
 #include "Platform/Foundation/NSLocale.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Loop/Loop.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/Text/CalendarMath.hpp"
 
 #include <algorithm>
@@ -252,10 +251,8 @@ NS::Calendar NSCalendar_currentCalendar(Class, SEL)
 
 }
 
-void registerNSCalendar()
-{
-    Binder<PhoneCalendar>("PhoneCalendar", "NSCalendar")
-        .init<"init", &PhoneCalendar::init>()
+static const StandInClass phoneCalendar("PhoneCalendar", "NSCalendar", [](Binder<PhoneCalendar>& binder) {
+    binder.init<"init", &PhoneCalendar::init>()
         .init<"initWithCalendarIdentifier:", &PhoneCalendar::initWithCalendarIdentifier>()
         .def<"calendarIdentifier", &PhoneCalendar::calendarIdentifier>()
         .def<"locale", &PhoneCalendar::locale>()
@@ -283,6 +280,6 @@ void registerNSCalendar()
     replaceClassMethod<NSCalendar_calendarWithIdentifier>("NSCalendar", "calendarWithIdentifier:");
     replaceClassMethod<NSCalendar_currentCalendar>("NSCalendar", "currentCalendar");
     replaceClassMethod<NSCalendar_currentCalendar>("NSCalendar", "autoupdatingCurrentCalendar");
-}
+});
 
 }

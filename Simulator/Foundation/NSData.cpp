@@ -3,8 +3,7 @@
 #include "Simulator/Foundation/FileAccess.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/PhoneFileData.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
@@ -108,10 +107,8 @@ bool writeToUrlOptions(NS::Data self, SEL, ObjC::Object url, unsigned long optio
 
 }
 
-void registerNSData()
-{
-    Binder<PhoneFileData>("PhoneFileData", "NSData")
-        .def<"bytes", &PhoneFileData::bytes>()
+static const StandInClass phoneFileData("PhoneFileData", "NSData", [](Binder<PhoneFileData>& binder) {
+    binder.def<"bytes", &PhoneFileData::bytes>()
         .def<"length", &PhoneFileData::length>()
         .def<"copyWithZone:", &PhoneFileData::copyWithZone>()
         .add();
@@ -129,6 +126,6 @@ void registerNSData()
         replaceClassMethod<dataWithContentsOfUrl>(className, "dataWithContentsOfURL:");
         replaceClassMethod<dataWithContentsOfUrlOptions>(className, "dataWithContentsOfURL:options:error:");
     }
-}
+});
 
 }

@@ -1,7 +1,6 @@
 // NSDate by the phone's clock. A date may be no number, as on the phone, where GNUstep would raise.
 #include "Platform/Foundation/NSDate.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/Binder.hpp"
@@ -86,8 +85,7 @@ double NSProcessInfo_systemUptime(id, SEL)
 
 }
 
-void registerNSDate()
-{
+static const Mending nsDate("NSDate", [] {
     initConcrete = replaceMethod<NSGDate_initWithTimeIntervalSinceReferenceDate>(
         "NSGDate", "initWithTimeIntervalSinceReferenceDate:");
     replaceMethod<NSDate_description>("NSDate", "description");
@@ -98,6 +96,6 @@ void registerNSDate()
     replaceClassMethod<NSDate_dateWithTimeIntervalSinceNow>("NSDate", "dateWithTimeIntervalSinceNow:");
     replaceClassMethod<NSDate_classTimeIntervalSinceReferenceDate>("NSDate", "timeIntervalSinceReferenceDate");
     replaceInFamily<NSProcessInfo_systemUptime>("NSProcessInfo", "systemUptime");
-}
+});
 
 }

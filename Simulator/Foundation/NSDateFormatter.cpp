@@ -3,9 +3,8 @@
 #include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/Text/CalendarMath.hpp"
 #include "Simulator/Text/DateText.hpp"
 
@@ -182,36 +181,36 @@ void bindNames(Binder<PhoneDateFormatter>& binder)
 
 }
 
-void registerNSDateFormatter()
-{
-    Binder<PhoneDateFormatter> binder("PhoneDateFormatter", "NSDateFormatter");
-    binder.init<"init", &PhoneDateFormatter::init>()
-        .def<"dateFormat", &PhoneDateFormatter::dateFormat>()
-        .def<"setDateFormat:", &PhoneDateFormatter::setDateFormat>()
-        .def<"setLocalizedDateFormatFromTemplate:", &PhoneDateFormatter::setTemplate>()
-        .def<"dateStyle", &PhoneDateFormatter::dateStyle>()
-        .def<"setDateStyle:", &PhoneDateFormatter::setDateStyle>()
-        .def<"timeStyle", &PhoneDateFormatter::timeStyle>()
-        .def<"setTimeStyle:", &PhoneDateFormatter::setTimeStyle>()
-        .def<"calendar", &PhoneDateFormatter::calendar>()
-        .def<"setCalendar:", &PhoneDateFormatter::setCalendar>()
-        .def<"locale", &PhoneDateFormatter::locale>()
-        .def<"setLocale:", &PhoneDateFormatter::setLocale>()
-        .def<"timeZone", &PhoneDateFormatter::timeZone>()
-        .def<"setTimeZone:", &PhoneDateFormatter::setTimeZone>()
-        .def<"isLenient", &PhoneDateFormatter::isLenient>()
-        .def<"setLenient:", &PhoneDateFormatter::setLenient>()
-        .def<"stringFromDate:", &PhoneDateFormatter::stringFromDate>()
-        .def<"stringForObjectValue:", &PhoneDateFormatter::stringFromDate>()
-        .def<"dateFromString:", &PhoneDateFormatter::dateFromString>()
-        .def<"copyWithZone:", &PhoneDateFormatter::copyWithZone>();
-    bindNames(binder);
-    binder.add();
-    refuseInherited("PhoneDateFormatter", "NSDateFormatter");
-    allocateAs("NSDateFormatter", "PhoneDateFormatter");
-    replaceClassMethod<NSDateFormatter_localizedString>(
-        "NSDateFormatter", "localizedStringFromDate:dateStyle:timeStyle:");
-    replaceClassMethod<NSDateFormatter_formatFromTemplate>("NSDateFormatter", "dateFormatFromTemplate:options:locale:");
-}
+static const StandInClass phoneDateFormatter(
+    "PhoneDateFormatter", "NSDateFormatter", [](Binder<PhoneDateFormatter>& binder) {
+        binder.init<"init", &PhoneDateFormatter::init>()
+            .def<"dateFormat", &PhoneDateFormatter::dateFormat>()
+            .def<"setDateFormat:", &PhoneDateFormatter::setDateFormat>()
+            .def<"setLocalizedDateFormatFromTemplate:", &PhoneDateFormatter::setTemplate>()
+            .def<"dateStyle", &PhoneDateFormatter::dateStyle>()
+            .def<"setDateStyle:", &PhoneDateFormatter::setDateStyle>()
+            .def<"timeStyle", &PhoneDateFormatter::timeStyle>()
+            .def<"setTimeStyle:", &PhoneDateFormatter::setTimeStyle>()
+            .def<"calendar", &PhoneDateFormatter::calendar>()
+            .def<"setCalendar:", &PhoneDateFormatter::setCalendar>()
+            .def<"locale", &PhoneDateFormatter::locale>()
+            .def<"setLocale:", &PhoneDateFormatter::setLocale>()
+            .def<"timeZone", &PhoneDateFormatter::timeZone>()
+            .def<"setTimeZone:", &PhoneDateFormatter::setTimeZone>()
+            .def<"isLenient", &PhoneDateFormatter::isLenient>()
+            .def<"setLenient:", &PhoneDateFormatter::setLenient>()
+            .def<"stringFromDate:", &PhoneDateFormatter::stringFromDate>()
+            .def<"stringForObjectValue:", &PhoneDateFormatter::stringFromDate>()
+            .def<"dateFromString:", &PhoneDateFormatter::dateFromString>()
+            .def<"copyWithZone:", &PhoneDateFormatter::copyWithZone>();
+        bindNames(binder);
+        binder.add();
+        refuseInherited("PhoneDateFormatter", "NSDateFormatter");
+        allocateAs("NSDateFormatter", "PhoneDateFormatter");
+        replaceClassMethod<NSDateFormatter_localizedString>(
+            "NSDateFormatter", "localizedStringFromDate:dateStyle:timeStyle:");
+        replaceClassMethod<NSDateFormatter_formatFromTemplate>(
+            "NSDateFormatter", "dateFormatFromTemplate:options:locale:");
+    });
 
 }

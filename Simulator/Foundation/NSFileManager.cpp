@@ -5,7 +5,6 @@
 #include "Platform/Foundation/NSURL.hpp"
 #include "Simulator/Foundation/FileAccess.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 
 #include <cerrno>
@@ -167,8 +166,7 @@ IMP stockMethod(const char* selectorName)
 
 }
 
-void registerNSFileManager()
-{
+static const Mending nsFileManager("NSFileManager", [] {
     constexpr const char* manager = "NSFileManager";
     stockRepresentation = stockMethod("fileSystemRepresentationWithPath:");
     stockString = stockMethod("stringWithFileSystemRepresentation:length:");
@@ -189,6 +187,6 @@ void registerNSFileManager()
     replaceInFamily<createDirectory>(manager, "createDirectoryAtPath:withIntermediateDirectories:attributes:error:");
     replaceInFamily<moveItem>(manager, "moveItemAtPath:toPath:error:");
     replaceInFamily<copyItem>(manager, "copyItemAtPath:toPath:error:");
-}
+});
 
 }

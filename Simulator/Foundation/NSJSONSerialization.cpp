@@ -2,7 +2,6 @@
 #include "Platform/Foundation/NSData.hpp"
 #include "Simulator/Foundation/FileAccess.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 
 namespace Simulator {
@@ -80,12 +79,11 @@ ObjC::Object objectWithData(id self, SEL command, NS::Data data, unsigned long o
 
 }
 
-void registerNSJSONSerialization()
-{
+static const Mending nsJSONSerialization("NSJSONSerialization", [] {
     const SEL selector = sel_registerName("JSONObjectWithData:options:error:");
     stockObjectWithData
         = method_getImplementation(class_getClassMethod(objc_getClass("NSJSONSerialization"), selector));
     replaceClassMethod<objectWithData>("NSJSONSerialization", "JSONObjectWithData:options:error:");
-}
+});
 
 }

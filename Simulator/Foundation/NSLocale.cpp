@@ -2,9 +2,9 @@
 #include "Platform/Foundation/NSArray.hpp"
 #include "Platform/Foundation/NSDictionary.hpp"
 #include "Platform/Foundation/NSLocale.hpp"
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Text/LocaleNames.hpp"
 
@@ -35,15 +35,19 @@ IMP stockLocaleIdentifier = nullptr;
 IMP stockObjectForKey = nullptr;
 
 // Asked for at every refresh of the clock, so the object is kept as long as the user keeps the locale.
+struct CurrentLocale {
+    std::string identifier;
+    NS::Locale object;
+};
+
 NS::Locale NSLocale_currentLocale(Class, SEL)
 {
-    static constinit ObjC::Variable<NS::Locale> current;
-    static auto* identifier = new std::string;
-    if (!current || *identifier != PhoneLocale::shared().locale) {
-        *identifier = PhoneLocale::shared().locale;
-        current = NS::Locale::make<"initWithLocaleIdentifier:">(stringOf(*identifier));
+    auto& current = Phone::part<CurrentLocale>();
+    if (!current.object || current.identifier != PhoneLocale::shared().locale) {
+        current.identifier = PhoneLocale::shared().locale;
+        current.object = NS::Locale::make<"initWithLocaleIdentifier:">(stringOf(current.identifier));
     }
-    return current;
+    return current.object;
 }
 
 // Every locale is made of its canonical identifier; GNUstep's own raises for a hyphen before the region.
@@ -121,8 +125,7 @@ IMP stockClassMethod(const char* selectorName)
 
 }
 
-void registerNSLocale()
-{
+static const Mending nsLocale("NSLocale", [] {
     stockComponents = stockClassMethod("componentsFromLocaleIdentifier:");
     stockIdentifier = stockClassMethod("localeIdentifierFromComponents:");
     stockLocaleIdentifier
@@ -136,6 +139,6 @@ void registerNSLocale()
     replaceClassMethod<NSLocale_localeIdentifierFromComponents>("NSLocale", "localeIdentifierFromComponents:");
     replaceInFamily<NSLocale_localeIdentifier>("NSLocale", "localeIdentifier");
     replaceInFamily<NSLocale_objectForKey>("NSLocale", "objectForKey:");
-}
+});
 
 }

@@ -1,6 +1,6 @@
 // The system log: what the extension says is in the activity log, and on standard error if that is wanted.
 #include "Platform/Foundation/NSLog.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Foundation/SystemLog.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
@@ -53,12 +53,8 @@ void logMessage(id format, va_list arguments, void* caller)
 
 SystemLog& SystemLog::shared()
 {
-    static SystemLog log;
-    return log;
+    return Phone::part<SystemLog>();
 }
-
-// The calls reach the functions below by their names; this one makes the linker keep them.
-void registerNSLog() { }
 
 }
 

@@ -1,6 +1,5 @@
 // Numbers tell the types the phone's do.
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 
 namespace Simulator {
 
@@ -14,9 +13,6 @@ const char* NSBoolNumber_objCType(id, SEL)
 
 }
 
-void registerNSNumber()
-{
-    replaceInFamily<NSBoolNumber_objCType>("NSBoolNumber", "objCType");
-}
+static const Mending nsNumber("NSNumber", [] { replaceInFamily<NSBoolNumber_objCType>("NSBoolNumber", "objCType"); });
 
 }

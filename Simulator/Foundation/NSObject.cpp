@@ -1,8 +1,8 @@
 // Delayed messages on the phone's loop, and the shell's own form of key-value access.
 #include "Platform/Foundation/NSObject.hpp"
 #include "Platform/Foundation/NSString.hpp"
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Loop/Loop.hpp"
 
 #include <algorithm>
@@ -22,8 +22,7 @@ struct DelayedMessage {
 
 std::list<DelayedMessage>& delayedMessages()
 {
-    static auto* messages = new std::list<DelayedMessage>;
-    return *messages;
+    return Phone::part<std::list<DelayedMessage>>();
 }
 
 void NSObject_performSelectorAfterDelay(ObjC::Object self, SEL, SEL selector, ObjC::Object argument, double delay)
@@ -96,8 +95,7 @@ ObjC::Object NSObject_safeValueForKey(NS::Object self, SEL, NS::String key)
 
 }
 
-void registerNSObject()
-{
+static const Mending nsObject("NSObject", [] {
     replaceInFamily<NSObject_performSelectorAfterDelay>("NSObject", "performSelector:withObject:afterDelay:");
     replaceInFamily<NSObject_performSelectorInModes>("NSObject", "performSelector:withObject:afterDelay:inModes:");
     replaceInFamily<NSObject_performOnMainThread>("NSObject", "performSelectorOnMainThread:withObject:waitUntilDone:");
@@ -105,6 +103,6 @@ void registerNSObject()
     replaceClassMethod<NSObject_cancelPreviousOf>(
         "NSObject", "cancelPreviousPerformRequestsWithTarget:selector:object:");
     replaceInFamily<NSObject_safeValueForKey>("NSObject", "safeValueForKey:");
-}
+});
 
 }

@@ -4,7 +4,6 @@
 #include "Simulator/Foundation/FileAccess.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/PropertyListObjects.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 
 namespace Simulator {
@@ -157,8 +156,7 @@ void registerContainer(const char* className, const char* mutableName, const cha
 
 }
 
-void registerNSPropertyList()
-{
+static const Mending nsPropertyList("NSPropertyList", [] {
     registerContainer<DictionaryFile>(
         "NSDictionary", "NSMutableDictionary", "dictionaryWithContentsOfFile:", "dictionaryWithContentsOfURL:");
     registerContainer<ArrayFile>("NSArray", "NSMutableArray", "arrayWithContentsOfFile:", "arrayWithContentsOfURL:");
@@ -169,6 +167,6 @@ void registerNSPropertyList()
     replaceClassMethod<dataWithPropertyList>(serialization, "dataWithPropertyList:format:options:error:");
     replaceClassMethod<dataFromPropertyList>(serialization, "dataFromPropertyList:format:errorDescription:");
     replaceClassMethod<isValidForFormat>(serialization, "propertyList:isValidForFormat:");
-}
+});
 
 }

@@ -1,7 +1,6 @@
 // Case mapping, order and number parsing of strings as on the phone.
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Text/TextCase.hpp"
 
@@ -66,8 +65,7 @@ bool containsString(NS::String self, SEL, NS::String other)
 
 }
 
-void registerNSString()
-{
+static const Mending nsString("NSString", [] {
     replaceInFamily<mapped<uppercase>>("NSString", "uppercaseString");
     replaceInFamily<mapped<lowercase>>("NSString", "lowercaseString");
     replaceInFamily<mapped<capitalized>>("NSString", "capitalizedString");
@@ -82,6 +80,6 @@ void registerNSString()
     replaceInFamily<compareForUser<true>>("NSString", "localizedStandardCompare:");
     replaceInFamily<intValue>("NSString", "intValue");
     replaceInFamily<containsString>("NSString", "containsString:");
-}
+});
 
 }

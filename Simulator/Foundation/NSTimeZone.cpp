@@ -2,7 +2,6 @@
 #include "Platform/Foundation/NSString.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Foundation/Texts.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Text/CalendarMath.hpp"
@@ -34,13 +33,12 @@ ObjC::Object NSTimeZone_timeZoneWithName(id self, SEL command, NS::String name)
 
 }
 
-void registerNSTimeZone()
-{
+static const Mending nsTimeZone("NSTimeZone", [] {
     const SEL withName = sel_registerName("timeZoneWithName:");
     stockTimeZoneWithName = method_getImplementation(class_getClassMethod(objc_getClass("NSTimeZone"), withName));
     replaceClassMethod<NSTimeZone_timeZoneWithName>("NSTimeZone", "timeZoneWithName:");
     for (const char* selectorName : {"localTimeZone", "systemTimeZone", "defaultTimeZone"})
         replaceClassMethod<NSTimeZone_local>("NSTimeZone", selectorName);
-}
+});
 
 }

@@ -2,9 +2,8 @@
 #include "Platform/Foundation/NSTimer.hpp"
 #include "Platform/Foundation/NSDate.hpp"
 #include "Simulator/Foundation/Mending.hpp"
-#include "Simulator/Foundation/Registrations.hpp"
 #include "Simulator/Loop/Loop.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <utility>
 
@@ -139,13 +138,11 @@ void NSRunLoop_addTimer(id, SEL, ObjC::Object timer, ObjC::Object)
 
 }
 
-void registerNSTimer()
-{
+static const StandInClass phoneTimer("PhoneTimer", "NSTimer", [](Binder<PhoneTimer>& binder) {
     // GNUstep's run loop begins with a housekeeping timer of its own, which is none of the phone's.
     classNamed("NSRunLoop").send<ObjC::Object, "mainRunLoop">();
 
-    Binder<PhoneTimer>("PhoneTimer", "NSTimer")
-        .init<"initWithFireDate:interval:target:selector:userInfo:repeats:", &PhoneTimer::initWithFireDate>()
+    binder.init<"initWithFireDate:interval:target:selector:userInfo:repeats:", &PhoneTimer::initWithFireDate>()
         .def<"fire", &PhoneTimer::fire>()
         .def<"invalidate", &PhoneTimer::invalidate>()
         .def<"isValid", &PhoneTimer::isValid>()
@@ -162,6 +159,6 @@ void registerNSTimer()
     replaceClassMethod<NSTimer_scheduledTimer>(
         "NSTimer", "scheduledTimerWithTimeInterval:target:selector:userInfo:repeats:");
     replaceInFamily<NSRunLoop_addTimer>("NSRunLoop", "addTimer:forMode:");
-}
+});
 
 }

@@ -2,7 +2,7 @@
 
 #include "Platform/Foundation/NSNumber.hpp"
 #include "Simulator/CoreGraphics/CGColor.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
@@ -33,17 +33,15 @@ Graphics::LayerContent CAGradientLayer::layerContent() const
     return gradient;
 }
 
-void registerCAGradientLayer()
-{
+static const StandInClass caGradientLayer("CAGradientLayer", "CALayer", [](Binder<CAGradientLayer>& binder) {
     using Layer = CAGradientLayer;
-    Binder<Layer>("CAGradientLayer", "CALayer")
-        .readonly<"colors", &Layer::colors>()
+    binder.readonly<"colors", &Layer::colors>()
         .def<"setColors:", &Layer::setColors>()
         .readonly<"locations", &Layer::locations>()
         .def<"setLocations:", &Layer::setLocations>()
         .property<"startPoint", "setStartPoint:", &Layer::startPoint>()
         .property<"endPoint", "setEndPoint:", &Layer::endPoint>()
         .add();
-}
+});
 
 }

@@ -17,6 +17,4 @@ struct CAGradientLayer : CALayer {
     CGPoint endPoint = {0.5, 1};
 };
 
-void registerCAGradientLayer();
-
 }

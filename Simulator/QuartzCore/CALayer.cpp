@@ -4,7 +4,7 @@
 #include "Simulator/CoreGraphics/CGColor.hpp"
 #include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/QuartzCore/LayerTransaction.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -150,47 +150,45 @@ static id makeLayer(id type, SEL)
     return ObjC::autorelease(ObjC::sendMessage<id>(allocated, ObjC::selector<"init">()));
 }
 
-void registerCALayer()
-{
-    Class type = Binder<CALayer>("CALayer", "NSObject")
-                     .def<"frame", &CALayer::frame>()
-                     .def<"setFrame:", &CALayer::setFrame>()
-                     .def<"bounds", &CALayer::bounds>()
-                     .def<"setBounds:", &CALayer::setBounds>()
-                     .def<"position", &CALayer::position>()
-                     .def<"setPosition:", &CALayer::setPosition>()
-                     .def<"affineTransform", &CALayer::affineTransform>()
-                     .def<"setAffineTransform:", &CALayer::setAffineTransform>()
-                     .def<"opacity", &CALayer::opacity>()
-                     .def<"setOpacity:", &CALayer::setOpacity>()
-                     .def<"isHidden", &CALayer::isHidden>()
-                     .def<"setHidden:", &CALayer::setHidden>()
-                     .def<"masksToBounds", &CALayer::masksToBounds>()
-                     .def<"setMasksToBounds:", &CALayer::setMasksToBounds>()
-                     .def<"cornerRadius", &CALayer::cornerRadius>()
-                     .def<"setCornerRadius:", &CALayer::setCornerRadius>()
-                     .def<"borderWidth", &CALayer::borderWidth>()
-                     .def<"setBorderWidth:", &CALayer::setBorderWidth>()
-                     .def<"borderColor", &CALayer::borderColor>()
-                     .def<"setBorderColor:", &CALayer::setBorderColor>()
-                     .def<"backgroundColor", &CALayer::backgroundColor>()
-                     .def<"setBackgroundColor:", &CALayer::setBackgroundColor>()
-                     .def<"shadowOpacity", &CALayer::shadowOpacity>()
-                     .def<"setShadowOpacity:", &CALayer::setShadowOpacity>()
-                     .def<"shadowColor", &CALayer::shadowColor>()
-                     .def<"setShadowColor:", &CALayer::setShadowColor>()
-                     .def<"shadowRadius", &CALayer::shadowRadius>()
-                     .def<"setShadowRadius:", &CALayer::setShadowRadius>()
-                     .def<"shadowOffset", &CALayer::shadowOffset>()
-                     .def<"setShadowOffset:", &CALayer::setShadowOffset>()
-                     .def<"addSublayer:", &CALayer::addSublayer>()
-                     .def<"insertSublayer:atIndex:", &CALayer::insertSublayerAtIndex>()
-                     .def<"removeFromSuperlayer", &CALayer::removeFromSuperlayer>()
-                     .def<"superlayer", &CALayer::superlayer>()
-                     .def<"sublayers", &CALayer::sublayersArray>()
-                     .add();
+static const StandInClass caLayer("CALayer", "NSObject", [](Binder<CALayer>& binder) {
+    const Class type = binder.def<"frame", &CALayer::frame>()
+                           .def<"setFrame:", &CALayer::setFrame>()
+                           .def<"bounds", &CALayer::bounds>()
+                           .def<"setBounds:", &CALayer::setBounds>()
+                           .def<"position", &CALayer::position>()
+                           .def<"setPosition:", &CALayer::setPosition>()
+                           .def<"affineTransform", &CALayer::affineTransform>()
+                           .def<"setAffineTransform:", &CALayer::setAffineTransform>()
+                           .def<"opacity", &CALayer::opacity>()
+                           .def<"setOpacity:", &CALayer::setOpacity>()
+                           .def<"isHidden", &CALayer::isHidden>()
+                           .def<"setHidden:", &CALayer::setHidden>()
+                           .def<"masksToBounds", &CALayer::masksToBounds>()
+                           .def<"setMasksToBounds:", &CALayer::setMasksToBounds>()
+                           .def<"cornerRadius", &CALayer::cornerRadius>()
+                           .def<"setCornerRadius:", &CALayer::setCornerRadius>()
+                           .def<"borderWidth", &CALayer::borderWidth>()
+                           .def<"setBorderWidth:", &CALayer::setBorderWidth>()
+                           .def<"borderColor", &CALayer::borderColor>()
+                           .def<"setBorderColor:", &CALayer::setBorderColor>()
+                           .def<"backgroundColor", &CALayer::backgroundColor>()
+                           .def<"setBackgroundColor:", &CALayer::setBackgroundColor>()
+                           .def<"shadowOpacity", &CALayer::shadowOpacity>()
+                           .def<"setShadowOpacity:", &CALayer::setShadowOpacity>()
+                           .def<"shadowColor", &CALayer::shadowColor>()
+                           .def<"setShadowColor:", &CALayer::setShadowColor>()
+                           .def<"shadowRadius", &CALayer::shadowRadius>()
+                           .def<"setShadowRadius:", &CALayer::setShadowRadius>()
+                           .def<"shadowOffset", &CALayer::shadowOffset>()
+                           .def<"setShadowOffset:", &CALayer::setShadowOffset>()
+                           .def<"addSublayer:", &CALayer::addSublayer>()
+                           .def<"insertSublayer:atIndex:", &CALayer::insertSublayerAtIndex>()
+                           .def<"removeFromSuperlayer", &CALayer::removeFromSuperlayer>()
+                           .def<"superlayer", &CALayer::superlayer>()
+                           .def<"sublayers", &CALayer::sublayersArray>()
+                           .add();
     class_addMethod(object_getClass(reinterpret_cast<id>(type)), ObjC::selector<"layer">(),
         reinterpret_cast<IMP>(&makeLayer), "@@:");
-}
+});
 
 }

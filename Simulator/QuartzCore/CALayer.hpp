@@ -103,6 +103,4 @@ private:
     bool isOrContains(const CALayer& other) const;
 };
 
-void registerCALayer();
-
 }

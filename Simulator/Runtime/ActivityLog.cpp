@@ -1,13 +1,14 @@
 #include "Simulator/Runtime/ActivityLog.hpp"
 
+#include "Simulator/Base/Phone.hpp"
+
 #include <utility>
 
 namespace Simulator {
 
 ActivityLog& ActivityLog::shared()
 {
-    static ActivityLog log;
-    return log;
+    return Phone::part<ActivityLog>();
 }
 
 void ActivityLog::record(const std::string& kind, Fields fields)

@@ -1,5 +1,7 @@
 #include "Simulator/Runtime/ExtensionCounts.hpp"
 
+#include "Simulator/Base/Phone.hpp"
+
 #include <utility>
 
 namespace Simulator {
@@ -10,8 +12,7 @@ static constexpr const char* names[]
 
 ExtensionCounts& ExtensionCounts::shared()
 {
-    static ExtensionCounts counts;
-    return counts;
+    return Phone::part<ExtensionCounts>();
 }
 
 void ExtensionCounts::add(Count count, std::uint64_t amount)

@@ -1,12 +1,13 @@
 // The shell as an application: what opens links, hears of memory running out and of the app in front.
 #include "Platform/Foundation/NSURL.hpp"
+#include "Platform/SpringBoard/SpringBoard.hpp"
 #include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
-#include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/Blocks.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/FrontApplication.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 #include "Simulator/UIKit/UIResponder.hpp"
@@ -104,23 +105,23 @@ NS::String SBApplication::bundleIdentifier() const
     return NS::String::fromUTF8(bundle);
 }
 
-void registerApplication()
-{
-    Binder<UIApplication>("UIApplication", "UIResponder")
-        .classMethod<"sharedApplication", &sharedObject<"SpringBoard">>()
+static const StandInClass uiApplication("UIApplication", "UIResponder", [](Binder<UIApplication>& binder) {
+    binder.classMethod<"sharedApplication", &sharedObject<SB::SpringBoard>>()
         .def<"canOpenURL:", &UIApplication::canOpenURL>()
         .def<"openURL:options:completionHandler:", &UIApplication::openURL>()
         .def<"didReceiveMemoryWarning", &UIApplication::didReceiveMemoryWarning>()
         .add();
-    Binder<SpringBoard>("SpringBoard", "UIApplication")
-        .def<"didReceiveMemoryWarning", &SpringBoard::didReceiveMemoryWarning>()
+});
+
+static const StandInClass springBoard("SpringBoard", "UIApplication", [](Binder<SpringBoard>& binder) {
+    binder.def<"didReceiveMemoryWarning", &SpringBoard::didReceiveMemoryWarning>()
         .def<"frontDisplayDidChange:", &SpringBoard::frontDisplayDidChange>()
         .def<"_simulateHomeButtonPress", &SpringBoard::simulateHomeButtonPress>()
         .readonly<"_accessibilityFrontMostApplication", &SpringBoard::frontDisplay>()
         .add();
-    Binder<SBApplication>("SBApplication", "NSObject")
-        .def<"bundleIdentifier", &SBApplication::bundleIdentifier>()
-        .add();
-}
+});
+
+static const StandInClass sbApplication("SBApplication", "NSObject",
+    [](Binder<SBApplication>& binder) { binder.def<"bundleIdentifier", &SBApplication::bundleIdentifier>().add(); });
 
 }

@@ -1,7 +1,7 @@
 // The other extension that groups notifications by app: a row of icons above the list.
 #include "Platform/Foundation/NSArray.hpp"
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
+#include "Simulator/SpringBoard/DeviceState.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 namespace Simulator {
@@ -21,12 +21,11 @@ struct AXNView : UIView {
 
 }
 
-void registerAxon()
-{
-    Binder<AXNView>("AXNView", "UIView")
-        .init<"initWithFrame:", &AXNView::initWithFrame>()
-        .property<"list", "setList:", &AXNView::list>()
-        .add();
-}
+static const StandInClass axnView(
+    "AXNView", "UIView",
+    [](Binder<AXNView>& binder) {
+        binder.init<"initWithFrame:", &AXNView::initWithFrame>().property<"list", "setList:", &AXNView::list>().add();
+    },
+    [] { return DeviceState::shared().installed.contains("Axon"); });
 
 }

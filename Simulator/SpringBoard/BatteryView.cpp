@@ -1,8 +1,7 @@
 #include "Simulator/SpringBoard/BatteryView.hpp"
 
 #include "Simulator/Device/DeviceState.hpp"
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 #include <algorithm>
@@ -78,10 +77,8 @@ void showDeviceBattery(const UI::View& batteryView)
         battery.state == BatteryState::Charging || battery.state == BatteryState::Full);
 }
 
-void registerBatteryView()
-{
-    Binder<_UIBatteryView>("_UIBatteryView", "UIView")
-        .init<"initWithFrame:", &_UIBatteryView::initWithFrame>()
+static const StandInClass uiBatteryView("_UIBatteryView", "UIView", [](Binder<_UIBatteryView>& binder) {
+    binder.init<"initWithFrame:", &_UIBatteryView::initWithFrame>()
         .def<"layoutSubviews", &_UIBatteryView::layoutSubviews>()
         .readonly<"saverModeActive", &_UIBatteryView::saverModeActive>()
         .def<"setSaverModeActive:", &_UIBatteryView::setSaverModeActive>()
@@ -89,6 +86,6 @@ void registerBatteryView()
         .def<"setChargePercent:", &_UIBatteryView::setChargePercent>()
         .def<"setCharging:", &_UIBatteryView::setCharging>()
         .add();
-}
+});
 
 }

@@ -1,9 +1,8 @@
 #include "Simulator/SpringBoard/ChargingView.hpp"
 
 #include "Simulator/Device/DeviceState.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/BatteryView.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 #include <algorithm>
@@ -21,10 +20,9 @@ void CSBatteryChargingView::initWithFrame(CGRect frame)
 {
     UIView::initWithFrame(frame);
     battery = makeView("_UIBatteryView", {}, "stock.charging.battery");
-    const UI::Label text = makeLabel("", 17, FontWeight::regular, UI::Color::whiteColor());
-    text.setTextAlignment(UI::TextAlignment::center);
-    text.setAccessibilityIdentifier("stock.charging.label"_ns);
-    label = text;
+    label = makeLabel("", 17, FontWeight::regular, UI::Color::whiteColor());
+    label.setTextAlignment(UI::TextAlignment::center);
+    label.setAccessibilityIdentifier("stock.charging.label"_ns);
     addSubview(battery);
     addSubview(label);
 }
@@ -47,16 +45,15 @@ void CSBatteryChargingView::update()
     battery.send<void, "setSaverModeActive:">(DeviceState::shared().battery.lowPower);
     const double level = DeviceState::shared().battery.level;
     const long percent = std::isfinite(level) ? std::lround(std::clamp(level, 0.0, 1.0) * 100) : 0;
-    label.send<void, "setText:">(NS::String::fromUTF8(std::to_string(percent) + "% Charged"));
+    label.setText(NS::String::fromUTF8(std::to_string(percent) + "% Charged"));
 }
 
-void registerChargingView()
-{
-    Binder<CSBatteryChargingView>("CSBatteryChargingView", "UIView")
-        .init<"initWithFrame:", &CSBatteryChargingView::initWithFrame>()
-        .def<"layoutSubviews", &CSBatteryChargingView::layoutSubviews>()
-        .def<"setBatteryVisible:", &CSBatteryChargingView::setBatteryVisible>()
-        .add();
-}
+static const StandInClass csBatteryChargingView(
+    "CSBatteryChargingView", "UIView", [](Binder<CSBatteryChargingView>& binder) {
+        binder.init<"initWithFrame:", &CSBatteryChargingView::initWithFrame>()
+            .def<"layoutSubviews", &CSBatteryChargingView::layoutSubviews>()
+            .def<"setBatteryVisible:", &CSBatteryChargingView::setBatteryVisible>()
+            .add();
+    });
 
 }

@@ -1,6 +1,7 @@
 // The large battery that shows for a moment when the phone is plugged in.
 #pragma once
 
+#include "Platform/UIKit/UILabel.hpp"
 #include "Simulator/UIKit/UIView.hpp"
 
 namespace Simulator {
@@ -14,7 +15,7 @@ struct CSBatteryChargingView : UIView {
 
 private:
     UI::View battery;
-    UI::View label;
+    UI::Label label;
 };
 
 }

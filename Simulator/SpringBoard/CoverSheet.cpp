@@ -1,10 +1,12 @@
 #include "Simulator/SpringBoard/CoverSheet.hpp"
 
+#include "Platform/SpringBoard/CSCoverSheetViewController.hpp"
+
 #include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
 #include "Simulator/Loop/Loop.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/ChargingView.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/ScreenLayout.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
@@ -53,7 +55,7 @@ void CSCoverSheetViewController::addChild(const UI::ViewController& child)
     const auto controller = self<UI::ViewController>();
     controller.addChildViewController(child);
     controller.view().addSubview(child.view());
-    child.send<void, "didMoveToParentViewController:">(controller);
+    child.didMoveToParentViewController(controller);
 }
 
 UI::View CSCoverSheetViewController::dateView()
@@ -108,29 +110,31 @@ UI::ViewController SBCoverSheetPresentationManager::coverSheetViewController()
     return coverSheet;
 }
 
-void registerCoverSheet()
-{
-    using Sheet = CSCoverSheetViewController;
-    Binder<Sheet>("CSCoverSheetViewController", "UIViewController")
-        .init<"init", &Sheet::init>()
-        .def<"loadView", &Sheet::loadView>()
-        .def<"viewDidLoad", &Sheet::viewDidLoad>()
-        .def<"viewWillAppear:", &Sheet::viewWillAppear>()
-        .def<"viewWillDisappear:", &Sheet::viewWillDisappear>()
-        .def<"viewDidLayoutSubviews", &Sheet::viewDidLayoutSubviews>()
-        .def<"dateView", &Sheet::dateView>()
-        .readonly<"dateViewController", &Sheet::dateViewController>()
-        .readonly<"combinedListViewController", &Sheet::combinedListController>()
-        .readonly<"quickActionsViewController", &Sheet::quickActionsController>()
-        .readonly<"teachableMomentsContainerViewController", &Sheet::teachableMomentsController>()
-        .readonly<"idleTimerController", &Sheet::idleTimerController>()
-        .def<"_transitionChargingViewToVisible:showBattery:animated:", &Sheet::transitionChargingView>()
-        .add();
-    using Manager = SBCoverSheetPresentationManager;
-    Binder<Manager>("SBCoverSheetPresentationManager", "NSObject")
-        .classMethod<"sharedInstance", &sharedObject<"SBCoverSheetPresentationManager">>()
-        .def<"coverSheetViewController", &Manager::coverSheetViewController>()
-        .add();
-}
+static const StandInClass csCoverSheetViewController(
+    "CSCoverSheetViewController", "UIViewController", [](Binder<CSCoverSheetViewController>& binder) {
+        using Sheet = CSCoverSheetViewController;
+        binder.init<"init", &Sheet::init>()
+            .def<"loadView", &Sheet::loadView>()
+            .def<"viewDidLoad", &Sheet::viewDidLoad>()
+            .def<"viewWillAppear:", &Sheet::viewWillAppear>()
+            .def<"viewWillDisappear:", &Sheet::viewWillDisappear>()
+            .def<"viewDidLayoutSubviews", &Sheet::viewDidLayoutSubviews>()
+            .def<"dateView", &Sheet::dateView>()
+            .readonly<"dateViewController", &Sheet::dateViewController>()
+            .readonly<"combinedListViewController", &Sheet::combinedListController>()
+            .readonly<"quickActionsViewController", &Sheet::quickActionsController>()
+            .readonly<"teachableMomentsContainerViewController", &Sheet::teachableMomentsController>()
+            .readonly<"idleTimerController", &Sheet::idleTimerController>()
+            .def<"_transitionChargingViewToVisible:showBattery:animated:", &Sheet::transitionChargingView>()
+            .add();
+    });
+
+static const StandInClass sbCoverSheetPresentationManager(
+    "SBCoverSheetPresentationManager", "NSObject", [](Binder<SBCoverSheetPresentationManager>& binder) {
+        using Manager = SBCoverSheetPresentationManager;
+        binder.classMethod<"sharedInstance", &sharedObject<SB::CoverSheetPresentationManager>>()
+            .def<"coverSheetViewController", &Manager::coverSheetViewController>()
+            .add();
+    });
 
 }

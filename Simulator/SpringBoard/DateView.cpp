@@ -1,8 +1,7 @@
 #include "Simulator/SpringBoard/DateView.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/LegibilityLabel.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/StockDateText.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
@@ -134,36 +133,44 @@ void SBFLockScreenDateView::setTimerDialShown(bool shown)
     setNeedsLayout();
 }
 
-void registerDateView()
-{
-    Binder<SBFLockScreenDateSubtitleView>("SBFLockScreenDateSubtitleView", "UIView")
-        .init<"initWithFrame:", &SBFLockScreenDateSubtitleView::initWithFrame>()
-        .def<"layoutSubviews", &SBFLockScreenDateSubtitleView::layoutSubviews>()
-        .def<"didMoveToWindow", &SBFLockScreenDateSubtitleView::didMoveToWindow>()
-        .def<"string", &SBFLockScreenDateSubtitleView::string>()
-        .def<"setString:", &SBFLockScreenDateSubtitleView::setString>()
-        .ivar<"_label">()
-        .add();
-    Binder<SBFLockScreenDateSubtitleDateView>("SBFLockScreenDateSubtitleDateView", "SBFLockScreenDateSubtitleView")
-        .init<"initWithFrame:", &SBFLockScreenDateSubtitleDateView::initWithFrame>()
-        .def<"layoutSubviews", &SBFLockScreenDateSubtitleDateView::layoutSubviews>()
-        .def<"didMoveToWindow", &SBFLockScreenDateSubtitleDateView::didMoveToWindow>()
-        .ivar<"_alternateDateLabel">()
-        .add();
-    Binder<SBLockScreenTimerDialView>("SBLockScreenTimerDialView", "UIView")
-        .init<"initWithFrame:", &SBLockScreenTimerDialView::initWithFrame>()
-        .def<"didMoveToWindow", &SBLockScreenTimerDialView::didMoveToWindow>()
-        .add();
-    Binder<SBFLockScreenDateView>("SBFLockScreenDateView", "UIView")
-        .init<"initWithFrame:", &SBFLockScreenDateView::initWithFrame>()
-        .def<"layoutSubviews", &SBFLockScreenDateView::layoutSubviews>()
-        .readonly<"date", &SBFLockScreenDateView::date>()
-        .def<"setDate:", &SBFLockScreenDateView::setDate>()
-        .def<"_updateLabels", &SBFLockScreenDateView::updateLabels>()
-        .readonly<"dateSubtitleView", &SBFLockScreenDateView::subtitleView>()
-        .ivar<"_timeLabel">()
-        .ivar<"_dateSubtitleView">()
-        .add();
-}
+static const StandInClass sbfLockScreenDateSubtitleView(
+    "SBFLockScreenDateSubtitleView", "UIView", [](Binder<SBFLockScreenDateSubtitleView>& binder) {
+        binder.init<"initWithFrame:", &SBFLockScreenDateSubtitleView::initWithFrame>()
+            .def<"layoutSubviews", &SBFLockScreenDateSubtitleView::layoutSubviews>()
+            .def<"didMoveToWindow", &SBFLockScreenDateSubtitleView::didMoveToWindow>()
+            .def<"string", &SBFLockScreenDateSubtitleView::string>()
+            .def<"setString:", &SBFLockScreenDateSubtitleView::setString>()
+            .ivar<"_label">()
+            .add();
+    });
+
+static const StandInClass sbfLockScreenDateSubtitleDateView("SBFLockScreenDateSubtitleDateView",
+    "SBFLockScreenDateSubtitleView", [](Binder<SBFLockScreenDateSubtitleDateView>& binder) {
+        binder.init<"initWithFrame:", &SBFLockScreenDateSubtitleDateView::initWithFrame>()
+            .def<"layoutSubviews", &SBFLockScreenDateSubtitleDateView::layoutSubviews>()
+            .def<"didMoveToWindow", &SBFLockScreenDateSubtitleDateView::didMoveToWindow>()
+            .ivar<"_alternateDateLabel">()
+            .add();
+    });
+
+static const StandInClass sbLockScreenTimerDialView(
+    "SBLockScreenTimerDialView", "UIView", [](Binder<SBLockScreenTimerDialView>& binder) {
+        binder.init<"initWithFrame:", &SBLockScreenTimerDialView::initWithFrame>()
+            .def<"didMoveToWindow", &SBLockScreenTimerDialView::didMoveToWindow>()
+            .add();
+    });
+
+static const StandInClass sbfLockScreenDateView(
+    "SBFLockScreenDateView", "UIView", [](Binder<SBFLockScreenDateView>& binder) {
+        binder.init<"initWithFrame:", &SBFLockScreenDateView::initWithFrame>()
+            .def<"layoutSubviews", &SBFLockScreenDateView::layoutSubviews>()
+            .readonly<"date", &SBFLockScreenDateView::date>()
+            .def<"setDate:", &SBFLockScreenDateView::setDate>()
+            .def<"_updateLabels", &SBFLockScreenDateView::updateLabels>()
+            .readonly<"dateSubtitleView", &SBFLockScreenDateView::subtitleView>()
+            .ivar<"_timeLabel">()
+            .ivar<"_dateSubtitleView">()
+            .add();
+    });
 
 }

@@ -1,10 +1,10 @@
 // The home screen behind the cover sheet: icons and dock.
-#include "Simulator/SpringBoard/HomeScreen.hpp"
-
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/ScreenLayout.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
+#include "Simulator/UIKit/UIViewController.hpp"
+
+#include <vector>
 
 namespace Simulator {
 
@@ -46,47 +46,50 @@ UI::View makeIcon(const AppIcon& app)
     return icon;
 }
 
-}
+struct SBHomeScreenViewController : UIViewController {
+    void loadView() { setView(makeView("UIView", ScreenLayout::current().bounds(), "stock.homeScreen")); }
 
-void SBHomeScreenViewController::loadView()
-{
-    setView(makeView("UIView", ScreenLayout::current().bounds(), "stock.homeScreen"));
-}
-
-void SBHomeScreenViewController::viewDidLoad()
-{
-    const UI::View view = self<UI::ViewController>().view();
-    dock = makePane(BlurStyle::light, 28);
-    view.addSubview(dock);
-    for (const AppIcon& app : appIcons) {
-        icons.push_back(makeIcon(app));
-        view.addSubview(icons.back());
+    void viewDidLoad()
+    {
+        const UI::View view = self<UI::ViewController>().view();
+        dock = makePane(BlurStyle::light, 28);
+        view.addSubview(dock);
+        for (const AppIcon& app : appIcons) {
+            icons.push_back(makeIcon(app));
+            view.addSubview(icons.back());
+        }
     }
-}
 
-void SBHomeScreenViewController::viewDidLayoutSubviews()
-{
-    const ScreenLayout layout = ScreenLayout::current();
-    const double columnWidth = layout.size.width / columns;
-    const double dockTop = layout.size.height - rowHeight - (layout.hasHomeIndicator ? 20 : 4);
-    dock.setFrame(CGRectMake(10, dockTop, layout.size.width - 20, rowHeight));
-    for (std::size_t index = 0; index < icons.size(); ++index) {
-        const long row = static_cast<long>(index) / columns;
-        const long column = static_cast<long>(index) % columns;
-        const double top = row < rows ? layout.statusBar().size.height + 24 + row * rowHeight : dockTop;
-        icons[index].setFrame(
-            centred({iconSize, iconSize}, CGRectMake(column * columnWidth, top, columnWidth, rowHeight)));
+    void viewWillAppear(bool) { }
+    void viewDidLayoutSubviews()
+    {
+        const ScreenLayout layout = ScreenLayout::current();
+        const double columnWidth = layout.size.width / columns;
+        const double dockTop = layout.size.height - rowHeight - (layout.hasHomeIndicator ? 20 : 4);
+        dock.setFrame(CGRectMake(10, dockTop, layout.size.width - 20, rowHeight));
+        for (std::size_t index = 0; index < icons.size(); ++index) {
+            const long row = static_cast<long>(index) / columns;
+            const long column = static_cast<long>(index) % columns;
+            const double top = row < rows ? layout.statusBar().size.height + 24 + row * rowHeight : dockTop;
+            icons[index].setFrame(
+                centred({iconSize, iconSize}, CGRectMake(column * columnWidth, top, columnWidth, rowHeight)));
+        }
     }
+
+private:
+    UI::View dock;
+    std::vector<UI::View> icons;
+};
+
 }
 
-void registerHomeScreen()
-{
-    Binder<SBHomeScreenViewController>("SBHomeScreenViewController", "UIViewController")
-        .def<"loadView", &SBHomeScreenViewController::loadView>()
-        .def<"viewDidLoad", &SBHomeScreenViewController::viewDidLoad>()
-        .def<"viewWillAppear:", &SBHomeScreenViewController::viewWillAppear>()
-        .def<"viewDidLayoutSubviews", &SBHomeScreenViewController::viewDidLayoutSubviews>()
-        .add();
-}
+static const StandInClass sbHomeScreenViewController(
+    "SBHomeScreenViewController", "UIViewController", [](Binder<SBHomeScreenViewController>& binder) {
+        binder.def<"loadView", &SBHomeScreenViewController::loadView>()
+            .def<"viewDidLoad", &SBHomeScreenViewController::viewDidLoad>()
+            .def<"viewWillAppear:", &SBHomeScreenViewController::viewWillAppear>()
+            .def<"viewDidLayoutSubviews", &SBHomeScreenViewController::viewDidLayoutSubviews>()
+            .add();
+    });
 
 }

@@ -1,8 +1,7 @@
 // What keeps the screen from going dark: assertions by reason, one for each.
 #include "Platform/Foundation/NSString.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 #include <set>
@@ -43,18 +42,18 @@ struct SBDashBoardIdleTimerController : StandIn {
 
 }
 
-void registerIdleTimer()
-{
-    using Provider = SBDashBoardIdleTimerProvider;
-    Binder<Provider>("SBDashBoardIdleTimerProvider", "NSObject")
-        .def<"addDisabledIdleTimerAssertionReason:", &Provider::add>()
-        .def<"removeDisabledIdleTimerAssertionReason:", &Provider::remove>()
-        .def<"isIdleTimerDisabled", &Provider::isDisabled>()
-        .add();
-    Binder<SBDashBoardIdleTimerController>("SBDashBoardIdleTimerController", "NSObject")
-        .init<"init", &SBDashBoardIdleTimerController::init>()
-        .ivar<"_idleTimerProvider">()
-        .add();
-}
+static const StandInClass sbDashBoardIdleTimerProvider(
+    "SBDashBoardIdleTimerProvider", "NSObject", [](Binder<SBDashBoardIdleTimerProvider>& binder) {
+        using Provider = SBDashBoardIdleTimerProvider;
+        binder.def<"addDisabledIdleTimerAssertionReason:", &Provider::add>()
+            .def<"removeDisabledIdleTimerAssertionReason:", &Provider::remove>()
+            .def<"isIdleTimerDisabled", &Provider::isDisabled>()
+            .add();
+    });
+
+static const StandInClass sbDashBoardIdleTimerController(
+    "SBDashBoardIdleTimerController", "NSObject", [](Binder<SBDashBoardIdleTimerController>& binder) {
+        binder.init<"init", &SBDashBoardIdleTimerController::init>().ivar<"_idleTimerProvider">().add();
+    });
 
 }

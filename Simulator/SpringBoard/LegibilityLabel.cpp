@@ -1,7 +1,6 @@
 #include "Simulator/SpringBoard/LegibilityLabel.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 namespace Simulator {
@@ -22,17 +21,15 @@ void SBUILegibilityLabel::initWithString(const NS::Object&, double, const NS::St
     setText(string);
 }
 
-UI::View makeLegibilityLabel(double fontSize, double weight, const char* identifier)
+SB::UILegibilityLabel makeLegibilityLabel(double fontSize, double weight, const char* identifier)
 {
-    const UI::View label = makeView("SBUILegibilityLabel", {}, identifier);
+    const SB::UILegibilityLabel label(makeView("SBUILegibilityLabel", {}, identifier).raw());
     label.send<void, "setFont:">(systemFont(fontSize, weight));
     return label;
 }
 
-void registerLegibilityLabel()
-{
-    Binder<SBUILegibilityLabel>("SBUILegibilityLabel", "UIView")
-        .init<"initWithFrame:", &SBUILegibilityLabel::initWithFrame>()
+static const StandInClass sbuiLegibilityLabel("SBUILegibilityLabel", "UIView", [](Binder<SBUILegibilityLabel>& binder) {
+    binder.init<"initWithFrame:", &SBUILegibilityLabel::initWithFrame>()
         .init<"initWithSettings:strength:string:font:", &SBUILegibilityLabel::initWithString>()
         .def<"string", &SBUILegibilityLabel::text>()
         .def<"setString:", &SBUILegibilityLabel::setText>()
@@ -44,6 +41,6 @@ void registerLegibilityLabel()
         .property<"numberOfLines", "setNumberOfLines:", &SBUILegibilityLabel::numberOfLines>()
         .def<"sizeThatFits:", &SBUILegibilityLabel::sizeThatFits>()
         .add();
-}
+});
 
 }

@@ -1,6 +1,7 @@
 // The stock shell's label that stays legible on any wallpaper.
 #pragma once
 
+#include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
 #include "Simulator/UIKit/UILabel.hpp"
 
 namespace Simulator {
@@ -12,6 +13,6 @@ struct SBUILegibilityLabel : UILabel {
 };
 
 /// White, centred, without text.
-UI::View makeLegibilityLabel(double fontSize, double weight, const char* identifier);
+SB::UILegibilityLabel makeLegibilityLabel(double fontSize, double weight, const char* identifier);
 
 }

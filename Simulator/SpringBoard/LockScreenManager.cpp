@@ -1,6 +1,7 @@
 // Lock and backlight as the shell's own objects.
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Platform/SpringBoard/SBLockScreenManager.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
@@ -38,20 +39,22 @@ struct SBBacklightController : StandIn {
 
 }
 
-void registerLockScreenManager()
-{
-    Binder<SBLockScreenManager>("SBLockScreenManager", "NSObject")
-        .classMethod<"sharedInstance", &sharedObject<"SBLockScreenManager">>()
-        .def<"isLockScreenVisible", &SBLockScreenManager::isLockScreenVisible>()
-        .def<"isUILocked", &SBLockScreenManager::isUILocked>()
-        .def<"lockUIFromSource:withOptions:", &SBLockScreenManager::lockUI>()
-        .def<"unlockUIFromSource:withOptions:", &SBLockScreenManager::unlockUI>()
-        .add();
-    Binder<SBBacklightController>("SBBacklightController", "NSObject")
-        .classMethod<"sharedInstance", &sharedObject<"SBBacklightController">>()
-        .def<"screenIsOn", &SBBacklightController::screenIsOn>()
-        .def<"turnOnScreenFullyWithBacklightSource:", &SBBacklightController::turnOnScreenFully>()
-        .add();
-}
+static const StandInClass sbLockScreenManager(
+    "SBLockScreenManager", "NSObject", [](Binder<SBLockScreenManager>& binder) {
+        binder.classMethod<"sharedInstance", &sharedObject<SB::LockScreenManager>>()
+            .def<"isLockScreenVisible", &SBLockScreenManager::isLockScreenVisible>()
+            .def<"isUILocked", &SBLockScreenManager::isUILocked>()
+            .def<"lockUIFromSource:withOptions:", &SBLockScreenManager::lockUI>()
+            .def<"unlockUIFromSource:withOptions:", &SBLockScreenManager::unlockUI>()
+            .add();
+    });
+
+static const StandInClass sbBacklightController(
+    "SBBacklightController", "NSObject", [](Binder<SBBacklightController>& binder) {
+        binder.classMethod<"sharedInstance", &sharedObject<SB::BacklightController>>()
+            .def<"screenIsOn", &SBBacklightController::screenIsOn>()
+            .def<"turnOnScreenFullyWithBacklightSource:", &SBBacklightController::turnOnScreenFully>()
+            .add();
+    });
 
 }

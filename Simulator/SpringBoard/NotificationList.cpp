@@ -1,9 +1,8 @@
 #include "Simulator/SpringBoard/NotificationList.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/NotificationPlatter.hpp"
 #include "Simulator/SpringBoard/NotificationSection.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 #include <algorithm>
@@ -87,24 +86,29 @@ void CSCombinedListViewController::viewDidLayoutSubviews()
     structuredList.send<UI::View, "scrollView">().send<void, "setContentInset:">(insets);
 }
 
-void registerNotificationList()
-{
-    Binder<NCNotificationListView>("NCNotificationListView", "UIView")
-        .def<"layoutSubviews", &NCNotificationListView::layoutSubviews>()
-        .readonly<"contentInset", &NCNotificationListView::contentInset>()
-        .def<"setContentInset:", &NCNotificationListView::setContentInset>()
-        .add();
-    Binder<NCNotificationStructuredListViewController>("NCNotificationStructuredListViewController", "UIViewController")
-        .def<"viewDidLoad", &NCNotificationStructuredListViewController::viewDidLoad>()
-        .def<"viewDidLayoutSubviews", &NCNotificationStructuredListViewController::viewDidLayoutSubviews>()
-        .def<"scrollView", &NCNotificationStructuredListViewController::scrollView>()
-        .add();
-    Binder<CSCombinedListViewController>("CSCombinedListViewController", "UIViewController")
-        .def<"viewDidLoad", &CSCombinedListViewController::viewDidLoad>()
-        .def<"viewWillAppear:", &CSCombinedListViewController::viewWillAppear>()
-        .def<"viewDidLayoutSubviews", &CSCombinedListViewController::viewDidLayoutSubviews>()
-        .def<"_listViewDefaultContentInsets", &CSCombinedListViewController::listViewDefaultContentInsets>()
-        .add();
-}
+static const StandInClass ncNotificationListView(
+    "NCNotificationListView", "UIView", [](Binder<NCNotificationListView>& binder) {
+        binder.def<"layoutSubviews", &NCNotificationListView::layoutSubviews>()
+            .readonly<"contentInset", &NCNotificationListView::contentInset>()
+            .def<"setContentInset:", &NCNotificationListView::setContentInset>()
+            .add();
+    });
+
+static const StandInClass ncNotificationStructuredListViewController("NCNotificationStructuredListViewController",
+    "UIViewController", [](Binder<NCNotificationStructuredListViewController>& binder) {
+        binder.def<"viewDidLoad", &NCNotificationStructuredListViewController::viewDidLoad>()
+            .def<"viewDidLayoutSubviews", &NCNotificationStructuredListViewController::viewDidLayoutSubviews>()
+            .def<"scrollView", &NCNotificationStructuredListViewController::scrollView>()
+            .add();
+    });
+
+static const StandInClass csCombinedListViewController(
+    "CSCombinedListViewController", "UIViewController", [](Binder<CSCombinedListViewController>& binder) {
+        binder.def<"viewDidLoad", &CSCombinedListViewController::viewDidLoad>()
+            .def<"viewWillAppear:", &CSCombinedListViewController::viewWillAppear>()
+            .def<"viewDidLayoutSubviews", &CSCombinedListViewController::viewDidLayoutSubviews>()
+            .def<"_listViewDefaultContentInsets", &CSCombinedListViewController::listViewDefaultContentInsets>()
+            .add();
+    });
 
 }

@@ -1,7 +1,6 @@
 #include "Simulator/SpringBoard/NotificationPlatter.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 #include <algorithm>
@@ -63,12 +62,11 @@ void NCNotificationShortLookView::layoutSubviews()
     text.setFrame(CGRectMake(margin, 51, textWidth, 19));
 }
 
-void registerNotificationPlatter()
-{
-    Binder<NCNotificationShortLookView>("NCNotificationShortLookView", "UIView")
-        .init<"initWithFrame:", &NCNotificationShortLookView::initWithFrame>()
-        .def<"layoutSubviews", &NCNotificationShortLookView::layoutSubviews>()
-        .add();
-}
+static const StandInClass ncNotificationShortLookView(
+    "NCNotificationShortLookView", "UIView", [](Binder<NCNotificationShortLookView>& binder) {
+        binder.init<"initWithFrame:", &NCNotificationShortLookView::initWithFrame>()
+            .def<"layoutSubviews", &NCNotificationShortLookView::layoutSubviews>()
+            .add();
+    });
 
 }

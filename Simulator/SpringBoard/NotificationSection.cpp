@@ -2,9 +2,8 @@
 #include "Simulator/SpringBoard/NotificationSection.hpp"
 
 #include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/LegibilityLabel.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 #include <algorithm>
@@ -29,8 +28,8 @@ void NCNotificationListSectionHeaderView::layoutSubviews()
 void NCNotificationListSectionRevealHintView::initWithFrame(CGRect frame)
 {
     UIView::initWithFrame(frame);
-    const UI::View label = makeLegibilityLabel(17, FontWeight::regular, "stock.revealHint.title");
-    label.send<void, "setString:">("No Older Notifications"_ns);
+    const auto label = makeLegibilityLabel(17, FontWeight::regular, "stock.revealHint.title");
+    label.setString("No Older Notifications"_ns);
     setIvar("_revealHintTitle", label);
     addSubview(label);
 }
@@ -40,19 +39,21 @@ void NCNotificationListSectionRevealHintView::layoutSubviews()
     ivar<UI::View>("_revealHintTitle").setFrame(bounds());
 }
 
-void registerNotificationSection()
-{
-    Binder<NCNotificationListSectionHeaderView>("NCNotificationListSectionHeaderView", "UIView")
-        .init<"initWithFrame:", &NCNotificationListSectionHeaderView::initWithFrame>()
-        .def<"layoutSubviews", &NCNotificationListSectionHeaderView::layoutSubviews>()
-        .def<"hidden", &NCNotificationListSectionHeaderView::isHidden>()
-        .add();
-    Binder<NCNotificationListSectionRevealHintView>("NCNotificationListSectionRevealHintView", "UIView")
-        .init<"initWithFrame:", &NCNotificationListSectionRevealHintView::initWithFrame>()
-        .def<"layoutSubviews", &NCNotificationListSectionRevealHintView::layoutSubviews>()
-        .def<"didMoveToWindow", &NCNotificationListSectionRevealHintView::didMoveToWindow>()
-        .ivar<"_revealHintTitle">()
-        .add();
-}
+static const StandInClass ncNotificationListSectionHeaderView(
+    "NCNotificationListSectionHeaderView", "UIView", [](Binder<NCNotificationListSectionHeaderView>& binder) {
+        binder.init<"initWithFrame:", &NCNotificationListSectionHeaderView::initWithFrame>()
+            .def<"layoutSubviews", &NCNotificationListSectionHeaderView::layoutSubviews>()
+            .def<"hidden", &NCNotificationListSectionHeaderView::isHidden>()
+            .add();
+    });
+
+static const StandInClass ncNotificationListSectionRevealHintView(
+    "NCNotificationListSectionRevealHintView", "UIView", [](Binder<NCNotificationListSectionRevealHintView>& binder) {
+        binder.init<"initWithFrame:", &NCNotificationListSectionRevealHintView::initWithFrame>()
+            .def<"layoutSubviews", &NCNotificationListSectionRevealHintView::layoutSubviews>()
+            .def<"didMoveToWindow", &NCNotificationListSectionRevealHintView::didMoveToWindow>()
+            .ivar<"_revealHintTitle">()
+            .add();
+    });
 
 }

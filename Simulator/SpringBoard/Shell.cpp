@@ -1,6 +1,7 @@
 // What a hand does to the phone, and how the shell goes through it.
 #include "Simulator/SpringBoard/Shell.hpp"
 
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/SpringBoard/CoverSheet.hpp"
 #include "Simulator/SpringBoard/FrontApplication.hpp"
@@ -15,7 +16,9 @@ namespace Simulator {
 
 namespace {
 
-Shell* runningShell = nullptr;
+struct RunningShell {
+    Shell* shell = nullptr;
+};
 
 constexpr int sideButton = 1;
 
@@ -38,12 +41,13 @@ CSCoverSheetViewController& sheet(const UI::ViewController& controller)
 
 Shell* Shell::current()
 {
-    return runningShell;
+    const auto* running = Phone::partIfMade<RunningShell>();
+    return running ? running->shell : nullptr;
 }
 
 Shell::Shell()
 {
-    runningShell = this;
+    Phone::part<RunningShell>().shell = this;
 }
 
 Shell::~Shell()
@@ -52,8 +56,9 @@ Shell::~Shell()
     Loop::shared().cancel(minuteTimer_);
     Loop::shared().cancel(countdown_);
     standIn<SBCoverSheetPresentationManager>(sharedInstance("SBCoverSheetPresentationManager").raw()).dropCoverSheet();
-    if (runningShell == this)
-        runningShell = nullptr;
+    auto& running = Phone::part<RunningShell>();
+    if (running.shell == this)
+        running.shell = nullptr;
 }
 
 void Shell::start()

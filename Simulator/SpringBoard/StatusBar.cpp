@@ -1,9 +1,8 @@
 #include "Simulator/SpringBoard/StatusBar.hpp"
 
 #include "Simulator/Device/DeviceState.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/BatteryView.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
 #include "Simulator/SpringBoard/ScreenLayout.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
@@ -25,14 +24,13 @@ constexpr double barHeights[barCount] = {4, 6, 8.5, 11};
 void UIStatusBar_Modern::initWithFrame(CGRect frame)
 {
     UIView::initWithFrame(frame);
-    const UI::Label text = makeLabel("", 15, FontWeight::semibold, UI::Color::whiteColor());
-    text.setAccessibilityIdentifier("stock.carrier"_ns);
-    leading = text;
+    leading = makeLabel("", 15, FontWeight::semibold, UI::Color::whiteColor());
+    leading.setAccessibilityIdentifier("stock.carrier"_ns);
     wifi = makeSymbol("wifi", {}, UI::Color::whiteColor());
     battery = makeView("_UIBatteryView", {}, "stock.battery");
     for (int index = 0; index < barCount; ++index)
         bars.push_back(makePlate({}, UI::Color::whiteColor(), 1));
-    for (const UI::View& part : {leading, wifi, battery})
+    for (const UI::View& part : {UI::View(leading), wifi, battery})
         addSubview(part);
     for (const UI::View& bar : bars)
         addSubview(bar);
@@ -66,7 +64,7 @@ void UIStatusBar_Modern::layOutBars(double right, double middle)
 
 void UIStatusBar_Modern::setLeadingText(const NS::String& text)
 {
-    leading.send<void, "setText:">(text);
+    leading.setText(text);
 }
 
 void UIStatusBar_Modern::update()
@@ -77,12 +75,10 @@ void UIStatusBar_Modern::update()
         battery.send<void, "setSaverModeActive:">(saves);
 }
 
-void registerStatusBar()
-{
-    Binder<UIStatusBar_Modern>("UIStatusBar_Modern", "UIView")
-        .init<"initWithFrame:", &UIStatusBar_Modern::initWithFrame>()
+static const StandInClass uiStatusBarModern("UIStatusBar_Modern", "UIView", [](Binder<UIStatusBar_Modern>& binder) {
+    binder.init<"initWithFrame:", &UIStatusBar_Modern::initWithFrame>()
         .def<"layoutSubviews", &UIStatusBar_Modern::layoutSubviews>()
         .add();
-}
+});
 
 }

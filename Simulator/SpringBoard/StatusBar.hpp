@@ -1,6 +1,7 @@
 // The line at the top: network, radio and battery, and the padlock where the screen has no room of its own for it.
 #pragma once
 
+#include "Platform/UIKit/UILabel.hpp"
 #include "Simulator/UIKit/UIView.hpp"
 
 namespace Simulator {
@@ -16,7 +17,7 @@ struct UIStatusBar_Modern : UIView {
 private:
     void layOutBars(double right, double middle);
 
-    UI::View leading;
+    UI::Label leading;
     std::vector<UI::View> bars;
     UI::View wifi;
     UI::View battery;

@@ -101,8 +101,7 @@ CGRect centred(CGSize size, CGRect rect)
 void placeUntransformed(const UI::View& view, CGRect frame)
 {
     view.setBounds({{0, 0}, frame.size});
-    view.send<void, "setCenter:">(
-        CGPoint{frame.origin.x + frame.size.width / 2, frame.origin.y + frame.size.height / 2});
+    view.setCenter({frame.origin.x + frame.size.width / 2, frame.origin.y + frame.size.height / 2});
 }
 
 }

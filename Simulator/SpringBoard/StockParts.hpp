@@ -15,15 +15,6 @@ NS::Object makeObject(const char* className);
 UI::View makeView(const char* className, CGRect frame = {}, const char* identifier = nullptr);
 UI::ViewController makeController(const char* className);
 
-/// The one object of a class, made when first asked for.
-template <ObjC::FixedString className>
-NS::Object sharedObject()
-{
-    static ObjC::Variable<NS::Object> object;
-    if (!object)
-        object = makeObject(className.text);
-    return object;
-}
 /// The result of `sharedInstance` of a class of the shell.
 template <class T = NS::Object>
 T sharedInstance(const char* className)

@@ -1,8 +1,11 @@
 // Services of the system beside the shell: restarting it, and the battery saver.
+#include "Platform/SpringBoard/FBSystemService.hpp"
+#include "Platform/SpringBoard/_CDBatterySaver.hpp"
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/SpringBoard/SpringBoard.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
@@ -38,27 +41,26 @@ struct _CDBatterySaver : StandIn {
 
 }
 
+struct RelaunchRequest {
+    std::function<void()> callback;
+};
+
 std::function<void()>& relaunchRequested()
 {
-    static auto* callback = new std::function<void()>;
-    return *callback;
+    return Phone::part<RelaunchRequest>().callback;
 }
 
-void registerSystemService()
-{
-    Binder<FBSystemService>("FBSystemService", "NSObject")
-        .classMethod<"sharedInstance", &sharedObject<"FBSystemService">>()
+static const StandInClass fbSystemService("FBSystemService", "NSObject", [](Binder<FBSystemService>& binder) {
+    binder.classMethod<"sharedInstance", &sharedObject<FB::SystemService>>()
         .def<"exitAndRelaunch:", &FBSystemService::exitAndRelaunch>()
         .add();
-}
+});
 
-void registerBatterySaver()
-{
-    Binder<_CDBatterySaver>("_CDBatterySaver", "NSObject")
-        .classMethod<"batterySaver", &sharedObject<"_CDBatterySaver">>()
+static const StandInClass cdBatterySaver("_CDBatterySaver", "NSObject", [](Binder<_CDBatterySaver>& binder) {
+    binder.classMethod<"batterySaver", &sharedObject<CD::BatterySaver>>()
         .def<"getPowerMode", &_CDBatterySaver::powerMode>()
         .def<"setMode:", &_CDBatterySaver::setMode>()
         .add();
-}
+});
 
 }

@@ -1,46 +1,45 @@
-#include "Simulator/SpringBoard/TeachableMoments.hpp"
-
+// The hint at the bottom of the lock screen that says how to open the phone.
 #include "Platform/UIKit/UILabel.hpp"
-#include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/ScreenLayout.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
+#include "Simulator/UIKit/UIViewController.hpp"
 
 namespace Simulator {
 
-void CSTeachableMomentsContainerViewController::viewDidLoad()
-{
-    const UI::Label hint = makeLabel("", 15, FontWeight::medium, UI::Color::whiteColor());
-    hint.setTextAlignment(UI::TextAlignment::center);
-    hint.setAccessibilityIdentifier("stock.hint"_ns);
-    label = hint;
-    self<UI::ViewController>().view().addSubview(label);
+namespace {
+
+struct CSTeachableMomentsContainerViewController : UIViewController {
+    void viewDidLoad()
+    {
+        label = makeLabel("", 15, FontWeight::medium, UI::Color::whiteColor());
+        label.setTextAlignment(UI::TextAlignment::center);
+        label.setAccessibilityIdentifier("stock.hint"_ns);
+        self<UI::ViewController>().view().addSubview(label);
+    }
+
+    void viewWillAppear(bool)
+    {
+        const bool canSwipe = ScreenLayout::current().hasHomeIndicator;
+        self().send<void, "_updateText:">(canSwipe ? "Swipe up to open"_ns : "Press home to open"_ns);
+    }
+
+    void viewDidLayoutSubviews() { label.setFrame(self<UI::ViewController>().view().bounds()); }
+    void updateText(const NS::String& text) { label.setText(text); }
+
+private:
+    UI::Label label;
+};
+
 }
 
-void CSTeachableMomentsContainerViewController::viewWillAppear(bool)
-{
-    const bool canSwipe = ScreenLayout::current().hasHomeIndicator;
-    self().send<void, "_updateText:">(canSwipe ? "Swipe up to open"_ns : "Press home to open"_ns);
-}
-
-void CSTeachableMomentsContainerViewController::viewDidLayoutSubviews()
-{
-    label.setFrame(self<UI::ViewController>().view().bounds());
-}
-
-void CSTeachableMomentsContainerViewController::updateText(const NS::String& text)
-{
-    label.send<void, "setText:">(text);
-}
-
-void registerTeachableMoments()
-{
-    Binder<CSTeachableMomentsContainerViewController>("CSTeachableMomentsContainerViewController", "UIViewController")
-        .def<"viewDidLoad", &CSTeachableMomentsContainerViewController::viewDidLoad>()
-        .def<"viewWillAppear:", &CSTeachableMomentsContainerViewController::viewWillAppear>()
-        .def<"viewDidLayoutSubviews", &CSTeachableMomentsContainerViewController::viewDidLayoutSubviews>()
-        .def<"_updateText:", &CSTeachableMomentsContainerViewController::updateText>()
-        .add();
-}
+static const StandInClass csTeachableMomentsContainerViewController("CSTeachableMomentsContainerViewController",
+    "UIViewController", [](Binder<CSTeachableMomentsContainerViewController>& binder) {
+        binder.def<"viewDidLoad", &CSTeachableMomentsContainerViewController::viewDidLoad>()
+            .def<"viewWillAppear:", &CSTeachableMomentsContainerViewController::viewWillAppear>()
+            .def<"viewDidLayoutSubviews", &CSTeachableMomentsContainerViewController::viewDidLayoutSubviews>()
+            .def<"_updateText:", &CSTeachableMomentsContainerViewController::updateText>()
+            .add();
+    });
 
 }

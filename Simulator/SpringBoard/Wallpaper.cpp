@@ -1,8 +1,7 @@
 #include "Simulator/SpringBoard/Wallpaper.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/Runtime/ExtensionCounts.hpp"
-#include "Simulator/SpringBoard/Registrations.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
@@ -36,11 +35,9 @@ void SBFStaticWallpaperView::reload()
         UI::Image::imageWithContentsOfFile("/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"_ns));
 }
 
-void registerWallpaper()
-{
-    Binder<SBFStaticWallpaperView>("SBFStaticWallpaperView", "UIImageView")
-        .init<"initWithFrame:", &SBFStaticWallpaperView::initWithFrame>()
-        .add();
-}
+static const StandInClass sbfStaticWallpaperView(
+    "SBFStaticWallpaperView", "UIImageView", [](Binder<SBFStaticWallpaperView>& binder) {
+        binder.init<"initWithFrame:", &SBFStaticWallpaperView::initWithFrame>().add();
+    });
 
 }

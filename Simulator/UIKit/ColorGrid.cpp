@@ -1,7 +1,7 @@
 #include "Simulator/UIKit/ColorGrid.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UITouch.hpp"
@@ -107,14 +107,14 @@ void UIColorSlider::decorate(Graphics::Layer& layer) const
     layer.children.push_back(std::move(ring));
 }
 
-void registerColorGrid()
-{
-    Binder<UIColorGridView>("UIColorGridView", "UIControl")
-        .readonly<"selectedColor", &UIColorGridView::selectedColor>()
+static const StandInClass uiColorGridView("UIColorGridView", "UIControl", [](Binder<UIColorGridView>& binder) {
+    binder.readonly<"selectedColor", &UIColorGridView::selectedColor>()
         .def<"beginTrackingWithTouch:withEvent:", &UIColorGridView::beginTracking>()
         .def<"continueTrackingWithTouch:withEvent:", &UIColorGridView::continueTracking>()
         .add();
-    Binder<UIColorSlider>("UIColorSlider", "UISlider").add();
-}
+});
+
+static const StandInClass uiColorSlider(
+    "UIColorSlider", "UISlider", [](Binder<UIColorSlider>& binder) { binder.add(); });
 
 }

@@ -37,6 +37,4 @@ struct UIColorSlider : UISlider {
     std::vector<Graphics::Color> trackColors;
 };
 
-void registerColorGrid();
-
 }

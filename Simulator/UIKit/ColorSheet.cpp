@@ -1,6 +1,7 @@
 #include "Simulator/UIKit/ColorSheet.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIColorWell.hpp"
@@ -167,17 +168,14 @@ void UIColorSheetView::dismiss()
     self<UI::View>().removeFromSuperview();
 }
 
-void registerColorSheet()
-{
-    registerColorGrid();
+static const StandInClass uiColorSheetView("UIColorSheetView", "UIView", [](Binder<UIColorSheetView>& binder) {
     using Sheet = UIColorSheetView;
-    Binder<Sheet>("UIColorSheetView", "UIView")
-        .def<"layoutSubviews", &Sheet::layoutSubviews>()
+    binder.def<"layoutSubviews", &Sheet::layoutSubviews>()
         .def<"touchesEnded:withEvent:", &Sheet::touchesEnded>()
         .def<"gridChanged:", &Sheet::gridChanged>()
         .def<"sliderChanged:", &Sheet::sliderChanged>()
         .def<"dismiss", &Sheet::dismiss>()
         .add();
-}
+});
 
 }

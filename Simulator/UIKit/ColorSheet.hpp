@@ -43,7 +43,4 @@ private:
 
 UI::View makeColorSheet(UIColorWell& well);
 
-/// Registers the sheet's classes; the colour well's registration does it.
-void registerColorSheet();
-
 }

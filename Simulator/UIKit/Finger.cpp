@@ -1,5 +1,6 @@
 #include "Simulator/UIKit/Finger.hpp"
 
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/Loop/Loop.hpp"
 #include "Simulator/UIKit/UIGestureRecognizer.hpp"
@@ -24,9 +25,7 @@ NS::Object setOf(const ObjC::Object& element)
 
 Finger& Finger::shared()
 {
-    // Never destroyed: it may hold platform objects at exit.
-    static Finger* finger = new Finger;
-    return *finger;
+    return Phone::part<Finger>();
 }
 
 UITouch& Finger::touch()

@@ -1,6 +1,8 @@
 // The origins, by a digest of the bytes. A bounded number is kept; a lost one only leaves a description without a path.
 #include "Simulator/UIKit/ImageOrigins.hpp"
 
+#include "Simulator/Base/Phone.hpp"
+
 #include <algorithm>
 #include <functional>
 #include <string_view>
@@ -10,10 +12,11 @@ namespace Simulator {
 
 static constexpr std::size_t mostOrigins = 1024;
 
-static std::unordered_map<std::size_t, std::string>& origins()
+struct Origins : std::unordered_map<std::size_t, std::string> { };
+
+static Origins& origins()
 {
-    static std::unordered_map<std::size_t, std::string> all;
-    return all;
+    return Phone::part<Origins>();
 }
 
 static std::size_t digest(std::span<const std::byte> bytes)

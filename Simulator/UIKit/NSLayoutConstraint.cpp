@@ -1,7 +1,7 @@
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIView.hpp"
 
 #include <algorithm>
@@ -163,21 +163,21 @@ void applyConstraints(UIView& view)
         view.self<UI::View>().setFrame(after);
 }
 
-void registerNSLayoutConstraint()
-{
-    Binder<NSLayoutAnchor>("NSLayoutAnchor", "NSObject")
-        .def<"constraintEqualToAnchor:", &NSLayoutAnchor::constraintEqualTo>()
+static const StandInClass nsLayoutAnchor("NSLayoutAnchor", "NSObject", [](Binder<NSLayoutAnchor>& binder) {
+    binder.def<"constraintEqualToAnchor:", &NSLayoutAnchor::constraintEqualTo>()
         .def<"constraintEqualToAnchor:constant:", &NSLayoutAnchor::constraintEqualToWithConstant>()
         .add();
+});
+
+static const StandInClass nsLayoutConstraint("NSLayoutConstraint", "NSObject", [](Binder<NSLayoutConstraint>& binder) {
     using Constraint = NSLayoutConstraint;
-    Binder<Constraint>("NSLayoutConstraint", "NSObject")
-        .classMethod<"activateConstraints:", &Constraint::activateConstraints>()
+    binder.classMethod<"activateConstraints:", &Constraint::activateConstraints>()
         .classMethod<"deactivateConstraints:", &Constraint::deactivateConstraints>()
         .readonly<"isActive", &Constraint::active>()
         .def<"setActive:", &Constraint::setActive>()
         .readonly<"constant", &Constraint::constant>()
         .def<"setConstant:", &Constraint::setConstant>()
         .add();
-}
+});
 
 }

@@ -48,6 +48,4 @@ void releaseConstraints(UIView& view);
 /// Places the view by its constraints; without any it stays where it is.
 void applyConstraints(UIView& view);
 
-void registerNSLayoutConstraint();
-
 }

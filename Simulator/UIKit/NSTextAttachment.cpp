@@ -2,7 +2,7 @@
 #include "Simulator/UIKit/NSTextAttachment.hpp"
 
 #include "Platform/Foundation/NSDictionary.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIImage.hpp"
 
 namespace Simulator {
@@ -36,10 +36,8 @@ static NS::AttributedString stringWithAttachment(ObjC::Object, SEL, const NS::Te
     return NS::AttributedString::make<"initWithString:attributes:">(NS::String::fromUTF8("\uFFFC"), attributes);
 }
 
-void registerNSTextAttachment()
-{
-    Binder<NSTextAttachment>("NSTextAttachment", "NSObject")
-        .init<"initWithData:ofType:", &NSTextAttachment::initWithData>()
+static const StandInClass nsTextAttachment("NSTextAttachment", "NSObject", [](Binder<NSTextAttachment>& binder) {
+    binder.init<"initWithData:ofType:", &NSTextAttachment::initWithData>()
         .property<"image", "setImage:", &NSTextAttachment::image>()
         .property<"bounds", "setBounds:", &NSTextAttachment::bounds>()
         .readonly<"contents", &NSTextAttachment::contents>()
@@ -49,6 +47,6 @@ void registerNSTextAttachment()
     using Maker = ObjC::Adapter<&stringWithAttachment>;
     class_addMethod(object_getClass(reinterpret_cast<id>(objc_getClass("NSAttributedString"))),
         ObjC::selector<"attributedStringWithAttachment:">(), Maker::implementation(), Maker::types());
-}
+});
 
 }

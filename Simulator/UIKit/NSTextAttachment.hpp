@@ -25,6 +25,4 @@ struct NSTextAttachment : StandIn {
     NS::String fileType;
 };
 
-void registerNSTextAttachment();
-
 }

@@ -3,6 +3,7 @@
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/Device/DeviceState.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 
 #include <algorithm>
@@ -202,27 +203,25 @@ std::optional<Graphics::Color> resolvedColor(const ObjC::Object& color)
     return standing ? std::optional(standing->current().color()) : std::nullopt;
 }
 
-void registerUIColor()
-{
-    Class type = Binder<UIColor>("UIColor", "NSObject")
-                     .classMethod<"colorWithRed:green:blue:alpha:", &UIColor::withRed>()
-                     .classMethod<"colorWithWhite:alpha:", &UIColor::withWhite>()
-                     .classMethod<"colorWithHue:saturation:brightness:alpha:", &UIColor::withHue>()
-                     .classMethod<"colorWithCGColor:", &UIColor::withCGColor>()
-                     .init<"initWithRed:green:blue:alpha:", &UIColor::initWithRed>()
-                     .init<"initWithWhite:alpha:", &UIColor::initWithWhite>()
-                     .init<"initWithHue:saturation:brightness:alpha:", &UIColor::initWithHue>()
-                     .def<"getRed:green:blue:alpha:", &UIColor::getRed>()
-                     .def<"getHue:saturation:brightness:alpha:", &UIColor::getHue>()
-                     .def<"getWhite:alpha:", &UIColor::getWhite>()
-                     .def<"CGColor", &UIColor::CGColor>()
-                     .def<"colorWithAlphaComponent:", &UIColor::withAlpha>()
-                     .def<"isEqual:", &UIColor::isEqual>()
-                     .def<"hash", &UIColor::hash>()
-                     .def<"description", &UIColor::description>()
-                     .def<"copyWithZone:", &UIColor::sameForCopy>()
-                     .add();
+static const StandInClass uiColor("UIColor", "NSObject", [](Binder<UIColor>& binder) {
+    const Class type = binder.classMethod<"colorWithRed:green:blue:alpha:", &UIColor::withRed>()
+                           .classMethod<"colorWithWhite:alpha:", &UIColor::withWhite>()
+                           .classMethod<"colorWithHue:saturation:brightness:alpha:", &UIColor::withHue>()
+                           .classMethod<"colorWithCGColor:", &UIColor::withCGColor>()
+                           .init<"initWithRed:green:blue:alpha:", &UIColor::initWithRed>()
+                           .init<"initWithWhite:alpha:", &UIColor::initWithWhite>()
+                           .init<"initWithHue:saturation:brightness:alpha:", &UIColor::initWithHue>()
+                           .def<"getRed:green:blue:alpha:", &UIColor::getRed>()
+                           .def<"getHue:saturation:brightness:alpha:", &UIColor::getHue>()
+                           .def<"getWhite:alpha:", &UIColor::getWhite>()
+                           .def<"CGColor", &UIColor::CGColor>()
+                           .def<"colorWithAlphaComponent:", &UIColor::withAlpha>()
+                           .def<"isEqual:", &UIColor::isEqual>()
+                           .def<"hash", &UIColor::hash>()
+                           .def<"description", &UIColor::description>()
+                           .def<"copyWithZone:", &UIColor::sameForCopy>()
+                           .add();
     registerNamedColors(type);
-}
+});
 
 }

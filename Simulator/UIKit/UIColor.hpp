@@ -48,6 +48,4 @@ private:
 /// The colour as it is drawn; nothing for nil.
 std::optional<Graphics::Color> resolvedColor(const ObjC::Object& color);
 
-void registerUIColor();
-
 }

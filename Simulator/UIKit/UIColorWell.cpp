@@ -1,7 +1,7 @@
 #include "Simulator/UIKit/UIColorWell.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
 #include "Simulator/UIKit/ColorSheet.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
@@ -99,11 +99,9 @@ void UIColorWell::describe(nlohmann::json& description) const
     description["selected"] = describeColor(resolvedColor(selectedColor));
 }
 
-void registerUIColorWell()
-{
+static const StandInClass uiColorWell("UIColorWell", "UIControl", [](Binder<UIColorWell>& binder) {
     using Well = UIColorWell;
-    Binder<Well>("UIColorWell", "UIControl")
-        .def<"sizeThatFits:", &Well::sizeThatFits>()
+    binder.def<"sizeThatFits:", &Well::sizeThatFits>()
         .def<"intrinsicContentSize", &Well::intrinsicContentSize>()
         .def<"didMoveToWindow", &Well::didMoveToWindow>()
         .def<"endTrackingWithTouch:withEvent:", &Well::endTracking>()
@@ -112,7 +110,6 @@ void registerUIColorWell()
         .def<"setSelectedColor:", &Well::setSelectedColor>()
         .property<"supportsAlpha", "setSupportsAlpha:", &Well::supportsAlpha>()
         .add();
-    registerColorSheet();
-}
+});
 
 }

@@ -30,6 +30,4 @@ private:
     UI::View sheet;
 };
 
-void registerUIColorWell();
-
 }

@@ -1,6 +1,6 @@
 #include "Simulator/UIKit/UIControl.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UITouch.hpp"
 
 namespace Simulator {
@@ -71,7 +71,7 @@ void UIControl::sendActionTo(SEL action, const ObjC::Object& target, const NS::O
 
 void UIControl::send(Events events)
 {
-    self().send<void, "sendActionsForControlEvents:">(static_cast<unsigned long>(events));
+    self<UI::Control>().sendActionsForControlEvents(events);
 }
 
 void UIControl::setEnabled(bool isEnabled)
@@ -113,12 +113,12 @@ void UIControl::touchesBegan(const NS::Object& touches, const NS::Object& event)
 {
     if (!enabled)
         return;
-    const auto control = self();
+    const auto control = self<UI::Control>();
     touchInside = true;
     tracking = control.send<bool, "beginTrackingWithTouch:withEvent:">(NS::Object(touchOf(touches)->object()), event);
     if (!tracking)
         return;
-    control.send<void, "setHighlighted:">(true);
+    control.setHighlighted(true);
     send(touchOf(touches)->tapCount > 1 ? Events::touchDown | Events::touchDownRepeat : Events::touchDown);
 }
 
@@ -126,12 +126,12 @@ void UIControl::touchesMoved(const NS::Object& touches, const NS::Object& event)
 {
     if (!tracking)
         return;
-    const auto control = self();
+    const auto control = self<UI::Control>();
     const bool wasInside = std::exchange(touchInside, isNear(touches));
     tracking
         = control.send<bool, "continueTrackingWithTouch:withEvent:">(NS::Object(touchOf(touches)->object()), event);
     if (highlighted != (touchInside && tracking))
-        control.send<void, "setHighlighted:">(touchInside && tracking);
+        control.setHighlighted(touchInside && tracking);
     if (touchInside)
         send(wasInside ? Events::touchDragInside : Events::touchDragInside | Events::touchDragEnter);
     else
@@ -142,12 +142,12 @@ void UIControl::touchesEnded(const NS::Object& touches, const NS::Object& event)
 {
     if (!tracking)
         return;
-    const auto control = self();
+    const auto control = self<UI::Control>();
     touchInside = isNear(touches);
     // The finger is off the control when it tells so.
     tracking = false;
     control.send<void, "endTrackingWithTouch:withEvent:">(NS::Object(touchOf(touches)->object()), event);
-    control.send<void, "setHighlighted:">(false);
+    control.setHighlighted(false);
     send(touchInside ? Events::touchUpInside | Events::primaryActionTriggered : Events::touchUpOutside);
 }
 
@@ -155,18 +155,16 @@ void UIControl::touchesCancelled(const NS::Object&, const NS::Object& event)
 {
     if (!tracking)
         return;
-    const auto control = self();
+    const auto control = self<UI::Control>();
     tracking = false;
     control.send<void, "cancelTrackingWithEvent:">(event);
-    control.send<void, "setHighlighted:">(false);
+    control.setHighlighted(false);
     send(Events::touchCancel);
 }
 
-void registerUIControl()
-{
+static const StandInClass uiControl("UIControl", "UIView", [](Binder<UIControl>& binder) {
     using Control = UIControl;
-    Binder<Control>("UIControl", "UIView")
-        .def<"addTarget:action:forControlEvents:", &Control::addTarget>()
+    binder.def<"addTarget:action:forControlEvents:", &Control::addTarget>()
         .def<"removeTarget:action:forControlEvents:", &Control::removeTarget>()
         .def<"actionsForTarget:forControlEvent:", &Control::actionsForTarget>()
         .def<"sendActionsForControlEvents:", &Control::sendActionsForControlEvents>()
@@ -189,6 +187,6 @@ void registerUIControl()
         .def<"endTrackingWithTouch:withEvent:", &Control::endTracking>()
         .def<"cancelTrackingWithEvent:", &Control::cancelTracking>()
         .add();
-}
+});
 
 }

@@ -57,6 +57,4 @@ private:
     std::vector<Registration> registrations;
 };
 
-void registerUIControl();
-
 }

@@ -1,18 +1,12 @@
 // The one device object, which reads the simulated battery.
 #include "Simulator/UIKit/UIDevice.hpp"
 
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/Device/DeviceState.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
-
-UI::Device UIDevice::currentDevice()
-{
-    static constinit ObjC::Variable<UI::Device> device;
-    if (!device)
-        device = UI::Device::make();
-    return device;
-}
 
 float UIDevice::batteryLevel() const
 {
@@ -45,10 +39,8 @@ NS::String UIDevice::systemVersion() const
     return "14.2"_ns;
 }
 
-void registerUIDevice()
-{
-    Binder<UIDevice>("UIDevice", "NSObject")
-        .classMethod<"currentDevice", &UIDevice::currentDevice>()
+static const StandInClass uiDevice("UIDevice", "NSObject", [](Binder<UIDevice>& binder) {
+    binder.classMethod<"currentDevice", &sharedObject<UI::Device>>()
         .def<"batteryLevel", &UIDevice::batteryLevel>()
         .def<"batteryState", &UIDevice::batteryState>()
         .def<"name", &UIDevice::name>()
@@ -59,6 +51,6 @@ void registerUIDevice()
         .def<"userInterfaceIdiom", &UIDevice::userInterfaceIdiom>()
         .property<"isBatteryMonitoringEnabled", "setBatteryMonitoringEnabled:", &UIDevice::batteryMonitoringEnabled>()
         .add();
-}
+});
 
 }

@@ -9,7 +9,6 @@ namespace Simulator {
 struct UIDevice : StandIn {
     using Root = UIDevice;
 
-    static UI::Device currentDevice();
     /// Both are unknown while nobody watches the battery.
     float batteryLevel() const;
     UI::DeviceBatteryState batteryState() const;
@@ -21,7 +20,5 @@ struct UIDevice : StandIn {
 
     bool batteryMonitoringEnabled = false;
 };
-
-void registerUIDevice();
 
 }

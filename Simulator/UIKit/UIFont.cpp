@@ -3,6 +3,7 @@
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/CoreGraphics/Fonts.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <array>
 #include <cmath>
@@ -150,10 +151,8 @@ unsigned long UIFont::hash() const
     return (font ? font->identity() : 0) * 31 + std::hash<double>()(pointSize);
 }
 
-void registerUIFont()
-{
-    Binder<UIFont>("UIFont", "NSObject")
-        .classMethod<"fontWithName:size:", &UIFont::withName>()
+static const StandInClass uiFont("UIFont", "NSObject", [](Binder<UIFont>& binder) {
+    binder.classMethod<"fontWithName:size:", &UIFont::withName>()
         .classMethod<"systemFontOfSize:", &UIFont::systemFont>()
         .classMethod<"systemFontOfSize:weight:", &UIFont::systemFontOfWeight>()
         .classMethod<"boldSystemFontOfSize:", &UIFont::boldSystemFont>()
@@ -172,6 +171,6 @@ void registerUIFont()
         .def<"hash", &UIFont::hash>()
         .def<"copyWithZone:", &UIFont::sameForCopy>()
         .add();
-}
+});
 
 }

@@ -39,6 +39,4 @@ struct UIFont : StandIn {
 
 UI::Font makeFont(const std::shared_ptr<const Graphics::Font>& font, double size);
 
-void registerUIFont();
-
 }

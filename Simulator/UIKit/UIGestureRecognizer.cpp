@@ -1,6 +1,6 @@
 #include "Simulator/UIKit/UIGestureRecognizer.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/Finger.hpp"
 
 #include <algorithm>
@@ -102,26 +102,25 @@ void UIGestureRecognizer::fail()
         state = State::failed;
 }
 
-void registerUIGestureRecognizer()
-{
-    using Recognizer = UIGestureRecognizer;
-    Binder<Recognizer>("UIGestureRecognizer", "NSObject")
-        .init<"init", &Recognizer::init>()
-        .init<"initWithTarget:action:", &Recognizer::initWithTarget>()
-        .def<"addTarget:action:", &Recognizer::addTarget>()
-        .def<"removeTarget:action:", &Recognizer::removeTarget>()
-        .readonly<"state", &Recognizer::state>()
-        .def<"view", &Recognizer::view>()
-        .def<"locationInView:", &Recognizer::locationInView>()
-        .readonly<"isEnabled", &Recognizer::enabled>()
-        .def<"setEnabled:", &Recognizer::setEnabled>()
-        .property<"cancelsTouchesInView", "setCancelsTouchesInView:", &Recognizer::cancelsTouchesInView>()
-        .def<"touchesBegan:withEvent:", &Recognizer::touchesBegan>()
-        .def<"touchesMoved:withEvent:", &Recognizer::touchesMoved>()
-        .def<"touchesEnded:withEvent:", &Recognizer::touchesEnded>()
-        .def<"touchesCancelled:withEvent:", &Recognizer::touchesCancelled>()
-        .def<"reset", &Recognizer::reset>()
-        .add();
-}
+static const StandInClass uiGestureRecognizer(
+    "UIGestureRecognizer", "NSObject", [](Binder<UIGestureRecognizer>& binder) {
+        using Recognizer = UIGestureRecognizer;
+        binder.init<"init", &Recognizer::init>()
+            .init<"initWithTarget:action:", &Recognizer::initWithTarget>()
+            .def<"addTarget:action:", &Recognizer::addTarget>()
+            .def<"removeTarget:action:", &Recognizer::removeTarget>()
+            .readonly<"state", &Recognizer::state>()
+            .def<"view", &Recognizer::view>()
+            .def<"locationInView:", &Recognizer::locationInView>()
+            .readonly<"isEnabled", &Recognizer::enabled>()
+            .def<"setEnabled:", &Recognizer::setEnabled>()
+            .property<"cancelsTouchesInView", "setCancelsTouchesInView:", &Recognizer::cancelsTouchesInView>()
+            .def<"touchesBegan:withEvent:", &Recognizer::touchesBegan>()
+            .def<"touchesMoved:withEvent:", &Recognizer::touchesMoved>()
+            .def<"touchesEnded:withEvent:", &Recognizer::touchesEnded>()
+            .def<"touchesCancelled:withEvent:", &Recognizer::touchesCancelled>()
+            .def<"reset", &Recognizer::reset>()
+            .add();
+    });
 
 }

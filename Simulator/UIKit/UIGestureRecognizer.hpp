@@ -56,6 +56,4 @@ private:
     UI::View window;
 };
 
-void registerUIGestureRecognizer();
-
 }

@@ -1,4 +1,5 @@
 // Image contexts: what is drawn into them is collected and becomes pixels when the picture is asked for.
+#include "Simulator/Base/Phone.hpp"
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/CoreGraphics/Geometry.hpp"
@@ -27,8 +28,7 @@ struct ImageContext {
 
 std::vector<ImageContext>& imageContexts()
 {
-    static std::vector<ImageContext> stack;
-    return stack;
+    return Phone::part<std::vector<ImageContext>>();
 }
 
 }

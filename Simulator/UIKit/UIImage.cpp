@@ -7,6 +7,7 @@
 #include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Graphics/Compositor.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/ImageOrigins.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
@@ -183,10 +184,8 @@ bool UIImage::isTemplate() const
     return renderingMode == alwaysTemplate || (renderingMode == 0 && isSymbol());
 }
 
-void registerUIImage()
-{
-    Binder<UIImage>("UIImage", "NSObject")
-        .classMethod<"imageWithContentsOfFile:", &UIImage::withContentsOfFile>()
+static const StandInClass uiImage("UIImage", "NSObject", [](Binder<UIImage>& binder) {
+    binder.classMethod<"imageWithContentsOfFile:", &UIImage::withContentsOfFile>()
         .classMethod<"imageWithData:", &UIImage::withData>()
         .classMethod<"imageWithData:scale:", &UIImage::withDataAndScale>()
         .classMethod<"imageNamed:", &UIImage::named>()
@@ -202,6 +201,6 @@ void registerUIImage()
         .def<"drawInRect:", &UIImage::drawInRect>()
         .def<"copyWithZone:", &UIImage::sameForCopy>()
         .add();
-}
+});
 
 }

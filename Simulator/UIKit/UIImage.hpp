@@ -50,8 +50,6 @@ private:
 UIImage* imageStandIn(const ObjC::Object& image);
 UI::Image makeImage(const Graphics::Image::Pointer& image, double scale, const std::string& path = {});
 
-void registerUIImage();
-
 /// Adds a drawing to the current image context; without one, nothing happens.
 void drawIntoImageContext(Graphics::Layer layer);
 

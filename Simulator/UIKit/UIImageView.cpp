@@ -1,7 +1,7 @@
 // Picture views.
 #include "Simulator/UIKit/UIImageView.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UIImage.hpp"
 #include "Simulator/UIKit/ViewDescription.hpp"
@@ -65,16 +65,14 @@ void UIImageView::describe(nlohmann::json& description) const
     description["image"] = describeImage(image);
 }
 
-void registerUIImageView()
-{
-    Binder<UIImageView>("UIImageView", "UIView")
-        .init<"initWithFrame:", &UIImageView::initWithFrame>()
+static const StandInClass uiImageView("UIImageView", "UIView", [](Binder<UIImageView>& binder) {
+    binder.init<"initWithFrame:", &UIImageView::initWithFrame>()
         .init<"initWithImage:", &UIImageView::initWithImage>()
         .def<"sizeThatFits:", &UIImageView::sizeThatFits>()
         .def<"intrinsicContentSize", &UIImageView::intrinsicContentSize>()
         .readonly<"image", &UIImageView::image>()
         .def<"setImage:", &UIImageView::setImage>()
         .add();
-}
+});
 
 }

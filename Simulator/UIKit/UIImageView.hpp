@@ -18,6 +18,4 @@ struct UIImageView : UIView {
     UI::Image image;
 };
 
-void registerUIImageView();
-
 }

@@ -3,7 +3,7 @@
 
 #include "Simulator/CoreGraphics/Fonts.hpp"
 #include "Simulator/CoreGraphics/Geometry.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
 #include "Simulator/UIKit/NSTextAttachment.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
@@ -184,10 +184,8 @@ void UILabel::decorate(Graphics::Layer& layer) const
     layer.shadow = {color->a, color->withAlpha(1), 0, {shadowOffset.width, shadowOffset.height}};
 }
 
-void registerUILabel()
-{
-    Binder<UILabel>("UILabel", "UIView")
-        .init<"initWithFrame:", &UILabel::initWithFrame>()
+static const StandInClass uiLabel("UILabel", "UIView", [](Binder<UILabel>& binder) {
+    binder.init<"initWithFrame:", &UILabel::initWithFrame>()
         .def<"text", &UILabel::text>()
         .def<"setText:", &UILabel::setText>()
         .def<"attributedText", &UILabel::attributedText>()
@@ -207,6 +205,6 @@ void registerUILabel()
         .property<"shadowColor", "setShadowColor:", &UILabel::shadowColor>()
         .property<"shadowOffset", "setShadowOffset:", &UILabel::shadowOffset>()
         .add();
-}
+});
 
 }

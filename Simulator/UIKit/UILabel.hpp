@@ -49,6 +49,4 @@ private:
     UI::Color textColorObject;
 };
 
-void registerUILabel();
-
 }

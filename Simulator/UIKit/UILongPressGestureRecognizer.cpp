@@ -1,66 +1,73 @@
-#include "Simulator/UIKit/UILongPressGestureRecognizer.hpp"
-
-#include "Simulator/Runtime/Binder.hpp"
+// A finger that rests on the screen.
+#include "Simulator/Loop/Loop.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
+#include "Simulator/UIKit/UIGestureRecognizer.hpp"
 
 #include <cmath>
 
 namespace Simulator {
 
-UILongPressGestureRecognizer::~UILongPressGestureRecognizer()
-{
-    stopWaiting();
-}
+namespace {
 
-void UILongPressGestureRecognizer::stopWaiting()
-{
-    Loop::shared().cancel(std::exchange(timer, 0));
-}
+struct UILongPressGestureRecognizer : UIGestureRecognizer {
+    ~UILongPressGestureRecognizer() override { stopWaiting(); }
 
-void UILongPressGestureRecognizer::began(const UITouch& touch)
-{
-    start = touch.location;
-    stopWaiting();
-    timer = Loop::shared().schedule(
-        minimumPressDuration,
-        [this] {
-            if (enabled && viewReference && state == State::possible)
-                changeState(State::began);
-        },
-        WorkKind::Timer);
-}
-
-/// The bound holds until the press is recognised; from then on each movement is a change.
-void UILongPressGestureRecognizer::moved(const UITouch& touch)
-{
-    if (state != State::possible) {
-        changeState(State::changed);
-        return;
+    void began(const UITouch& touch) override
+    {
+        start = touch.location;
+        stopWaiting();
+        timer = Loop::shared().schedule(
+            minimumPressDuration,
+            [this] {
+                if (enabled && viewReference && state == State::possible)
+                    changeState(State::began);
+            },
+            WorkKind::Timer);
     }
-    if (std::hypot(touch.location.x - start.x, touch.location.y - start.y) > allowableMovement)
-        fail();
+
+    /// The bound holds until the press is recognised; from then on each movement is a change.
+    void moved(const UITouch& touch) override
+    {
+        if (state != State::possible) {
+            changeState(State::changed);
+            return;
+        }
+        if (std::hypot(touch.location.x - start.x, touch.location.y - start.y) > allowableMovement)
+            fail();
+    }
+
+    void ended(const UITouch&) override
+    {
+        if (state == State::possible)
+            fail();
+        else
+            changeState(State::ended);
+    }
+
+    void reset() override
+    {
+        stopWaiting();
+        UIGestureRecognizer::reset();
+    }
+
+    double minimumPressDuration = 0.5;
+    double allowableMovement = 10;
+
+private:
+    void stopWaiting() { Loop::shared().cancel(std::exchange(timer, 0)); }
+
+    CGPoint start;
+    TimerId timer = 0;
+};
+
 }
 
-void UILongPressGestureRecognizer::ended(const UITouch&)
-{
-    if (state == State::possible)
-        fail();
-    else
-        changeState(State::ended);
-}
-
-void UILongPressGestureRecognizer::reset()
-{
-    stopWaiting();
-    UIGestureRecognizer::reset();
-}
-
-void registerUILongPressGestureRecognizer()
-{
-    using Recognizer = UILongPressGestureRecognizer;
-    Binder<Recognizer>("UILongPressGestureRecognizer", "UIGestureRecognizer")
-        .property<"minimumPressDuration", "setMinimumPressDuration:", &Recognizer::minimumPressDuration>()
-        .property<"allowableMovement", "setAllowableMovement:", &Recognizer::allowableMovement>()
-        .add();
-}
+static const StandInClass uiLongPressGestureRecognizer(
+    "UILongPressGestureRecognizer", "UIGestureRecognizer", [](Binder<UILongPressGestureRecognizer>& binder) {
+        using Recognizer = UILongPressGestureRecognizer;
+        binder.property<"minimumPressDuration", "setMinimumPressDuration:", &Recognizer::minimumPressDuration>()
+            .property<"allowableMovement", "setAllowableMovement:", &Recognizer::allowableMovement>()
+            .add();
+    });
 
 }

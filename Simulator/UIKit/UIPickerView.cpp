@@ -2,7 +2,7 @@
 
 #include "Platform/UIKit/UILabel.hpp"
 #include "Simulator/CoreGraphics/Geometry.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
 
 #include <nlohmann/json.hpp>
@@ -231,11 +231,9 @@ void UIPickerView::describe(nlohmann::json& description) const
     description["selected"] = wheels.empty() ? -1 : wheels[0]->selectedRow();
 }
 
-void registerUIPickerView()
-{
+static const StandInClass uiPickerView("UIPickerView", "UIView", [](Binder<UIPickerView>& binder) {
     using Picker = UIPickerView;
-    Binder<Picker>("UIPickerView", "UIView")
-        .init<"initWithFrame:", &Picker::initWithFrame>()
+    binder.init<"initWithFrame:", &Picker::initWithFrame>()
         .def<"sizeThatFits:", &Picker::sizeThatFits>()
         .def<"intrinsicContentSize", &Picker::intrinsicContentSize>()
         .def<"layoutSubviews", &Picker::layoutSubviews>()
@@ -258,6 +256,6 @@ void registerUIPickerView()
         .def<"touchesEnded:withEvent:", &Picker::touchesEnded>()
         .def<"touchesCancelled:withEvent:", &Picker::touchesCancelled>()
         .add();
-}
+});
 
 }

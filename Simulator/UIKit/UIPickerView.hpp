@@ -64,6 +64,4 @@ private:
     bool isDragging = false;
 };
 
-void registerUIPickerView();
-
 }

@@ -1,7 +1,7 @@
 // The responder chain: touches go up it. Nobody is first responder: the lock screen takes no text.
 #include "Simulator/UIKit/UIResponder.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 namespace Simulator {
 
@@ -25,15 +25,13 @@ void UIResponder::touchesCancelled(const NS::Object& touches, const NS::Object& 
     self().send<UI::Responder, "nextResponder">().send<void, "touchesCancelled:withEvent:">(touches, event);
 }
 
-void registerUIResponder()
-{
-    Binder<UIResponder>("UIResponder", "NSObject")
-        .def<"nextResponder", &UIResponder::nextResponder>()
+static const StandInClass uiResponder("UIResponder", "NSObject", [](Binder<UIResponder>& binder) {
+    binder.def<"nextResponder", &UIResponder::nextResponder>()
         .def<"touchesBegan:withEvent:", &UIResponder::touchesBegan>()
         .def<"touchesMoved:withEvent:", &UIResponder::touchesMoved>()
         .def<"touchesEnded:withEvent:", &UIResponder::touchesEnded>()
         .def<"touchesCancelled:withEvent:", &UIResponder::touchesCancelled>()
         .add();
-}
+});
 
 }

@@ -19,6 +19,4 @@ struct UIResponder : StandIn {
     void touchesCancelled(const NS::Object& touches, const NS::Object& event);
 };
 
-void registerUIResponder();
-
 }

@@ -1,21 +1,15 @@
 // The screen and the traits of what it shows.
 #include "Simulator/UIKit/UIScreen.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Base/Phone.hpp"
+#include "Simulator/Runtime/SharedObject.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIViewController.hpp"
 #include "Simulator/UIKit/UIWindow.hpp"
 
 namespace Simulator {
 
 namespace {
-
-UI::Screen mainScreen()
-{
-    static constinit ObjC::Variable<UI::Screen> screen;
-    if (!screen)
-        screen = UI::Screen::make();
-    return screen;
-}
 
 NS::Object makeTraits(InterfaceStyle style)
 {
@@ -66,19 +60,19 @@ double UIScreen::scale() const
     return screenSettings().scale;
 }
 
-void registerUIScreen()
-{
-    Binder<UITraitCollection>("UITraitCollection", "NSObject")
-        .classMethod<"currentTraitCollection", &currentTraits>()
+static const StandInClass uiTraitCollection("UITraitCollection", "NSObject", [](Binder<UITraitCollection>& binder) {
+    binder.classMethod<"currentTraitCollection", &currentTraits>()
         .readonly<"userInterfaceStyle", &UITraitCollection::style>()
         .readonly<"displayScale", &UITraitCollection::displayScale>()
         .add();
-    Binder<UIScreen>("UIScreen", "NSObject")
-        .classMethod<"mainScreen", &mainScreen>()
+});
+
+static const StandInClass uiScreen("UIScreen", "NSObject", [](Binder<UIScreen>& binder) {
+    binder.classMethod<"mainScreen", &sharedObject<UI::Screen>>()
         .def<"bounds", &UIScreen::bounds>()
         .def<"scale", &UIScreen::scale>()
         .def<"traitCollection", &UIScreen::traitCollection>()
         .add();
-}
+});
 
 }

@@ -30,6 +30,4 @@ struct UIScreen : StandIn {
     NS::Object traitCollection() const { return currentTraits(); }
 };
 
-void registerUIScreen();
-
 }

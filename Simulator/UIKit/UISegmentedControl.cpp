@@ -2,7 +2,7 @@
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Device/DeviceState.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
 #include "Simulator/UIKit/NSTextAttachment.hpp"
@@ -264,11 +264,9 @@ void UISegmentedControl::describe(nlohmann::json& description) const
     description["selected"] = selectedSegmentIndex;
 }
 
-void registerUISegmentedControl()
-{
+static const StandInClass uiSegmentedControl("UISegmentedControl", "UIControl", [](Binder<UISegmentedControl>& binder) {
     using Control = UISegmentedControl;
-    Binder<Control>("UISegmentedControl", "UIControl")
-        .init<"initWithItems:", &Control::initWithItems>()
+    binder.init<"initWithItems:", &Control::initWithItems>()
         .def<"sizeThatFits:", &Control::sizeThatFits>()
         .def<"intrinsicContentSize", &Control::intrinsicContentSize>()
         .def<"numberOfSegments", &Control::numberOfSegments>()
@@ -283,8 +281,8 @@ void registerUISegmentedControl()
         .readonly<"selectedSegmentIndex", &Control::selectedSegmentIndex>()
         .def<"setSelectedSegmentIndex:", &Control::setSelectedSegmentIndex>()
         .property<"selectedSegmentTintColor", "setSelectedSegmentTintColor:", &Control::selectedSegmentTint>()
-        .property<"apportionsSegmentWidthsByContent", "setApportionsSegmentWidthsByContent:",
-            &Control::apportionsSegmentWidthsByContent>()
+        .property<"apportionsSegmentWidthsByContent",
+            "setApportionsSegmentWidthsByContent:", &Control::apportionsSegmentWidthsByContent>()
         .def<"titleTextAttributesForState:", &Control::titleTextAttributes>()
         .def<"setTitleTextAttributes:forState:", &Control::setTitleTextAttributes>()
         .def<"beginTrackingWithTouch:withEvent:", &Control::beginTracking>()
@@ -292,6 +290,6 @@ void registerUISegmentedControl()
         .def<"endTrackingWithTouch:withEvent:", &Control::endTracking>()
         .def<"cancelTrackingWithEvent:", &Control::cancelTracking>()
         .add();
-}
+});
 
 }

@@ -60,6 +60,4 @@ private:
     long pressedIndex = UI::SegmentedControl::noSegment;
 };
 
-void registerUISegmentedControl();
-
 }

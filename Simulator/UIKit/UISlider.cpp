@@ -1,7 +1,7 @@
 #include "Simulator/UIKit/UISlider.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
 #include "Simulator/UIKit/UITouch.hpp"
@@ -156,11 +156,9 @@ void UISlider::describe(nlohmann::json& description) const
     description["maximum"] = maximumValue;
 }
 
-void registerUISlider()
-{
+static const StandInClass uiSlider("UISlider", "UIControl", [](Binder<UISlider>& binder) {
     using Slider = UISlider;
-    Binder<Slider>("UISlider", "UIControl")
-        .def<"sizeThatFits:", &Slider::sizeThatFits>()
+    binder.def<"sizeThatFits:", &Slider::sizeThatFits>()
         .def<"intrinsicContentSize", &Slider::intrinsicContentSize>()
         .def<"trackRectForBounds:", &Slider::trackRectForBounds>()
         .def<"thumbRectForBounds:trackRect:value:", &Slider::thumbRectForBounds>()
@@ -181,6 +179,6 @@ void registerUISlider()
         .def<"continueTrackingWithTouch:withEvent:", &Slider::continueTracking>()
         .def<"endTrackingWithTouch:withEvent:", &Slider::endTracking>()
         .add();
-}
+});
 
 }

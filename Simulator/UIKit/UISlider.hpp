@@ -42,6 +42,4 @@ private:
     double grip = 0;
 };
 
-void registerUISlider();
-
 }

@@ -1,7 +1,7 @@
 #include "Simulator/UIKit/UIStepper.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
 #include "Simulator/UIKit/UITouch.hpp"
 
@@ -188,11 +188,9 @@ void UIStepper::describe(nlohmann::json& description) const
     description["step"] = stepValue;
 }
 
-void registerUIStepper()
-{
+static const StandInClass uiStepper("UIStepper", "UIControl", [](Binder<UIStepper>& binder) {
     using Stepper = UIStepper;
-    Binder<Stepper>("UIStepper", "UIControl")
-        .init<"initWithFrame:", &Stepper::initWithFrame>()
+    binder.init<"initWithFrame:", &Stepper::initWithFrame>()
         .def<"setFrame:", &Stepper::setFrame>()
         .def<"sizeThatFits:", &Stepper::sizeThatFits>()
         .def<"intrinsicContentSize", &Stepper::intrinsicContentSize>()
@@ -212,6 +210,6 @@ void registerUIStepper()
         .def<"endTrackingWithTouch:withEvent:", &Stepper::endTracking>()
         .def<"cancelTrackingWithEvent:", &Stepper::cancelTracking>()
         .add();
-}
+});
 
 }

@@ -48,6 +48,4 @@ private:
     TimerId timer = 0;
 };
 
-void registerUIStepper();
-
 }

@@ -1,6 +1,6 @@
 #include "Simulator/UIKit/UITouch.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIView.hpp"
 
 namespace Simulator {
@@ -26,10 +26,8 @@ UITouch* touchOf(const NS::Object& touches)
     return standInOrNull<UITouch>(touches.send<ObjC::Object, "anyObject">());
 }
 
-void registerUITouch()
-{
-    Binder<UITouch>("UITouch", "NSObject")
-        .def<"locationInView:", &UITouch::locationInView>()
+static const StandInClass uiTouch("UITouch", "NSObject", [](Binder<UITouch>& binder) {
+    binder.def<"locationInView:", &UITouch::locationInView>()
         .def<"previousLocationInView:", &UITouch::previousLocationInView>()
         .readonly<"phase", &UITouch::phase>()
         .readonly<"timestamp", &UITouch::timestamp>()
@@ -37,10 +35,10 @@ void registerUITouch()
         .readonly<"view", &UITouch::view>()
         .readonly<"window", &UITouch::window>()
         .add();
-    Binder<UIEvent>("UIEvent", "NSObject")
-        .readonly<"allTouches", &UIEvent::allTouches>()
-        .readonly<"timestamp", &UIEvent::timestamp>()
-        .add();
-}
+});
+
+static const StandInClass uiEvent("UIEvent", "NSObject", [](Binder<UIEvent>& binder) {
+    binder.readonly<"allTouches", &UIEvent::allTouches>().readonly<"timestamp", &UIEvent::timestamp>().add();
+});
 
 }

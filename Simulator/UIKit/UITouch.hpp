@@ -34,6 +34,4 @@ struct UIEvent : StandIn {
 /// The touch of the set that comes with a touch message; null if there is none.
 UITouch* touchOf(const NS::Object& touches);
 
-void registerUITouch();
-
 }

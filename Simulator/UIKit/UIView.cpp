@@ -3,7 +3,7 @@
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/QuartzCore/LayerTransaction.hpp"
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
@@ -159,10 +159,8 @@ NS::Object UIView::traitCollection() const
     return currentTraits();
 }
 
-void registerUIView()
-{
-    Binder<UIView>("UIView", "UIResponder")
-        .init<"init", &UIView::init>()
+static const StandInClass uiView("UIView", "UIResponder", [](Binder<UIView>& binder) {
+    binder.init<"init", &UIView::init>()
         .init<"initWithFrame:", &UIView::initWithFrame>()
         .def<"frame", &UIView::frame>()
         .def<"setFrame:", &UIView::setFrame>()
@@ -238,6 +236,6 @@ void registerUIView()
         .property<"autoresizingMask", "setAutoresizingMask:", &UIView::autoresizingMask>()
         .property<"accessibilityIdentifier", "setAccessibilityIdentifier:", &UIView::accessibilityIdentifier>()
         .add();
-}
+});
 
 }

@@ -153,6 +153,4 @@ private:
 /// Lays out all views of the tree that need it, until none does.
 void layoutTree(UIView& root);
 
-void registerUIView();
-
 }

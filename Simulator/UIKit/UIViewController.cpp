@@ -1,7 +1,7 @@
 // The life of a controller and its view.
 #include "Simulator/UIKit/UIViewController.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 
 #include <algorithm>
@@ -125,7 +125,7 @@ void UIViewController::addChildViewController(const UI::ViewController& child)
     if (!added || added->parent == this)
         return;
     const auto kept = child;
-    kept.send<void, "willMoveToParentViewController:">(self());
+    kept.willMoveToParentViewController(self<UI::ViewController>());
     added->removeFromParentViewController();
     added->parent = this;
     children.push_back(kept);
@@ -137,13 +137,11 @@ void UIViewController::removeFromParentViewController()
         return;
     const auto kept = self<UI::ViewController>();
     std::erase(std::exchange(parent, nullptr)->children, kept);
-    kept.send<void, "didMoveToParentViewController:">(UI::ViewController());
+    kept.didMoveToParentViewController({});
 }
 
-void registerUIViewController()
-{
-    Binder<UIViewController>("UIViewController", "UIResponder")
-        .init<"init", &UIViewController::init>()
+static const StandInClass uiViewController("UIViewController", "UIResponder", [](Binder<UIViewController>& binder) {
+    binder.init<"init", &UIViewController::init>()
         .def<"view", &UIViewController::view>()
         .def<"setView:", &UIViewController::setView>()
         .def<"viewIfLoaded", &UIViewController::viewIfLoaded>()
@@ -171,6 +169,6 @@ void registerUIViewController()
         .property<"title", "setTitle:", &UIViewController::title>()
         .property<"modalPresentationStyle", "setModalPresentationStyle:", &UIViewController::modalPresentationStyle>()
         .add();
-}
+});
 
 }

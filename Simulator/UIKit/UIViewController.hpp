@@ -53,6 +53,4 @@ private:
     bool isLoading = false;
 };
 
-void registerUIViewController();
-
 }

@@ -3,6 +3,7 @@
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/Device/DeviceState.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 
 #include <array>
 
@@ -86,13 +87,12 @@ Graphics::LayerContent UIVisualEffectView::layerContent() const
     return Graphics::BackdropBlur{material->radius, isDark ? material->dark : material->light};
 }
 
-void registerUIVisualEffectView()
-{
-    Binder<UIBlurEffect>("UIBlurEffect", "NSObject")
-        .classMethod<"effectWithStyle:", &UIBlurEffect::effectWithStyle>()
-        .add();
-    Binder<UIVisualEffectView>("UIVisualEffectView", "UIView")
-        .init<"initWithFrame:", &UIVisualEffectView::initWithFrame>()
+static const StandInClass uiBlurEffect("UIBlurEffect", "NSObject", [](Binder<UIBlurEffect>& binder) {
+    binder.classMethod<"effectWithStyle:", &UIBlurEffect::effectWithStyle>().add();
+});
+
+static const StandInClass uiVisualEffectView("UIVisualEffectView", "UIView", [](Binder<UIVisualEffectView>& binder) {
+    binder.init<"initWithFrame:", &UIVisualEffectView::initWithFrame>()
         .init<"initWithEffect:", &UIVisualEffectView::initWithEffect>()
         .readonly<"effect", &UIVisualEffectView::effect>()
         .def<"setEffect:", &UIVisualEffectView::setEffect>()
@@ -100,6 +100,6 @@ void registerUIVisualEffectView()
         .def<"setStyle:", &UIVisualEffectView::setStyle>()
         .readonly<"contentView", &UIVisualEffectView::contentView>()
         .add();
-}
+});
 
 }

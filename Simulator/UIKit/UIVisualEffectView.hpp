@@ -37,6 +37,4 @@ struct UIVisualEffectView : UIView {
     UI::View contentView;
 };
 
-void registerUIVisualEffectView();
-
 }

@@ -1,7 +1,7 @@
 // Windows. One without a place of its own covers the screen.
 #include "Simulator/UIKit/UIWindow.hpp"
 
-#include "Simulator/Runtime/Binder.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 
 namespace Simulator {
@@ -21,15 +21,13 @@ void UIWindow::setRootViewController(const UI::ViewController& controller)
     self<UI::View>().addSubview(view);
 }
 
-void registerUIWindow()
-{
-    Binder<UIWindow>("UIWindow", "UIView")
-        .init<"init", &UIWindow::init>()
+static const StandInClass uiWindow("UIWindow", "UIView", [](Binder<UIWindow>& binder) {
+    binder.init<"init", &UIWindow::init>()
         .def<"makeKeyAndVisible", &UIWindow::makeKeyAndVisible>()
         .def<"setRootViewController:", &UIWindow::setRootViewController>()
         .readonly<"rootViewController", &UIWindow::rootViewController>()
         .property<"windowLevel", "setWindowLevel:", &UIWindow::windowLevel>()
         .add();
-}
+});
 
 }

@@ -17,6 +17,4 @@ struct UIWindow : UIView {
     InterfaceStyle announcedStyle = DeviceState::shared().style;
 };
 
-void registerUIWindow();
-
 }

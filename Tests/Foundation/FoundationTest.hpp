@@ -1,49 +1,26 @@
-// A phone of its own for each test: clock, locale, files and log as after a fresh start.
+// The fixture of the Foundation tests: seven seconds later, with one folder on the disk.
 #pragma once
 
 #include "Platform/Foundation/NSDate.hpp"
 #include "Platform/Foundation/NSString.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
-#include "Simulator/Files/PhoneFiles.hpp"
-#include "Simulator/Foundation/Foundation.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/Texts.hpp"
-#include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
-
-#include <gtest/gtest.h>
-
-#include <cstdlib>
-#include <filesystem>
-#include <memory>
-#include <string>
+#include "Tests/Support/PhoneTest.hpp"
 
 namespace Simulator {
 
 /// 2020-11-15 21:41:07 UTC, a Sunday.
-inline constexpr double evening = 627169267;
+inline constexpr double evening = sundayEvening + 7;
 
-class FoundationTest : public testing::Test {
+class FoundationTest : public PhoneTest {
 protected:
-    void SetUp() override
+    FoundationTest()
+        : PhoneTest(evening)
     {
-        registerFoundation();
-        pool = std::make_unique<ObjC::AutoreleasePool>();
-        Loop::shared().reset(evening);
-        PhoneLocale::shared() = {};
-        std::string name = testing::TempDir() + "phone-XXXXXX";
-        ASSERT_NE(::mkdtemp(name.data()), nullptr);
-        folder = name;
-        files.setRoot(folder + "/root");
-        files.clearFaults();
         files.createFolder("/Library", true);
         ActivityLog::shared().take();
-    }
-    void TearDown() override
-    {
-        Loop::shared().reset(0);
-        pool.reset();
-        std::filesystem::remove_all(folder);
     }
 
     static NS::Date date(double seconds) { return NS::Date::dateWithTimeIntervalSinceReferenceDate(seconds); }
@@ -59,8 +36,6 @@ protected:
     }
 
     PhoneFiles& files = PhoneFiles::shared();
-    std::string folder;
-    std::unique_ptr<ObjC::AutoreleasePool> pool;
 };
 
 }

@@ -28,7 +28,7 @@ protected:
 TEST_F(NSDictionaryFile, ComesBackAsItWasWritten)
 {
     ASSERT_TRUE(sample().writeToFile("/Library/colours.plist"_ns, true));
-    EXPECT_TRUE(std::filesystem::exists(folder + "/root/Library/colours.plist"));
+    EXPECT_TRUE(std::filesystem::exists(root() + "/Library/colours.plist"));
     EXPECT_TRUE((read("/Library/colours.plist").send<bool, "isEqual:">(sample())));
     const auto number = read("/Library/colours.plist").objectForKey<NS::Number>("enabled"_ns);
     EXPECT_STREQ((number.send<const char*, "objCType">()), "c");

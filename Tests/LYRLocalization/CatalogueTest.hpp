@@ -13,9 +13,8 @@ inline constexpr const char* missingText = "Transl. Err";
 
 class CatalogueTest : public Simulator::FoundationTest {
 protected:
-    void SetUp() override
+    CatalogueTest()
     {
-        FoundationTest::SetUp();
         registerLYRLocalization();
         files.createFolder(bundle, true);
     }

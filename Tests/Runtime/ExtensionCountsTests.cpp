@@ -1,6 +1,8 @@
 // The counts of what the extension does.
 #include "Simulator/Runtime/ExtensionCounts.hpp"
 
+#include "Simulator/Base/Phone.hpp"
+
 #include <gtest/gtest.h>
 
 using namespace Simulator;
@@ -9,8 +11,7 @@ namespace {
 
 class Counts : public testing::Test {
 protected:
-    Counts() { counts.take(); }
-
+    Phone phone;
     ExtensionCounts& counts = ExtensionCounts::shared();
 };
 

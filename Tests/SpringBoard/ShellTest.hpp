@@ -3,43 +3,25 @@
 
 #include "Platform/UIKit/UILabel.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
-#include "Simulator/Files/PhoneFiles.hpp"
-#include "Simulator/Foundation/Foundation.hpp"
-#include "Simulator/Loop/Loop.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
-#include "Simulator/SpringBoard/SpringBoard.hpp"
-#include "Simulator/UIKit/Registration.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/ViewDescription.hpp"
+#include "Tests/Support/PhoneTest.hpp"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
 #include <memory>
 #include <string>
 
 namespace Simulator {
 
-class ShellTest : public testing::Test {
+class ShellTest : public PhoneTest {
 protected:
+    /// The classes of another extension are there from the first phone on; each test says what it has installed.
     ShellTest()
+        : PhoneTest(sundayEvening, [] { DeviceState::shared().installed = {"Axon"}; })
     {
-        registerOnce();
-        std::string folder = (std::filesystem::temp_directory_path() / "shell-XXXXXX").string();
-        root_ = ::mkdtemp(folder.data());
-        PhoneFiles::shared().setRoot(root_);
-        PhoneLocale::shared() = {};
-        DeviceState::shared() = {};
-        Loop::shared().reset(*momentOfLocalTime("2020-11-15T21:41:00"));
-        ActivityLog::shared().take();
-    }
-    ~ShellTest() override
-    {
-        shell_.reset();
-        Loop::shared().reset(0);
-        std::filesystem::remove_all(root_);
+        DeviceState::shared().installed.clear();
     }
 
     Shell& start(CGSize size = {375, 812})
@@ -50,7 +32,6 @@ protected:
         return *shell_;
     }
     Shell& shell() { return *shell_; }
-    const std::string& root() const { return root_; }
 
     UIView* find(const std::string& identifier) { return findView(shell().window(), identifier); }
     UI::View view(const std::string& identifier)
@@ -79,20 +60,6 @@ protected:
     }
 
 private:
-    static void registerOnce()
-    {
-        static const bool registered = [] {
-            registerFoundation();
-            registerUIKit();
-            DeviceState::shared().installed = {"Axon"};
-            registerSpringBoard();
-            return true;
-        }();
-        static_cast<void>(registered);
-    }
-
-    ObjC::AutoreleasePool pool_;
-    std::string root_;
     std::unique_ptr<Shell> shell_;
 };
 

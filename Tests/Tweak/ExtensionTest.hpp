@@ -1,7 +1,6 @@
 // The fixture of tests that hold the extension's variables in their hands: a shell with the extension loaded into it.
 #pragma once
 
-#include "Simulator/Companions/Companions.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
 #include "Tests/SpringBoard/ShellTest.hpp"
 
@@ -12,7 +11,6 @@ protected:
     ExtensionTest()
     {
         static const bool loaded = [] {
-            registerCompanions();
             PhoneFiles::shared().setRoot(EXTENSION_FOLDER);
             return ExtensionLoader::shared().loadAll() == 1;
         }();

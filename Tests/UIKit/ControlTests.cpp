@@ -1,7 +1,6 @@
 #include "TouchTest.hpp"
 
 #include "Platform/UIKit/UIButton.hpp"
-#include "Simulator/UIKit/UIButton.hpp"
 #include "Simulator/UIKit/ViewDescription.hpp"
 
 namespace Simulator {

@@ -124,10 +124,10 @@ TEST_F(Images, AnAbsurdContextHasNoPicture)
 
 TEST_F(Images, ASymbolIsATemplateDrawnAtTheScreensScale)
 {
-    std::filesystem::create_directories(root + "/symbols");
-    std::ofstream(root + "/symbols/square.svg")
+    std::filesystem::create_directories(root() + "/symbols");
+    std::ofstream(root() + "/symbols/square.svg")
         << R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20"><path d="M0 0h20v20H0z"/></svg>)";
-    setUpSymbols(root + "/symbols");
+    setUpSymbols(root() + "/symbols");
     const auto symbol = UI::Image::systemImageNamed("square"_ns);
     ASSERT_TRUE(symbol);
     EXPECT_EQ(symbol.size(), (CGSize{20, 20}));

@@ -1,4 +1,4 @@
-// A phone with a file system in a temporary folder, gone when the test ends, and pictures to put there.
+// Pictures, and a phone to put them on.
 #pragma once
 
 #include "Simulator/Graphics/Image.hpp"
@@ -6,25 +6,10 @@
 
 #include <fstream>
 
-#include <cstdlib>
-#include <filesystem>
-
 namespace Simulator {
 
 class PhoneRoot : public UIKitTest {
 protected:
-    PhoneRoot()
-    {
-        std::string name = testing::TempDir() + "uikit-XXXXXX";
-        root = ::mkdtemp(name.data());
-        PhoneFiles::shared().setRoot(root);
-    }
-    ~PhoneRoot() override
-    {
-        PhoneFiles::shared().clearFaults();
-        std::filesystem::remove_all(root);
-    }
-
     /// A PNG of one colour, given as premultiplied red, green, blue, alpha.
     static std::vector<std::byte> png(int width, int height, std::array<std::uint8_t, 4> color = {255, 0, 0, 255})
     {
@@ -41,8 +26,6 @@ protected:
     {
         return NS::Data::dataWithBytes(bytes.data(), bytes.size());
     }
-
-    std::string root;
 };
 
 }

@@ -19,14 +19,11 @@ class TouchTest : public UIKitTest {
 protected:
     TouchTest()
     {
-        Finger::shared().cancel();
-        Loop::shared().reset(0);
         setUpSymbols(LYR_SYMBOLS);
         calls().clear();
         window = makeWindow();
         listener = makeListener();
     }
-    ~TouchTest() override { Finger::shared().cancel(); }
 
     /// What the listener was sent since the last call.
     static Calls takeCalls() { return std::exchange(calls(), {}); }

@@ -1,4 +1,4 @@
-// The fixture of the UIKit tests: the classes registered once, a light screen of 375 × 812 points, a pool per test.
+// The fixture of the UIKit tests: a phone with a light screen of 375 × 812 points.
 #pragma once
 
 #include "Platform/Foundation/CFBase.hpp"
@@ -7,12 +7,11 @@
 #include "Platform/UIKit/UILabel.hpp"
 #include "Platform/UIKit/UIViewController.hpp"
 #include "Simulator/CoreGraphics/Fonts.hpp"
-#include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
-#include "Simulator/UIKit/Registration.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/UIWindow.hpp"
+#include "Tests/Support/PhoneTest.hpp"
 
 #include <gtest/gtest.h>
 
@@ -20,16 +19,8 @@
 
 namespace Simulator {
 
-class UIKitTest : public ::testing::Test {
+class UIKitTest : public PhoneTest {
 protected:
-    UIKitTest()
-    {
-        registerUIKit();
-        pool.emplace();
-        DeviceState::shared() = {};
-        ActivityLog::shared().take();
-    }
-
     static UI::View makeView(CGRect frame = {}) { return UI::View::make<"initWithFrame:">(frame); }
     static UI::Label makeLabel(CGRect frame = {}) { return UI::Label::make<"initWithFrame:">(frame); }
     static UI::View makeWindow()
@@ -43,8 +34,6 @@ protected:
     static UIWindow& windowOf(const UI::View& window) { return standIn<UIWindow>(window.raw()); }
     static UIView& viewOf(const UI::View& view) { return standIn<UIView>(view.raw()); }
     static std::string textOf(const NS::String& text) { return std::string(text.utf8()); }
-
-    std::optional<ObjC::AutoreleasePool> pool;
 };
 
 }

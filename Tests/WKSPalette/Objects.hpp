@@ -4,7 +4,7 @@
 #include "Platform/Foundation/NSData.hpp"
 #include "Platform/UIKit/UIImage.hpp"
 #include "Simulator/Graphics/Image.hpp"
-#include "Simulator/UIKit/Registration.hpp"
+#include "Tests/Support/PhoneTest.hpp"
 #include "WKSPalette/WKSColorUtils.hpp"
 
 #include <gtest/gtest.h>
@@ -23,14 +23,9 @@ public:
 };
 
 /// A test that may send messages.
-class ObjectTest : public testing::Test {
+class ObjectTest : public Simulator::PhoneTest {
 protected:
-    static void SetUpTestSuite()
-    {
-        Simulator::registerUIKit();
-        registerWKSPalette();
-    }
-    ObjC::AutoreleasePool pool;
+    ObjectTest() { registerWKSPalette(); }
 };
 
 /// A PNG of the colours 0xAARRGGBB, alpha premultiplied.

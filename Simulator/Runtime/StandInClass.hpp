@@ -1,0 +1,60 @@
+// The row by which a stand-in class is known. It stands in the class's own source, beside what it names:
+//
+//     static const StandInClass uiWindow("UIWindow", "UIView", [](Binder<UIWindow>& binder) {
+//         binder.init<"init", &UIWindow::init>()
+//             .def<"makeKeyAndVisible", &UIWindow::makeKeyAndVisible>()
+//             .add();
+//     });
+//
+// Nothing refers to a row, so a program with a phone in it links the whole of each library that has some.
+#pragma once
+
+#include "Simulator/Runtime/Binder.hpp"
+
+namespace Simulator {
+
+/// What is registered once in a process, when the first phone starts. The rows of the whole program find one another
+/// before main.
+class StandInRow {
+public:
+    StandInRow(const StandInRow&) = delete;
+    StandInRow& operator=(const StandInRow&) = delete;
+
+protected:
+    using Add = void (*)(const char* name, const char* superclass);
+    using Condition = bool (*)();
+
+    /// A row without a superclass mends a class that is there already, and comes before all stand-ins.
+    StandInRow(const char* name, const char* superclass, Add add, Condition condition);
+
+private:
+    friend class StandInRows;
+
+    const char* const name_;
+    const char* const superclass_;
+    const Add add_;
+    const Condition condition_;
+    const StandInRow* const next_;
+};
+
+class StandInClass : StandInRow {
+public:
+    /// `rows` takes the class's binder and ends with `.add()`. With a condition, the class is there only on a phone for
+    /// which that holds at the start.
+    template <class Rows>
+    StandInClass(const char* name, const char* superclass, Rows, Condition condition = nullptr)
+        : StandInRow(
+            name, superclass, [](const char* own, const char* super) { bind(+Rows(), own, super); }, condition)
+    {
+    }
+
+private:
+    template <class T>
+    static void bind(void (*rows)(Binder<T>&), const char* name, const char* superclass)
+    {
+        Binder<T> binder(name, superclass);
+        rows(binder);
+    }
+};
+
+}
