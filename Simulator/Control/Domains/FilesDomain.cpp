@@ -1,8 +1,8 @@
 // file.*: the phone's files, by a tester's hand.
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
-#include "Platform/Foundation/NSData.hpp"
 #include "Simulator/Companions/PropertyListValues.hpp"
+#include "Simulator/Control/Base64.hpp"
 #include "Simulator/Control/PropertyList.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 
@@ -26,18 +26,6 @@ constexpr std::array faults{FaultName{"EACCES", EACCES}, FaultName{"ENOSPC", ENO
     if (error == ENOENT || error == ENOTDIR)
         throwNotFound(message);
     throw ProtocolError(ErrorCode::Internal, message);
-}
-
-std::string toBase64(const std::string& bytes)
-{
-    auto data = NS::Data::dataWithBytes(bytes.data(), bytes.size());
-    return std::string(data.send<NS::String, "base64EncodedStringWithOptions:">(0UL).utf8());
-}
-
-std::string fromBase64(const std::string& text)
-{
-    auto data = NS::Data::make<"initWithBase64EncodedString:options:">(NS::String::fromUTF8(text), 0UL);
-    return std::string(static_cast<const char*>(data.bytes()), data.length());
 }
 
 Json readFile(const std::string& path)

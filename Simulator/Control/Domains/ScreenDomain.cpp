@@ -1,7 +1,7 @@
 // screen.*: pictures of the screen.
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
-#include "Platform/Foundation/NSData.hpp"
+#include "Simulator/Control/Base64.hpp"
 #include "Simulator/Control/OutputFile.hpp"
 #include "Simulator/Control/Shell.hpp"
 #include "Simulator/Control/Types.hpp"
@@ -27,8 +27,7 @@ void addScreenMethods(PhoneContext& context)
             writeFile(parameters.at("path"), png);
             return Json::object();
         }
-        auto data = NS::Data::dataWithBytes(png.data(), png.size());
-        return Json{{"base64", data.send<NS::String, "base64EncodedStringWithOptions:">(0UL).utf8()}};
+        return Json{{"base64", toBase64({reinterpret_cast<const char*>(png.data()), png.size()})}};
     });
     const Method draw{std::string(drawMessage), {{"path", nonEmptyText(), Presence::Required}}};
     context.add(draw, [&context](const Json& parameters) {
