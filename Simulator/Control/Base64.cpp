@@ -1,3 +1,4 @@
+// By the library that Pango brings along.
 #include "Simulator/Control/Base64.hpp"
 
 #include <glib.h>

@@ -1,3 +1,4 @@
+// A descriptor is waited for with poll.
 #include "Simulator/Control/Wait.hpp"
 
 #include <cerrno>

@@ -1,3 +1,4 @@
+// Lets in whoever comes from the page, and gives the page its files.
 #include "Simulator/Preview/Answers.hpp"
 
 #include "Simulator/Preview/Origin.hpp"

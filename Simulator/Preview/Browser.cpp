@@ -1,3 +1,4 @@
+// Reads requests, answers them, and says one thing after another.
 #include "Simulator/Preview/Browser.hpp"
 
 namespace Simulator::Preview {

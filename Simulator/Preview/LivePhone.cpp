@@ -1,3 +1,4 @@
+// Passes calls on to the supervisor, and answers the preview's own.
 #include "Simulator/Preview/LivePhone.hpp"
 
 #include "Simulator/Preview/Look.hpp"

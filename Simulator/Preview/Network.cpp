@@ -1,3 +1,4 @@
+// HTTP, WebSockets and waiting, by the network library.
 #include "Simulator/Preview/Network.hpp"
 
 #include <boost/asio/ip/tcp.hpp>
@@ -6,6 +7,8 @@
 #include <boost/beast/core.hpp>
 #include <boost/beast/http.hpp>
 #include <boost/beast/websocket.hpp>
+#include <stdexcept>
+#include <unistd.h>
 
 namespace Simulator::Preview {
 
