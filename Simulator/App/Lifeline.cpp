@@ -1,7 +1,9 @@
 // Signals by a descriptor, and hang-ups of the standard streams.
 #include "Simulator/App/Lifeline.hpp"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>

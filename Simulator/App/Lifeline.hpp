@@ -1,9 +1,11 @@
 // What a long-running command lives by: it ends on a signal, and when nobody is left who could read its replies.
 #pragma once
 
-#include "Simulator/Control/Channel.hpp"
+#include "Simulator/Files/Descriptor.hpp"
 
 #include <chrono>
+#include <initializer_list>
+#include <optional>
 
 namespace Simulator::App {
 

@@ -21,12 +21,6 @@ bool mustWait()
 
 }
 
-void waitForever(int descriptor, short events)
-{
-    pollfd entry{descriptor, events, 0};
-    while (poll(&entry, 1, -1) < 0 && errno == EINTR) { }
-}
-
 Channel::Channel(Descriptor descriptor, Wait wait)
     : _descriptor(std::move(descriptor))
     , _wait(std::move(wait))

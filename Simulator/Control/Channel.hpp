@@ -4,12 +4,9 @@
 #include "Simulator/Base/Descriptor.hpp"
 #include "Simulator/Control/Envelope.hpp"
 #include "Simulator/Control/LineReader.hpp"
+#include "Simulator/Control/Wait.hpp"
 
 namespace Simulator::Control {
-
-// Blocks until the descriptor is ready for the poll events; may throw to give up.
-using Wait = std::function<void(int descriptor, short events)>;
-void waitForever(int descriptor, short events);
 
 class Channel {
 public:

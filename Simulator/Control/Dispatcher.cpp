@@ -3,8 +3,6 @@
 
 #include "Simulator/Control/Methods.hpp"
 
-#include <algorithm>
-
 namespace Simulator::Control {
 
 void Dispatcher::add(const Method& method, Handler handler)
@@ -16,12 +14,10 @@ void Dispatcher::add(const Method& method, Handler handler)
 
 void Dispatcher::add(const std::string& protocolMethod, Handler handler)
 {
-    const auto& methods = protocolMethods();
-    const auto found = std::find_if(
-        methods.begin(), methods.end(), [&](const Method& method) { return method.name == protocolMethod; });
-    if (found == methods.end())
+    const Method* const method = methodNamed(protocolMethod);
+    if (!method)
         throw std::logic_error("the protocol has no method " + protocolMethod);
-    add(*found, std::move(handler));
+    add(*method, std::move(handler));
 }
 
 Json Dispatcher::call(const std::string& method, const Json& parameters) const

@@ -11,6 +11,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
+#include <stdexcept>
 
 namespace Simulator::Control {
 

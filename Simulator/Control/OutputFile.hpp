@@ -2,9 +2,13 @@
 // pipe is written to; what may not be written stays as it is.
 #pragma once
 
-#include "Simulator/Control/Channel.hpp"
+#include "Simulator/Control/Wait.hpp"
+#include "Simulator/Files/Descriptor.hpp"
 
 #include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
 #include <sys/stat.h>
 
 namespace Simulator::Control {

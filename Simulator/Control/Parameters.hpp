@@ -27,11 +27,15 @@ struct Parameter {
     std::string name;
     Type type;
     Presence presence = Presence::Optional;
+    std::string meaning = {}; // for the documentation
 };
 
+// A row of a table of methods, its documentation with it, in Markdown.
 struct Method {
     std::string name;
-    Schema parameters;
+    Schema parameters = {};
+    std::string answers = {}; // the members of the result
+    std::string does = {};
 };
 
 // "level, state, lowPower"

@@ -2,9 +2,10 @@
 // and alpha. It is divided into square tiles, and only those that differ are written and sent on.
 #pragma once
 
-#include "Simulator/Control/Channel.hpp"
+#include "Simulator/Files/Descriptor.hpp"
 
 #include <cstdint>
+#include <string>
 #include <vector>
 
 namespace Simulator::Control {

@@ -8,7 +8,7 @@
 #include <chrono>
 #include <cmath>
 #include <filesystem>
-#include <regex>
+#include <unicode/regex.h>
 #include <unicode/ucal.h>
 #include <unicode/unistr.h>
 #include <unistd.h>
@@ -106,9 +106,14 @@ bool isTimeZone(const std::string& name)
 // "en", "en_US", "zh-Hans-CN", "ar_SA@calendar=gregorian".
 bool isLocale(const std::string& name)
 {
-    static const std::regex form("[A-Za-z]{2,8}([-_][A-Za-z0-9]{1,8})*(@[a-z]+=[A-Za-z0-9-]+(;[a-z]+=[A-Za-z0-9-]+)*)?");
     constexpr std::size_t longest = 120;
-    return name.size() <= longest && std::regex_match(name, form);
+    if (name.size() > longest)
+        return false;
+    UErrorCode status = U_ZERO_ERROR;
+    const auto wide = icu::UnicodeString::fromUTF8(name);
+    icu::RegexMatcher form(
+        u"[A-Za-z]{2,8}([-_][A-Za-z0-9]{1,8})*(@[a-z]+=[A-Za-z0-9-]+(;[a-z]+=[A-Za-z0-9-]+)*)?", wide, 0, status);
+    return form.matches(status) && U_SUCCESS(status);
 }
 
 // A property list has no null, and its texts end at a NUL.

@@ -1,16 +1,11 @@
+// Reads requests, answers them, and says one thing after another.
 #include "Simulator/Preview/Browser.hpp"
-
-#include "Simulator/Control/Parameters.hpp"
 
 namespace Simulator::Preview {
 
-namespace beast = boost::beast;
-namespace websocket = beast::websocket;
 using namespace Control;
 
 namespace {
-
-constexpr std::size_t longestRequest = std::size_t(64) << 20;
 
 std::shared_ptr<const std::string> shared(std::string text)
 {
@@ -19,51 +14,50 @@ std::shared_ptr<const std::string> shared(std::string text)
 
 }
 
-Browser::Browser(beast::tcp_stream stream, Host& host)
-    : _stream(std::move(stream))
+Browser::Browser(std::unique_ptr<WebSocket> socket, Host& host)
+    : _socket(std::move(socket))
     , _host(host)
 {
+    _own.add("screen.follow", [this](const Json&) {
+        _follows = true;
+        _awaitsShown = false;
+        _frame.reset();
+        _host.wantsAll(*this);
+        return Json::object();
+    });
+    _own.add("screen.shown", [this](const Json&) {
+        _awaitsShown = false;
+        _host.wantsFrame();
+        return Json::object();
+    });
 }
 
-void Browser::accept(const HttpRequest& request)
+void Browser::enter()
 {
-    auto timeouts = websocket::stream_base::timeout::suggested(beast::role_type::server);
-    timeouts.keep_alive_pings = true;
-    beast::get_lowest_layer(_stream).expires_never();
-    _stream.set_option(timeouts);
-    _stream.read_message_max(longestRequest);
-    // A frame of several megabytes in pieces of a few kilobytes takes many times as long.
-    _stream.auto_fragment(false);
-    _stream.async_accept(request, [self = shared_from_this()](beast::error_code error) {
-        if (error)
-            return;
-        self->_host.entered(self);
-        self->tellStanding();
-        self->read();
-    });
+    tellStanding();
+    read();
 }
 
 void Browser::leave()
 {
     _isOpen = false;
-    beast::get_lowest_layer(_stream).close();
+    _socket->close();
     _host.left(*this);
 }
 
 void Browser::read()
 {
-    _stream.async_read(
-        _arrived, [self = shared_from_this()](beast::error_code error, std::size_t) { self->onRead(error); });
+    _socket->read(
+        [self = shared_from_this()](std::optional<std::string> request) { self->onRead(std::move(request)); });
 }
 
 // The next request is read when the reply to this one is on its way, so that no replies pile up.
-void Browser::onRead(beast::error_code error)
+void Browser::onRead(std::optional<std::string> request)
 {
-    if (error)
+    if (!request)
         return leave();
-    auto reply = answerLine(beast::buffers_to_string(_arrived.data()),
-        [this](const std::string& method, const Json& parameters) { return call(method, parameters); });
-    _arrived.consume(_arrived.size());
+    auto reply = answerLine(
+        *request, [this](const std::string& method, const Json& parameters) { return call(method, parameters); });
     if (!reply)
         return read();
     _reply = shared(std::move(*reply));
@@ -72,23 +66,7 @@ void Browser::onRead(beast::error_code error)
 
 Json Browser::call(const std::string& method, const Json& parameters)
 {
-    static const Method follow{"screen.follow", {}};
-    static const Method shown{"screen.shown", {}};
-    if (method == follow.name) {
-        checkParameters(follow, parameters);
-        _follows = true;
-        _awaitsShown = false;
-        _frame.reset();
-        _host.wantsAll(*this);
-        return Json::object();
-    }
-    if (method == shown.name) {
-        checkParameters(shown, parameters);
-        _awaitsShown = false;
-        _host.wantsFrame();
-        return Json::object();
-    }
-    return _host.call(method, parameters);
+    return _own.knows(method) ? _own.call(method, parameters) : _host.call(method, parameters);
 }
 
 void Browser::send(std::shared_ptr<const std::string> frame)
@@ -138,15 +116,14 @@ void Browser::write()
         return;
     _written = std::move(*outgoing);
     _isWriting = true;
-    _stream.binary(_written.kind == Outgoing::Kind::Frame);
-    _stream.async_write(boost::asio::buffer(*_written.bytes),
-        [self = shared_from_this()](beast::error_code error, std::size_t) { self->onWritten(error); });
+    const auto form = _written.kind == Outgoing::Kind::Frame ? WebSocket::Form::Binary : WebSocket::Form::Text;
+    _socket->write(*_written.bytes, form, [self = shared_from_this()](bool isTaken) { self->onWritten(isTaken); });
 }
 
-void Browser::onWritten(beast::error_code error)
+void Browser::onWritten(bool isTaken)
 {
     _isWriting = false;
-    if (error)
+    if (!isTaken)
         return leave();
     _written.bytes.reset();
     if (_written.kind == Outgoing::Kind::Reply)

@@ -2,16 +2,11 @@
 // does not pile up: a frame waits until the last one was shown, news are sent as they stand when their turn comes.
 #pragma once
 
+#include "Simulator/Control/Dispatcher.hpp"
+#include "Simulator/Preview/Network.hpp"
 #include "Simulator/Preview/Tiles.hpp"
 
-#include <boost/beast/core.hpp>
-#include <boost/beast/http.hpp>
-#include <boost/beast/websocket.hpp>
-#include <memory>
-
 namespace Simulator::Preview {
-
-using HttpRequest = boost::beast::http::request<boost::beast::http::empty_body>;
 
 class Browser : public std::enable_shared_from_this<Browser> {
 public:
@@ -23,15 +18,15 @@ public:
         // It can take a frame now; or wants the whole screen first.
         virtual void wantsFrame() = 0;
         virtual void wantsAll(Browser&) = 0;
-        virtual void entered(std::shared_ptr<Browser>) = 0;
         virtual void left(Browser&) = 0;
 
     protected:
         ~Host() = default;
     };
 
-    Browser(boost::beast::tcp_stream, Host&);
-    void accept(const HttpRequest&);
+    Browser(std::unique_ptr<WebSocket>, Host&);
+    // Tells how the phone stands, and serves requests from there.
+    void enter();
 
     // It follows the screen, and has shown what it was sent.
     bool isReady() const { return _follows && !_awaitsShown; }
@@ -52,15 +47,15 @@ private:
 
     void leave();
     void read();
-    void onRead(boost::beast::error_code);
+    void onRead(std::optional<std::string> request);
     Control::Json call(const std::string& method, const Control::Json& parameters);
     void write();
-    void onWritten(boost::beast::error_code);
+    void onWritten(bool isTaken);
     std::optional<Outgoing> next();
 
-    boost::beast::websocket::stream<boost::beast::tcp_stream> _stream;
+    std::unique_ptr<WebSocket> _socket;
     Host& _host;
-    boost::beast::flat_buffer _arrived;
+    Control::Dispatcher _own;
     std::shared_ptr<const std::string> _reply;
     std::shared_ptr<const std::string> _frame;
     Outgoing _written;

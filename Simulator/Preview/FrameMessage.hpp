@@ -2,6 +2,7 @@
 // and the parts' pixels one after another: rows of red, green, blue and alpha.
 #pragma once
 
+#include "Simulator/Control/Envelope.hpp"
 #include "Simulator/Preview/Tiles.hpp"
 
 namespace Simulator::Preview {

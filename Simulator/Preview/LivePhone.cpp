@@ -1,35 +1,22 @@
+// Passes calls on to the supervisor, and answers the preview's own.
 #include "Simulator/Preview/LivePhone.hpp"
 
-#include "Simulator/Control/Methods.hpp"
-#include "Simulator/Control/RootFolder.hpp"
-#include "Simulator/Control/Types.hpp"
 #include "Simulator/Preview/Look.hpp"
-
-#include <algorithm>
 
 namespace Simulator::Preview {
 
 using namespace Control;
-
-namespace {
-
-// As `device.set` takes it.
-Parameter weatherParameter()
-{
-    const Schema device = deviceParameters();
-    Parameter weather = *std::find_if(
-        device.begin(), device.end(), [](const Parameter& parameter) { return parameter.name == "weather"; });
-    weather.presence = Presence::Required;
-    return weather;
-}
-
-}
 
 LivePhone::LivePhone(Supervisor& supervisor, std::string root, WithGlyph withGlyph)
     : _supervisor(supervisor)
     , _root(std::move(root))
     , _withGlyph(std::move(withGlyph))
 {
+    _own.add("look.get", [this](const Json&) { return Json{{"look", readLook(_root)}}; });
+    _own.add("look.set", [this](const Json& parameters) { return setLook(parameters.at("look")); });
+    _own.add("weather.glyph", [this](const Json& parameters) {
+        return Json{{"weather", weatherNow(parameters.at("weather"))}};
+    });
 }
 
 void LivePhone::start(Json parameters)
@@ -41,9 +28,6 @@ void LivePhone::start(Json parameters)
 
 Json LivePhone::call(const std::string& method, const Json& parameters)
 {
-    static const Method getLook{"look.get", {}};
-    static const Method setLookMethod{"look.set", {{"look", anything(), Presence::Required}}};
-    static const Method glyph{"weather.glyph", {weatherParameter()}};
     if (method == "phone.start") {
         if (parameters.contains("root"))
             throw ProtocolError(
@@ -51,18 +35,8 @@ Json LivePhone::call(const std::string& method, const Json& parameters)
         start(parameters);
         return Json::object();
     }
-    if (method == getLook.name) {
-        checkParameters(getLook, parameters);
-        return {{"look", readLook(_root)}};
-    }
-    if (method == setLookMethod.name) {
-        checkParameters(setLookMethod, parameters);
-        return setLook(parameters.at("look"));
-    }
-    if (method == glyph.name) {
-        checkParameters(glyph, parameters);
-        return {{"weather", weatherNow(parameters.at("weather"))}};
-    }
+    if (_own.knows(method))
+        return _own.call(method, parameters);
     return _supervisor.call(method, parameters);
 }
 

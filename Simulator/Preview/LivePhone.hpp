@@ -49,6 +49,7 @@ private:
     Control::Supervisor& _supervisor;
     std::string _root;
     WithGlyph _withGlyph;
+    Control::Dispatcher _own;
     Control::SharedFrame _frame;
     Control::Json _screen;
     double _secondsDrawn = 0;

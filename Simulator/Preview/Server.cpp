@@ -2,20 +2,16 @@
 #include "Simulator/Preview/Server.hpp"
 
 #include "Simulator/Control/RootFolder.hpp"
-#include "Simulator/Preview/Connection.hpp"
+#include "Simulator/Preview/Answers.hpp"
+#include "Simulator/Preview/Browser.hpp"
 #include "Simulator/Preview/FileWatch.hpp"
 #include "Simulator/Preview/FrameMessage.hpp"
 
 #include <algorithm>
-#include <boost/asio/ip/tcp.hpp>
-#include <boost/asio/posix/stream_descriptor.hpp>
-#include <boost/asio/steady_timer.hpp>
 #include <set>
 
 namespace Simulator::Preview {
 
-namespace asio = boost::asio;
-using asio::ip::tcp;
 using namespace Control;
 
 namespace {
@@ -36,22 +32,17 @@ class Server final : public Browser::Host {
 public:
     Server(Supervisor::Options options, const ServerOptions& given);
 
-    void run() { _io.run(); }
+    void run() { _network.run(); }
 
 private:
     Supervisor::Options withLog(Supervisor::Options);
-    tcp::acceptor listen(unsigned short port);
-    void acceptNext();
-
-    void watchInterruption();
+    Network::Service service();
     void watchShell();
-    void watchStored();
 
     Json call(const std::string& method, const Json& parameters) override;
     Json standing() const override { return _phone->standing(); }
     void wantsFrame() override { schedule(); }
     void wantsAll(Browser&) override;
-    void entered(std::shared_ptr<Browser>) override;
     void left(Browser& browser) override;
 
     // After anything that the phone did.
@@ -64,18 +55,15 @@ private:
     void sendFrames();
 
     const ServerOptions& _options;
-    asio::io_context _io{1};
-    tcp::acceptor _acceptor;
+    Network _network;
     unsigned short _port;
     std::unique_ptr<LivePhone> _phone;
     Supervisor _supervisor;
-    asio::posix::stream_descriptor _interruption{_io};
-    asio::posix::stream_descriptor _shell{_io};
-    asio::posix::stream_descriptor _stored{_io};
     std::unique_ptr<FileWatch> _watch;
-    asio::steady_timer _timer{_io};
-    asio::steady_timer _refreshTimer{_io};
-    asio::steady_timer::time_point _lastDrawn{};
+    std::unique_ptr<Network::Watch> _interruption;
+    std::unique_ptr<Network::Watch> _shell;
+    std::unique_ptr<Network::Watch> _stored;
+    Network::Clock::time_point _lastDrawn{};
     std::set<std::shared_ptr<Browser>> _browsers;
     Json _told; // how the phone stood when the browsers were last told
     Json _times = Json::object(); // of the frame that is due, as the page has them
@@ -88,8 +76,7 @@ private:
 
 Server::Server(Supervisor::Options options, const ServerOptions& given)
     : _options(given)
-    , _acceptor(listen(given.port))
-    , _port(_acceptor.local_endpoint().port())
+    , _port(_network.listen(given.port))
     , _supervisor(withLog(std::move(options)))
 {
     _phone = std::make_unique<LivePhone>(_supervisor, given.root, given.withGlyph);
@@ -99,12 +86,10 @@ Server::Server(Supervisor::Options options, const ServerOptions& given)
     _watch = std::make_unique<FileWatch>(preferences.string(),
         std::vector{std::filesystem::path(settingsPath).filename().string(),
             std::filesystem::path(coloursPath).filename().string()});
-    _stored.assign(dup(_watch->descriptor()));
-    _interruption.assign(dup(given.interruption));
-    watchInterruption();
-    watchStored();
+    _stored = _network.watch(_watch->descriptor(), [this] { attend(); });
+    _interruption = _network.watch(given.interruption, given.interrupt);
     attend();
-    acceptNext();
+    _network.serve(service());
     given.ready("http://127.0.0.1:" + std::to_string(_port) + "/");
 }
 
@@ -119,57 +104,26 @@ Supervisor::Options Server::withLog(Supervisor::Options options)
     return options;
 }
 
-tcp::acceptor Server::listen(unsigned short port)
+Network::Service Server::service()
 {
-    const tcp::endpoint here(asio::ip::address_v4::loopback(), port);
-    try {
-        return tcp::acceptor(_io, here);
-    } catch (const boost::system::system_error& error) {
-        throw std::runtime_error("port " + std::to_string(port) + " cannot be had: " + error.code().message()
-            + "; without --port any free one is taken");
-    }
-}
-
-void Server::acceptNext()
-{
-    _acceptor.async_accept([this](boost::system::error_code error, tcp::socket socket) {
-        if (!error && _browsers.size() < mostBrowsers) {
-            boost::system::error_code ignored;
-            socket.set_option(tcp::no_delay(true), ignored);
-            serveConnection(boost::beast::tcp_stream(std::move(socket)), _options.page, _port,
-                [this](boost::beast::tcp_stream stream, const HttpRequest& request) {
-                    std::make_shared<Browser>(std::move(stream), *this)->accept(request);
-                });
-        }
-        acceptNext();
-    });
-}
-
-void Server::watchInterruption()
-{
-    _interruption.async_wait(asio::posix::descriptor_base::wait_read, [this](boost::system::error_code) {
-        _options.interrupt();
-        watchInterruption();
-    });
+    return {.hasRoom = [this] { return _browsers.size() < mostBrowsers; },
+        .answer = [this](const Request& request) { return answerTo(request, _options.page, _port); },
+        .entered =
+            [this](std::unique_ptr<WebSocket> socket) {
+                const auto browser = std::make_shared<Browser>(std::move(socket), *this);
+                _browsers.insert(browser);
+                browser->enter();
+            }};
 }
 
 void Server::watchShell()
 {
-    _shell.async_wait(asio::posix::descriptor_base::wait_read, [this](boost::system::error_code error) {
-        if (error)
-            return;
+    _shell.reset();
+    if (_phone->descriptor() < 0)
+        return;
+    _shell = _network.watch(_phone->descriptor(), [this] {
         _phone->notice();
         attend();
-        if (_shell.is_open())
-            watchShell();
-    });
-}
-
-void Server::watchStored()
-{
-    _stored.async_wait(asio::posix::descriptor_base::wait_read, [this](boost::system::error_code) {
-        attend();
-        watchStored();
     });
 }
 
@@ -188,11 +142,6 @@ Json Server::call(const std::string& method, const Json& parameters)
     }
 }
 
-void Server::entered(std::shared_ptr<Browser> browser)
-{
-    _browsers.insert(std::move(browser));
-}
-
 void Server::left(Browser& browser)
 {
     _browsers.erase(browser.shared_from_this());
@@ -206,13 +155,8 @@ void Server::wantsAll(Browser& browser)
 
 void Server::attend()
 {
-    if (std::exchange(_process, _phone->process()) != _phone->process()) {
-        _shell.close();
-        if (_phone->descriptor() >= 0) {
-            _shell.assign(dup(_phone->descriptor()));
-            watchShell();
-        }
-    }
+    if (std::exchange(_process, _phone->process()) != _phone->process())
+        watchShell();
     // The shell process writes before it answers, so that what a call has stored is seen right after it.
     if (_watch->tookPlace()) {
         refreshClock();
@@ -231,8 +175,7 @@ void Server::refreshClock()
         return;
     _isRefreshing = true;
     _phone->refresh();
-    _refreshTimer.expires_after(refreshInterval);
-    _refreshTimer.async_wait([this](boost::system::error_code) {
+    _network.at(Network::Clock::now() + refreshInterval, [this] {
         _isRefreshing = false;
         if (_wantsRefresh)
             refreshClock();
@@ -258,8 +201,7 @@ void Server::schedule()
     if (_isScheduled || std::none_of(_browsers.begin(), _browsers.end(), isDue))
         return;
     _isScheduled = true;
-    _timer.expires_at(_lastDrawn + frameInterval);
-    _timer.async_wait([this](boost::system::error_code) {
+    _network.at(_lastDrawn + frameInterval, [this] {
         _isScheduled = false;
         showScreen();
     });
@@ -275,7 +217,7 @@ void Server::showScreen()
 
 void Server::draw()
 {
-    _lastDrawn = asio::steady_timer::clock_type::now();
+    _lastDrawn = Network::Clock::now();
     _times["asked"] = now();
     try {
         const auto tiles = _phone->draw();

@@ -1,12 +1,11 @@
-// The looks of which golden pictures are kept: their settings, their phone's state and the options they are drawn with.
+// The golden pictures: what they are called and how their scenes are reached, an entry a scene.
 #pragma once
 
+#include "Tests/EndToEnd/EditorScenario.hpp"
 #include "Tests/EndToEnd/GoldenPicture.hpp"
-#include "Tests/Support/Program.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
 
-#include <nlohmann/json.hpp>
-
+/// A look of the lock screen: its settings, its phone's state and the options it is drawn with.
 struct GoldenScene {
     const char* name;
     const char* settings;
@@ -38,6 +37,60 @@ inline const GoldenScene goldenScenes[] = {
         {"--locale", "he_IL", "--language", "he", "--time-zone", "Asia/Jerusalem"}},
 };
 
+/// What of the screen a picture of the editor keeps.
+enum class EditorPart { Panel, Screen };
+
+struct EditorPlace {
+    const char* name;
+    void (*go)(Phone&);
+    EditorPart part = EditorPart::Panel;
+    bool isNarrowToo = false; // on a small screen as well, in the light style
+};
+
+template <const EditorTab& tab, int segment>
+void choosePanel(Phone& phone)
+{
+    choose(phone, tab, segment);
+}
+
+inline void openNotice(Phone& phone)
+{
+    phone.tap("_alertOpen");
+}
+
+inline void openSheet(Phone& phone)
+{
+    choose(phone, timeTab, colourSegment);
+    phone.tap("_colorWheel3");
+    phone.tap("_showWell");
+    phone.settle(1);
+}
+
+inline void openSystemsSheet(Phone& phone)
+{
+    openSheet(phone);
+    phone.tap("colorWell");
+    phone.settle(1);
+}
+
+/// Each is drawn in the light and in the dark style.
+inline const EditorPlace editorPlaces[] = {
+    {"time-font", choosePanel<timeTab, fontSegment>, EditorPart::Panel, true},
+    {"time-colour", choosePanel<timeTab, colourSegment>},
+    {"time-position", choosePanel<timeTab, positionSegment>},
+    {"date-font", choosePanel<dateTab, fontSegment>},
+    {"date-colour", choosePanel<dateTab, colourSegment>},
+    {"date-position", choosePanel<dateTab, positionSegment>},
+    {"date-option", choosePanel<dateTab, dateOptionSegment>, EditorPart::Panel, true},
+    {"widget-option", choosePanel<widgetTab, widgetOptionSegment>, EditorPart::Panel, true},
+    {"widget-colour", choosePanel<widgetTab, colourSegment>},
+    {"widget-position", choosePanel<widgetTab, positionSegment>},
+    {"notice", openNotice, EditorPart::Panel, true},
+    {"sheet", openSheet},
+    {"open", [](Phone&) {}, EditorPart::Screen},
+    {"system-sheet", openSystemsSheet, EditorPart::Screen},
+};
+
 inline constexpr const char* goldenDevice = R"({
     "weather": {"temperature": "21°", "high": "24°", "low": "15°", "conditions": "Partly Cloudy", "location": "Haifa",
         "sunrise": "6:12", "sunset": "16:41"},
@@ -47,7 +100,6 @@ inline constexpr const char* goldenDevice = R"({
 /// Draws the scene, with more options than its own.
 inline void drawGolden(const GoldenScene& scene, const fs::path& output, const std::vector<std::string>& options = {})
 {
-    using Json = nlohmann::json;
     const Support::TemporaryFolder folder;
     Json device = Json::parse(goldenDevice);
     device.merge_patch(Json::parse(scene.device));
@@ -63,7 +115,53 @@ inline void drawGolden(const GoldenScene& scene, const fs::path& output, const s
     ASSERT_EQ(finished.status, 0) << finished.errors;
 }
 
+struct EditorScene {
+    std::string name;
+    EditorPlace place;
+    std::string style;
+    double width = 375, height = 812;
+};
+
+inline std::vector<EditorScene> editorScenes(EditorPart part)
+{
+    std::vector<EditorScene> scenes;
+    for (const EditorPlace& place : editorPlaces) {
+        if (place.part != part)
+            continue;
+        const std::string name = place.name;
+        for (const char* style : {"light", "dark"})
+            scenes.push_back({"editor-" + name + "-" + style, place, style});
+        if (place.isNarrowToo)
+            scenes.push_back({"editor-narrow-" + name, place, "light", 320, 568});
+    }
+    return scenes;
+}
+
+inline void drawGolden(const EditorScene& scene, const fs::path& output)
+{
+    const Json settings = {{"customFontPickerTime", "Quicksand-Medium"}, {"useCustomFont2", true},
+        {"customFontPicker", "Lato-Medium"}, {"dateOption", "2"}, {"XtimeLabel", "12"}, {"YtimeLabel", "-30"},
+        {"styleDate", "1"}, {"alternateOption", "2"}};
+    const Json device = Json::parse(goldenDevice);
+    auto phone = editing(editorPhone(settings)
+                             .colours({{"colourTime", "#FFD27A"}, {"colourDate", "#B8F0C8"}})
+                             .wallpaper(goldenFolder / "wallpaper.jpg")
+                             .weather(device.at("weather"))
+                             .battery(device.at("battery"))
+                             .alarm(device.at("alarm"))
+                             .screen(scene.width, scene.height, 1)
+                             .style(scene.style));
+    scene.place.go(phone);
+    phone.settle(2);
+    phone.call("screen.capture", {{"path", output}});
+}
+
 inline void PrintTo(const GoldenScene& scene, std::ostream* stream)
+{
+    *stream << scene.name;
+}
+
+inline void PrintTo(const EditorScene& scene, std::ostream* stream)
 {
     *stream << scene.name;
 }

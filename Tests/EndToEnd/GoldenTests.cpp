@@ -1,4 +1,5 @@
-// Pictures of the whole lock screen, beside those that someone has looked at. tools/update-golden draws them anew.
+// Pictures of the lock screen and of its editor, beside those that someone has looked at. tools/update-golden draws
+// them anew.
 #include "Tests/EndToEnd/GoldenScenes.hpp"
 
 #include <gtest/gtest.h>
@@ -10,6 +11,10 @@ namespace {
 using Support::Picture;
 
 class Golden : public testing::TestWithParam<GoldenScene> { };
+class EditorGolden : public testing::TestWithParam<EditorScene> { };
+class EditorScreenGolden : public testing::TestWithParam<EditorScene> { };
+
+const auto testName = [](const auto& scene) { return goldenTestName(scene.param.name); };
 
 }
 
@@ -21,8 +26,32 @@ TEST_P(Golden, PictureIsAsItWas)
     expectGolden(scene.name, drawn);
 }
 
-INSTANTIATE_TEST_SUITE_P(Scenes, Golden, testing::ValuesIn(goldenScenes),
-    [](const auto& scene) { return goldenTestName(scene.param.name); });
+INSTANTIATE_TEST_SUITE_P(Scenes, Golden, testing::ValuesIn(goldenScenes), testName);
+
+TEST_P(EditorGolden, PanelIsAsItWas)
+{
+    const EditorScene& scene = GetParam();
+    const fs::path drawn = newGoldenPicture(scene.name);
+    drawGolden(scene, drawn);
+    const auto screen = Picture::read(drawn);
+    ASSERT_TRUE(screen);
+    // The row of buttons, the panel, and a little around them.
+    constexpr unsigned aboveBottom = 401, height = 302;
+    ASSERT_TRUE(screen->rows(screen->height - aboveBottom, height).write(drawn));
+    expectGolden(scene.name, drawn);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, EditorGolden, testing::ValuesIn(editorScenes(EditorPart::Panel)), testName);
+
+TEST_P(EditorScreenGolden, ScreenIsAsItWas)
+{
+    const EditorScene& scene = GetParam();
+    const fs::path drawn = newGoldenPicture(scene.name);
+    drawGolden(scene, drawn);
+    expectGolden(scene.name, drawn);
+}
+
+INSTANTIATE_TEST_SUITE_P(Scenes, EditorScreenGolden, testing::ValuesIn(editorScenes(EditorPart::Screen)), testName);
 
 TEST(PictureComparison, NoticesALetterAndOverlooksTheShadeOfAnEdge)
 {

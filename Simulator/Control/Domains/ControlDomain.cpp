@@ -7,7 +7,6 @@
 #include "Simulator/UIKit/UISegmentedControl.hpp"
 #include "Simulator/UIKit/UISlider.hpp"
 #include "Simulator/UIKit/UIStepper.hpp"
-#include "Simulator/UIKit/ViewDescription.hpp"
 
 #include <cmath>
 
@@ -76,17 +75,15 @@ void setControl(PhoneContext& context, const Json& parameters)
 {
     const std::string identifier = parameters.at("id");
     const Json& value = parameters.at("value");
-    UIView* view = findView(context.shell.window(), identifier);
-    if (!view)
-        throwNotFound("no view has the id " + quote(identifier));
-    if (auto* picker = dynamic_cast<UIPickerView*>(view))
+    UIView& view = context.viewWithId(identifier);
+    if (auto* picker = dynamic_cast<UIPickerView*>(&view))
         picker->choose(indexOf(value, picker->numberOfRows(0), "row"));
-    else if (auto* control = dynamic_cast<UIControl*>(view); control && setValue(*control, value))
+    else if (auto* control = dynamic_cast<UIControl*>(&view); control && setValue(*control, value))
         finish(*control, parameters.value("tracking", false));
     else
         throw ProtocolError(ErrorCode::BadParameters,
             "parameter \"id\" takes a slider, a stepper, a segmented control, a colour well or a picker; "
-                + quote(identifier) + " is a " + view->className());
+                + quote(identifier) + " is a " + view.className());
 }
 
 }

@@ -24,6 +24,12 @@ void convert(const std::uint8_t* from, int width, std::uint8_t* to)
 
 }
 
+Json describeScreen()
+{
+    const ScreenSettings& screen = screenSettings();
+    return {{"width", screen.size.width}, {"height", screen.size.height}, {"scale", screen.scale}};
+}
+
 Json FrameFeed::draw(UIWindow& window, const std::string& path)
 {
     using Clock = std::chrono::steady_clock;
@@ -34,9 +40,7 @@ Json FrameFeed::draw(UIWindow& window, const std::string& path)
     }
     const auto damage = _renderer.render(window);
     const auto tiles = write(damage, _renderer.compositor().pixels());
-    const ScreenSettings& screen = screenSettings();
-    return {{"screen", {{"width", screen.size.width}, {"height", screen.size.height}, {"scale", screen.scale}}},
-        {"pixels", {_frame->width(), _frame->height()}}, {"tiles", tiles},
+    return {{"screen", describeScreen()}, {"pixels", {_frame->width(), _frame->height()}}, {"tiles", tiles},
         {"seconds", std::chrono::duration<double>(Clock::now() - begin).count()}};
 }
 

@@ -1,12 +1,16 @@
 // Draws the screen for whoever looks on: what differs from the frame before goes into the shared frame.
 #pragma once
 
+#include "Simulator/Control/Envelope.hpp"
 #include "Simulator/Control/SharedFrame.hpp"
 #include "Simulator/UIKit/ScreenRenderer.hpp"
 
 #include <memory>
 
 namespace Simulator::Control {
+
+/// {"width", "height", "scale"}, as `phone.start` takes it.
+Json describeScreen();
 
 class FrameFeed {
 public:

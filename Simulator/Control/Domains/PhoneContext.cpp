@@ -1,5 +1,7 @@
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
+#include "Simulator/UIKit/ViewDescription.hpp"
+
 namespace Simulator::Control {
 
 void PhoneContext::add(const std::string& method, Dispatcher::Handler handler)
@@ -20,6 +22,14 @@ Dispatcher::Handler PhoneContext::asOneTurn(Dispatcher::Handler handler)
         shell.commit();
         return result;
     };
+}
+
+UIView& PhoneContext::viewWithId(const std::string& identifier) const
+{
+    UIView* view = findView(shell.window(), identifier);
+    if (!view)
+        throwNotFound("no view has the id " + quote(identifier));
+    return *view;
 }
 
 void throwNotFound(const std::string& message)

@@ -26,6 +26,9 @@ public:
     /// Likewise, a message between the supervisor and the shell process.
     void add(const Method& method, Dispatcher::Handler handler);
 
+    /// The view on the screen's tree with that accessibility identifier; throws where there is none.
+    UIView& viewWithId(const std::string& identifier) const;
+
     Simulator::Shell& shell;
     ScreenRenderer renderer;
     FrameFeed frameFeed;

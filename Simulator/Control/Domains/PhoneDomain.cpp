@@ -3,7 +3,6 @@
 #include "Simulator/Device/DeviceState.hpp"
 
 #include "Platform/Foundation/NSString.hpp"
-#include "Simulator/UIKit/UIScreen.hpp"
 
 namespace Simulator::Control {
 
@@ -17,12 +16,6 @@ void postProtectedData(bool available)
     center.send<void, "postNotificationName:object:">(available ? "UIApplicationProtectedDataDidBecomeAvailable"_ns
                                                                 : "UIApplicationProtectedDataWillBecomeUnavailable"_ns,
         NS::Object());
-}
-
-Json describeScreen()
-{
-    const ScreenSettings& screen = screenSettings();
-    return {{"width", screen.size.width}, {"height", screen.size.height}, {"scale", screen.scale}};
 }
 
 }

@@ -6,7 +6,6 @@
 #include "Simulator/Companions/HBPreferences.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
 #include "Simulator/Loader/HookRecord.hpp"
-#include "Simulator/UIKit/ViewDescription.hpp"
 
 #include <set>
 
@@ -36,14 +35,6 @@ NS::Object instanceOf(PhoneContext& context, const std::string& className)
     return object;
 }
 
-NS::Object viewNamed(PhoneContext& context, const std::string& identifier)
-{
-    UIView* view = findView(context.shell.window(), identifier);
-    if (!view)
-        throwNotFound("no view has the id " + quote(identifier));
-    return NS::Object(view->object());
-}
-
 NS::Object keptObject(PhoneContext& context, const std::string& name)
 {
     auto found = context.named.find(name);
@@ -66,7 +57,7 @@ NS::Object referenced(PhoneContext& context, const Json& reference)
     if (reference.contains("instance"))
         return instanceOf(context, reference.at("instance"));
     if (reference.contains("id"))
-        return viewNamed(context, reference.at("id"));
+        return NS::Object(context.viewWithId(reference.at("id")).object());
     return keptObject(context, reference.at("named"));
 }
 

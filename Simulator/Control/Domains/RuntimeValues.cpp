@@ -9,7 +9,6 @@
 #include "Simulator/Control/Types.hpp"
 #include "Simulator/Device/DeviceState.hpp"
 
-#include <regex>
 
 namespace Simulator::Control {
 
@@ -69,6 +68,11 @@ Json jsonOfOther(const NS::Object& object)
     return json;
 }
 
+bool isColor(const std::string& text)
+{
+    return text.size() == 9 && text[0] == '#' && text.find_first_not_of("0123456789ABCDEF", 1) == std::string::npos;
+}
+
 NS::Object colorOfText(const std::string& text)
 {
     auto component = [&](int i) { return std::stoi(text.substr(1 + 2 * i, 2), nullptr, 16) / 255.0; };
@@ -77,8 +81,7 @@ NS::Object colorOfText(const std::string& text)
 
 NS::Object objectOfText(const std::string& text)
 {
-    static const std::regex color("#[0-9A-F]{8}");
-    if (std::regex_match(text, color))
+    if (isColor(text))
         return colorOfText(text);
     if (localTime().accepts(text))
         return NS::Date::dateWithTimeIntervalSinceReferenceDate(*momentOfLocalTime(text));

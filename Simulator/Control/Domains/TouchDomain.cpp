@@ -33,14 +33,12 @@ CGPoint pointOf(const Json& json)
 /// The middle of what is shown of a view, in the window.
 CGPoint middleOf(PhoneContext& context, const std::string& identifier)
 {
-    UIView* view = findView(context.shell.window(), identifier);
-    if (!view)
-        throwNotFound("no view has the id " + quote(identifier));
-    if (!isOnScreen(*view))
+    const UIView& view = context.viewWithId(identifier);
+    if (!isOnScreen(view))
         refuse("parameter \"id\" takes a view on the screen; " + quote(identifier) + " is not on it now");
-    const CGRect area = view->bounds();
+    const CGRect area = view.bounds();
     const CGPoint middle{area.origin.x + area.size.width / 2, area.origin.y + area.size.height / 2};
-    return view->convertPointToView(middle, context.shell.window().self<UI::View>());
+    return view.convertPointToView(middle, context.shell.window().self<UI::View>());
 }
 
 CGPoint placeOf(PhoneContext& context, const Json& parameters)
