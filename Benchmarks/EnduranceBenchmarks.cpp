@@ -87,7 +87,7 @@ void memoryOfTenThousandAppearances(benchmark::State& state)
 class LastLook {
 public:
     LastLook()
-        : _keepsWidgets(*static_cast<bool*>(Simulator::ExtensionLoader::shared().variable("_showWidgetLastLook")))
+        : _keepsWidgets(*static_cast<bool*>(Simulator::ExtensionLoader::shared().variable("_showWidgetLastLook")->address))
     {
         Simulator::PhoneFiles::shared().put(library, "LastLook");
         _keepsWidgets = true;

@@ -62,7 +62,7 @@ void frameWithAnotherTime(benchmark::State& state)
 {
     ObjC::AutoreleasePool pool;
     UIWindow& window = phone().window();
-    auto* variable = static_cast<id*>(ExtensionLoader::shared().variable("_timeLabel"));
+    auto* variable = static_cast<id*>(ExtensionLoader::shared().variable("_timeLabel")->address);
     if (!variable || !*variable) {
         state.SkipWithError("there is no time label");
         return;

@@ -4,15 +4,16 @@
 #include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSFileManager.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
+#include "Product/Names.hpp"
 #include "Tweak/Settings.hpp"
 
 #include <dlfcn.h>
 
 namespace LYR {
 
-constinit ObjC::Variable<NS::MutableDictionary> _prefsAFont;
+LYR_VARIABLE(ObjC::Variable<NS::MutableDictionary>, _prefsAFont);
 
-static constexpr const char library[] = LYR_PREFIX "/Library/MobileSubstrate/DynamicLibraries/AFont.dylib";
+static constexpr const char library[] = LYR_PREFIX LYR_EXTENSIONS "AFont.dylib";
 
 void loadAFont()
 {
@@ -22,7 +23,7 @@ void loadAFont()
 void updateAFontBlacklist()
 {
     auto files = NS::FileManager::defaultManager();
-    auto settingsFile = "/var/mobile/Library/Preferences/com.rpgfarm.afontprefs.plist"_ns;
+    auto settingsFile = LYR_PREFERENCES "com.rpgfarm.afontprefs.plist"_ns;
     if (!files.fileExistsAtPath(NS::String::fromUTF8(library)))
         return;
 

@@ -9,15 +9,20 @@
 #include "Platform/Foundation/NSLog.hpp"
 #include "Platform/Foundation/NSURL.hpp"
 #include "Platform/UIKit/UIFont.hpp"
+#include "Product/Names.hpp"
 
 #include <array>
 #include <iterator>
 
 namespace LYR {
 
-constinit ObjC::Variable<NS::Dictionary> matchDict;
-constinit ObjC::Variable<NS::String> _font1, _font2, _font3, _font4, _font5;
-constinit ObjC::Variable<NS::MutableArray> availableFonts;
+LYR_VARIABLE(ObjC::Variable<NS::Dictionary>, matchDict);
+LYR_VARIABLE(ObjC::Variable<NS::String>, _font1);
+LYR_VARIABLE(ObjC::Variable<NS::String>, _font2);
+LYR_VARIABLE(ObjC::Variable<NS::String>, _font3);
+LYR_VARIABLE(ObjC::Variable<NS::String>, _font4);
+LYR_VARIABLE(ObjC::Variable<NS::String>, _font5);
+LYR_VARIABLE(ObjC::Variable<NS::MutableArray>, availableFonts);
 
 namespace {
 
@@ -49,11 +54,11 @@ FileState stateOf(const NS::FileAttributes& file)
 
 // In the order of loading.
 const BuiltInFont builtInFonts[] = {
-    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time1.ttf"_ns; }, &_font1},
-    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time2.ttf"_ns; }, &_font2},
-    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time3.ttf"_ns; }, &_font3},
-    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/time4.ttf"_ns; }, &_font4},
-    {[] { return LYR_PREFIX "/Library/Application Support/lyr.bundle/date.ttf"_ns; }, &_font5},
+    {[] { return LYR_PREFIX LYR_RESOURCES "time1.ttf"_ns; }, &_font1},
+    {[] { return LYR_PREFIX LYR_RESOURCES "time2.ttf"_ns; }, &_font2},
+    {[] { return LYR_PREFIX LYR_RESOURCES "time3.ttf"_ns; }, &_font3},
+    {[] { return LYR_PREFIX LYR_RESOURCES "time4.ttf"_ns; }, &_font4},
+    {[] { return LYR_PREFIX LYR_RESOURCES "date.ttf"_ns; }, &_font5},
 };
 
 /// What each of them was like when it was read last.
@@ -118,7 +123,7 @@ void enter(const NS::MutableDictionary& table, const NS::String& name, const NS:
 
 void registerUserFonts()
 {
-    auto folder = LYR_PREFIX "/Library/Application Support/LYRFont/"_ns;
+    auto folder = LYR_PREFIX LYR_FONTS "/"_ns;
     auto table = NS::MutableDictionary::dictionary();
     auto names = NS::FileManager::defaultManager().contentsOfDirectoryAtPath(folder);
     // The text system gathers its own fonts before it is given more.

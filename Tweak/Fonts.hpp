@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/Foundation/NSDictionary.hpp"
+#include "Tweak/Variables.hpp"
 
 namespace LYR {
 

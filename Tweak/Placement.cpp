@@ -4,19 +4,19 @@
 
 namespace LYR {
 
-static CGRect frameOf(const Place& place, const Slot& slot)
+CGRect frameOf(const Placing& place, const Slot& slot)
 {
     const auto at = [&](CGFloat x, CGFloat width) { return CGRectMake(x, place.y, width, place.height); };
     switch (place.across) {
-    case Place::fromLeft:
+    case Placing::fromLeft:
         return at(slot.x + place.x, place.width);
-    case Place::fromRight:
+    case Placing::fromRight:
         return at(slot.x + slot.width - place.x - place.width, place.width);
-    case Place::throughout:
+    case Placing::throughout:
         return at(slot.x + place.x, std::max<CGFloat>(slot.width - place.x - place.width, 0));
-    case Place::aboutMiddle:
+    case Placing::aboutMiddle:
         return at(slot.middle() + place.x - place.width / 2, place.width);
-    case Place::aboutShare:
+    case Placing::aboutShare:
         return at(slot.x + slot.width * place.x - place.width / 2, place.width);
     }
     return {};
@@ -25,7 +25,7 @@ static CGRect frameOf(const Place& place, const Slot& slot)
 void place(std::span<const Place> places, const Slot& slot)
 {
     for (const Place& row : places)
-        UI::View(*row.view).setFrame(frameOf(row, slot));
+        UI::View(*row.view).setFrame(frameOf(row.placing, slot));
 }
 
 }

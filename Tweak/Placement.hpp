@@ -16,9 +16,8 @@ struct Slot {
 };
 
 /// Across its slot a view lies from its left end on, up to its right end, from one end to the other, or about a point.
-struct Place {
+struct Placing {
     enum Across { fromLeft, fromRight, throughout, aboutMiddle, aboutShare } across;
-    const id* view;
     /// From the end of the slot to that of the view, from middle to middle, or the share of the slot that lies left of
     /// the view's middle.
     CGFloat x;
@@ -28,22 +27,33 @@ struct Place {
     CGFloat height;
 };
 
-/// A row of the table of places, by how the view lies across.
-template <Place::Across across>
+/// Where a view lies.
+struct Place {
+    Placing placing;
+    const id* view;
+};
+
+/// A row of the table of places, by how the view lies across; without the view where another table has it.
+template <Placing::Across across>
 struct PlaceRow {
+    constexpr Placing operator()(CGFloat x, CGFloat width, CGFloat y, CGFloat height) const
+    {
+        return {across, x, width, y, height};
+    }
     template <class T>
     constexpr Place operator()(
         const ObjC::Variable<T>& view, CGFloat x, CGFloat width, CGFloat y, CGFloat height) const
     {
-        return {across, view.address(), x, width, y, height};
+        return {{across, x, width, y, height}, view.address()};
     }
 };
-inline constexpr PlaceRow<Place::fromLeft> fromLeft{};
-inline constexpr PlaceRow<Place::fromRight> fromRight{};
-inline constexpr PlaceRow<Place::throughout> throughout{};
-inline constexpr PlaceRow<Place::aboutMiddle> aboutMiddle{};
-inline constexpr PlaceRow<Place::aboutShare> aboutShare{};
+inline constexpr PlaceRow<Placing::fromLeft> fromLeft{};
+inline constexpr PlaceRow<Placing::fromRight> fromRight{};
+inline constexpr PlaceRow<Placing::throughout> throughout{};
+inline constexpr PlaceRow<Placing::aboutMiddle> aboutMiddle{};
+inline constexpr PlaceRow<Placing::aboutShare> aboutShare{};
 
+CGRect frameOf(const Placing& placing, const Slot& slot);
 /// Gives each view of the table its frame.
 void place(std::span<const Place> places, const Slot& slot);
 

@@ -3,6 +3,7 @@
 
 #include "Platform/Companions/SparkColourPickerUtils.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
+#include "Product/Names.hpp"
 
 #include <algorithm>
 #include <charconv>
@@ -12,14 +13,14 @@
 
 namespace LYR {
 
-#define LYR_DEFINE_FLAG(variable, key, fallback) constinit bool variable = fallback;
-#define LYR_DEFINE_OBJECT(variable, key, fallback) constinit ObjectSetting variable{fallback};
+#define LYR_DEFINE_FLAG(variable, key, fallback, ...) LYR_VARIABLE(bool, variable, fallback);
+#define LYR_DEFINE_OBJECT(variable, key, fallback, ...) LYR_VARIABLE(ObjectSetting, variable, key, fallback);
 LYR_SETTINGS(LYR_DEFINE_FLAG, LYR_DEFINE_OBJECT)
 #undef LYR_DEFINE_FLAG
 #undef LYR_DEFINE_OBJECT
 
-constinit ObjC::Variable<HB::Preferences> _preferences;
-constinit ObjC::Variable<NS::Dictionary> _preferencesDictionary;
+LYR_VARIABLE(ObjC::Variable<HB::Preferences>, _preferences);
+LYR_VARIABLE(ObjC::Variable<NS::Dictionary>, _preferencesDictionary);
 
 NS::Object ObjectSetting::usableValue() const
 {
@@ -74,9 +75,9 @@ UI::Color colourOfText(std::string_view text)
 
 void loadPrefs()
 {
-    _preferences = HB::Preferences::withIdentifier("com.ostrel.lyrprefs"_ns);
-#define LYR_BIND_FLAG(variable, key, fallback) _preferences->registerBool(&variable, fallback, key##_ns);
-#define LYR_BIND_OBJECT(variable, key, fallback)                                                                       \
+    _preferences = HB::Preferences::withIdentifier(LYR_SETTINGS_STORE ""_ns);
+#define LYR_BIND_FLAG(variable, key, fallback, ...) _preferences->registerBool(&variable, fallback, key##_ns);
+#define LYR_BIND_OBJECT(variable, key, fallback, ...)                                                                  \
     _preferences->registerObject(variable.address(), fallback##_ns, key##_ns);
     LYR_SETTINGS(LYR_BIND_FLAG, LYR_BIND_OBJECT)
 #undef LYR_BIND_FLAG
@@ -85,14 +86,13 @@ void loadPrefs()
 
 void loadColours()
 {
-    auto colours
-        = NS::Dictionary::dictionaryWithContentsOfFile("/var/mobile/Library/Preferences/com.ostrel.colorslyr.plist"_ns);
+    auto colours = NS::Dictionary::dictionaryWithContentsOfFile(LYR_COLOUR_FILE ""_ns);
     _preferencesDictionary = colours ? colours : NS::Dictionary::make();
 }
 
-UI::Color storedColour(const NS::String& key)
+UI::Color storedColour(const char* key)
 {
-    auto text = _preferencesDictionary->objectForKey<NS::String>(key);
+    auto text = _preferencesDictionary->objectForKey<NS::String>(NS::String::fromUTF8(key));
     if (auto colour = Spark::ColourPickerUtils::colourWithString(text, "#ffffff"_ns))
         return colour;
     return colourOfText(text.utf8());

@@ -1,8 +1,9 @@
 // Start-up: runs once when the shell loads the library, before its user interface exists.
 #include "LYRLocalization/LYRLocalization.hpp"
 #include "Platform/Foundation/CFNotificationCenter.hpp"
+#include "Product/Names.hpp"
 #include "Tweak/AFont.hpp"
-#include "Tweak/Editor/ColourSheet.hpp"
+#include "Tweak/Editor/Editor.hpp"
 #include "Tweak/Fonts.hpp"
 #include "Tweak/Hooks.hpp"
 #include "Tweak/Respring.hpp"
@@ -23,19 +24,10 @@ void reloadPrefs(CFNotificationCenterRef, void*, id, const void*, id)
 void observeNotifications()
 {
     auto center = CFNotificationCenterGetDarwinNotifyCenter();
-    CFNotificationCenterAddObserver(center, nullptr, reloadPrefs, "com.ostrel.lyrprefs/ReloadPrefs"_ns.raw(), nullptr,
+    CFNotificationCenterAddObserver(center, nullptr, reloadPrefs, LYR_SETTINGS_CHANGED ""_ns.raw(), nullptr,
         CFNotificationSuspensionBehavior::coalesce);
-    CFNotificationCenterAddObserver(center, nullptr, respring, "com.ostrel.lyr/respring"_ns.raw(), nullptr,
+    CFNotificationCenterAddObserver(center, nullptr, respring, LYR_RESPRING ""_ns.raw(), nullptr,
         CFNotificationSuspensionBehavior::deliverImmediately);
-}
-
-void installHooks()
-{
-    if (_enabled)
-        ObjC::install(mainHooks());
-    if (hideNotifHeader)
-        ObjC::install(notificationHeaderHooks());
-    ObjC::install(axonHooks());
 }
 
 __attribute__((constructor)) void start()

@@ -1,7 +1,7 @@
 // The handle: a value that owns one retain of an object. Every facade is one.
 #pragma once
 
-#include "Platform/ObjC/Send.hpp"
+#include "Platform/ObjC/MessageList.hpp"
 
 #include <utility>
 
@@ -55,10 +55,7 @@ public:
     template <class Result, FixedString name, class... Arguments>
     Result send(const Arguments&... arguments) const
     {
-        static_assert(argumentCount(name.view()) == sizeof...(Arguments),
-            "a selector takes one argument for each colon in its name");
-        static_assert(!isInitializer(name.view()), "initializers consume their receiver: use make<\"init…\">");
-        return sendMessage<Result, returnsOwned(name.view())>(object_, selector<name>(), arguments...);
+        return sendAs<"?", Result, name>(arguments...);
     }
 
     bool isKindOf(Class type) const { return type && send<bool, "isKindOfClass:">(type); }
@@ -91,6 +88,16 @@ public:
     T ivar(const char* name) const;
 
     static Class type() { return objc_getClass("NSObject"); }
+
+protected:
+    /// A message to an object that is known as one of the class.
+    template <FixedString className, class Result, FixedString name, class... Arguments>
+    Result sendAs(const Arguments&... arguments) const
+    {
+        static_assert(!isInitializer(name.view()), "initializers consume their receiver: use make<\"init…\">");
+        listMessage<'-', className, Result, name, Arguments...>();
+        return sendMessage<Result, returnsOwned(name.view())>(object_, selector<name>(), arguments...);
+    }
 
 private:
     id object_ = nullptr;
@@ -145,7 +152,7 @@ T Object::ivar(const char* name) const
     return T(variable<id>(name).get());
 }
 
-/// Base of every facade: the class by name, and messages to the class itself.
+/// Base of every facade: the class by name, messages to its objects and to the class itself.
 template <class Self, class Super, FixedString className>
 class Class_ : public Super {
 public:
@@ -169,10 +176,15 @@ public:
     }
 
     template <class Result, FixedString name, class... Arguments>
+    Result send(const Arguments&... arguments) const
+    {
+        return Object::template sendAs<className, Result, name>(arguments...);
+    }
+
+    template <class Result, FixedString name, class... Arguments>
     static Result sendClass(const Arguments&... arguments)
     {
-        static_assert(argumentCount(name.view()) == sizeof...(Arguments),
-            "a selector takes one argument for each colon in its name");
+        listMessage<'+', className, Result, name, Arguments...>();
         return sendMessage<Result, returnsOwned(name.view())>(
             reinterpret_cast<id>(type()), selector<name>(), arguments...);
     }
@@ -182,8 +194,7 @@ public:
     static Self make(const Arguments&... arguments)
     {
         static_assert(isInitializer(name.view()), "make takes an initializer");
-        static_assert(argumentCount(name.view()) == sizeof...(Arguments),
-            "a selector takes one argument for each colon in its name");
+        listMessage<'-', className, id, name, Arguments...>();
         id allocated = sendMessage<id>(reinterpret_cast<id>(type()), selector<"alloc">());
         return adopting(sendMessage<id>(allocated, selector<name>(), arguments...));
     }
@@ -207,7 +218,7 @@ public:
     operator T() const { return T(object_); }
     explicit operator bool() const { return object_ != nullptr; }
     id raw() const { return object_; }
-    id* address() { return &object_; }
+    constexpr id* address() { return &object_; }
     constexpr const id* address() const { return &object_; }
 
     /// What it holds as a handle in place, without a retain of its own.
@@ -220,6 +231,14 @@ public:
 
 private:
     id object_ = nullptr;
+};
+
+/// A variable that knows its name.
+template <class T, FixedString variableName>
+class NamedVariable : public Variable<T> {
+public:
+    static constexpr const char* name = variableName.text;
+    using Variable<T>::operator=;
 };
 
 }

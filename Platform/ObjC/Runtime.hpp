@@ -36,10 +36,19 @@ std::ptrdiff_t ivar_getOffset(Ivar);
 SEL sel_registerName(const char* name);
 }
 
+/// A section of a library, and the linker's names for where it starts and ends.
+#define OBJC_SECTION(name) "__DATA," #name
+#define OBJC_SECTION_START(name) "section$start$__DATA$" #name
+#define OBJC_SECTION_END(name) "section$end$__DATA$" #name
+
 #else
 
 #include <objc/message.h>
 #include <objc/runtime.h>
+
+#define OBJC_SECTION(name) #name
+#define OBJC_SECTION_START(name) "__start_" #name
+#define OBJC_SECTION_END(name) "__stop_" #name
 
 #endif
 

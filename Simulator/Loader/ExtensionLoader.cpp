@@ -94,12 +94,14 @@ int ExtensionLoader::loadAll(const Report& report)
     return loaded;
 }
 
-void* ExtensionLoader::variable(const std::string& name) const
+const Product::VariableRow* ExtensionLoader::variable(std::string_view name) const
 {
-    std::string symbol = "_ZN3LYR" + std::to_string(name.size()) + name + "E";
-    for (const auto& find : libraries_)
-        if (void* address = find(symbol))
-            return address;
+    for (const auto& find : libraries_) {
+        const auto* list = static_cast<const Product::VariableList*>(find("_ZN3LYR9variablesE"));
+        for (const Product::VariableRow& row : list ? *list : Product::VariableList{})
+            if (row.name == name)
+                return &row;
+    }
     return nullptr;
 }
 

@@ -1,10 +1,12 @@
 // The phone's extension loader: loads what lies in the extension folder into the shell process.
 #pragma once
 
+#include "Product/VariableList.hpp"
 #include "Simulator/Loader/LoadError.hpp"
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace Simulator {
@@ -21,8 +23,8 @@ public:
     int loadAll(const Report& = reportOnStandardError);
     static void reportOnStandardError(const std::string& libraryPath, const LoadError&);
 
-    /// The address of one of the extension's process-wide variables; null if no library has one of that name.
-    void* variable(const std::string& name) const;
+    /// One of the process-wide variables that the libraries list; null if none has one of that name.
+    const Product::VariableRow* variable(std::string_view name) const;
 
     /// Says in a LoadError why a file of the host could not be loaded, as far as that can be known without running it.
     static void check(const std::string& hostPath);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/Foundation/NSDictionary.hpp"
+#include "Product/Settings.hpp"
 #include "Simulator/Base/HostFile.hpp"
 #include "Tests/Foundation/FoundationTest.hpp"
 
@@ -15,7 +16,7 @@ namespace LYR {
 
 inline const std::vector<std::string> languages
     = {"en", "fr", "de", "es", "it", "pt", "ru", "he", "ar", "ja", "zh-hans", "zh-hant"};
-inline const std::vector<std::string> pageNames = {"Root", "subTime", "subDate", "subWidget"};
+inline const std::vector<std::string> pageNames(std::begin(Product::pages), std::end(Product::pages));
 
 class SettingsBundle : public Simulator::FoundationTest {
 protected:

@@ -2,7 +2,9 @@
 #include "SettingsBundle.hpp"
 
 #include "Platform/Foundation/NSNumber.hpp"
-#include "Tweak/Settings.hpp"
+#include "Product/Choices.hpp"
+#include "Product/Names.hpp"
+#include "Product/Settings.hpp"
 
 #include <algorithm>
 #include <map>
@@ -17,14 +19,15 @@ using Default = std::variant<bool, std::string>;
 std::map<std::string, Default> settings()
 {
     std::map<std::string, Default> table;
-#define LYR_FLAG_ROW(variable, key, fallback) table[key] = fallback;
-#define LYR_OBJECT_ROW(variable, key, fallback) table[key] = std::string(fallback);
-    LYR_SETTINGS(LYR_FLAG_ROW, LYR_OBJECT_ROW)
-#undef LYR_FLAG_ROW
-#undef LYR_OBJECT_ROW
-    for (const char* unread :
-        {"amountEvent", "hlOption", "Ymedia", "listFont", "listFont2", "colorWidget", "colorTextWidget"})
-        table.erase(unread);
+    for (const Product::Setting& setting : Product::settings) {
+        if (!setting.isRead())
+            continue;
+        Default& fallback = table[std::string(setting.key)];
+        if (setting.isFlag)
+            fallback = setting.fallback == "true";
+        else
+            fallback = std::string(setting.fallback);
+    }
     return table;
 }
 
@@ -66,24 +69,34 @@ TEST_F(SettingsPages, ShowEverySettingOnceWithItsDefault)
         if (key.empty())
             continue;
         EXPECT_TRUE(shown.emplace(key, defaultOf(cell)).second) << key << " is shown twice";
-        EXPECT_EQ(text(cell, "defaults"), "com.ostrel.lyrprefs") << key;
-        EXPECT_EQ(text(cell, "PostNotification"), "com.ostrel.lyrprefs/ReloadPrefs") << key;
+        EXPECT_EQ(text(cell, "defaults"), LYR_SETTINGS_STORE) << key;
+        EXPECT_EQ(text(cell, "PostNotification"), LYR_SETTINGS_CHANGED) << key;
     }
-    EXPECT_EQ(shown.size(), 48u);
     EXPECT_EQ(shown, settings());
+}
+
+TEST_F(SettingsPages, ShowEachSettingOnItsPageInItsCell)
+{
+    std::map<std::string, std::string> shown;
+    for (const std::string& name : pageNames)
+        for (const NS::Dictionary& cell : cellsOf(page(name)))
+            if (!text(cell, "key").empty())
+                shown[text(cell, "key")] = name + " " + text(cell, "cell");
+    std::map<std::string, std::string> wanted;
+    for (const Product::Setting& setting : Product::settings)
+        if (setting.isRead())
+            wanted[std::string(setting.key)] = std::string(setting.page) + " " + std::string(setting.cell);
+    EXPECT_EQ(shown, wanted);
 }
 
 TEST_F(SettingsPages, UseACellThatFitsTheKindOfTheSetting)
 {
-    for (const NS::Dictionary& cell : allCells()) {
-        const std::string key = text(cell, "key");
-        if (key.empty())
+    const std::set<std::string_view> kinds = {"PSLinkListCell", "PSSliderCell", "PSEditTextCell"};
+    for (const Product::Setting& setting : Product::settings) {
+        if (!setting.isRead())
             continue;
-        const std::string kind = text(cell, "cell");
-        const bool isFlag = std::holds_alternative<bool>(settings().at(key));
-        const std::set<std::string> kinds = {"PSLinkListCell", "PSSliderCell", "PSEditTextCell"};
-        EXPECT_EQ(kind == "PSSwitchCell", isFlag) << key;
-        EXPECT_EQ(kinds.contains(kind), !isFlag) << key << " has a " << kind;
+        EXPECT_EQ(setting.cell == "PSSwitchCell", setting.isFlag) << setting.key;
+        EXPECT_EQ(kinds.contains(setting.cell), !setting.isFlag) << setting.key << " has a " << setting.cell;
     }
 }
 
@@ -102,16 +115,32 @@ TEST_F(SettingsPages, HaveListsWithATitleForEachChoiceAndTheDefaultAmongThem)
 
 TEST_F(SettingsPages, OfferTheCodesThatTheLockScreenKnows)
 {
-    const std::map<std::string, std::vector<std::string>> codes = {{"highLowOption", {"0", "1"}},
-        {"sunOption", {"1", "2", "3", "4"}}, {"battOption", {"1", "2", "3"}}, {"styleDate", {"1", "2", "3", "4"}},
-        {"alternateOption", {"1", "2", "3", "4"}}, {"dateOption", {"0", "1", "2", "3", "4", "5", "6", "7"}},
-        {"alignTime", {"1", "2", "3"}}, {"alignDate", {"1", "2", "3"}}, {"customFont", {"1", "2", "3", "4", "5"}},
-        {"colorTime", {"1", "2", "3", "4"}}, {"colorDate", {"1", "2", "3", "4"}}};
+    const std::map<std::string, std::vector<std::string>> codes = {
+        {"customFont", {"1", "2", "3", "4", "5"}}, {"colorTime", {"1", "2", "3", "4"}}, {"colorDate", {"1", "2", "3", "4"}}};
     std::map<std::string, std::vector<std::string>> offered;
     for (const NS::Dictionary& cell : cells("PSLinkListCell"))
         if (codes.contains(text(cell, "key")))
             offered[text(cell, "key")] = list(cell, "validValues");
     EXPECT_EQ(offered, codes);
+}
+
+TEST_F(SettingsPages, OfferEveryChoiceWithItsTitle)
+{
+    std::set<std::string_view> found;
+    for (const NS::Dictionary& cell : cells("PSLinkListCell")) {
+        const auto choices = Product::choicesOf(text(cell, "key"));
+        std::vector<std::string> values, titles;
+        for (const Product::Choice& choice : choices.choices) {
+            values.push_back(std::to_string(choices.first + static_cast<int>(values.size())));
+            titles.push_back(choice.pageTitle);
+        }
+        if (values.empty())
+            continue;
+        found.insert(choices.key);
+        EXPECT_EQ(list(cell, "validValues"), values) << choices.key;
+        EXPECT_EQ(list(cell, "validTitles"), titles) << choices.key;
+    }
+    EXPECT_EQ(found.size(), std::size(Product::choiceLists));
 }
 
 TEST_F(SettingsPages, HaveSlidersThatReachTheirDefault)
@@ -135,13 +164,12 @@ TEST_F(SettingsPages, OfferEveryColourOfTheColourFile)
         if (!colour)
             continue;
         keys.insert(text(colour, "key"));
-        EXPECT_EQ(text(colour, "defaults"), "com.ostrel.colorslyr");
+        EXPECT_EQ(text(colour, "defaults"), LYR_COLOUR_STORE);
         EXPECT_EQ(text(colour, "fallback"), "#ffffff");
-        EXPECT_EQ(text(colour, "PostNotification"), "com.ostrel.colorslyr/ReloadPrefs");
+        EXPECT_EQ(text(colour, "PostNotification"), LYR_COLOURS_CHANGED);
         EXPECT_TRUE(value(colour, "alpha").as<NS::Number>().boolValue());
     }
-    EXPECT_EQ(
-        keys, (std::set<std::string>{"colourTime", "colourDate", "colourWidget", "colourTextWidget", "colourShadow"}));
+    EXPECT_EQ(keys, std::set<std::string>(std::begin(Product::colourKeys), std::end(Product::colourKeys)));
 }
 
 TEST_F(SettingsPages, KeepAFallbackThatTheColourWellsCanReplace)
@@ -163,7 +191,7 @@ TEST_F(SettingsPages, HaveAButtonThatRestartsTheShell)
 {
     const auto buttons = cells("PSButtonCell");
     ASSERT_EQ(buttons.size(), 1u);
-    EXPECT_EQ(text(buttons[0], "PostNotification"), "com.ostrel.lyr/respring");
+    EXPECT_EQ(text(buttons[0], "PostNotification"), LYR_RESPRING);
 }
 
 }

@@ -3,7 +3,7 @@
 #include "Simulator/Preview/Look.hpp"
 #include "Tests/Support/Program.hpp"
 #include "Tests/Support/TemporaryFolder.hpp"
-#include "Tweak/Settings.hpp"
+#include "Product/Settings.hpp"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -169,10 +169,10 @@ TEST_F(Look, NeedsAPhone)
 
 TEST(LookKeys, AreTheSettingsOfTheExtensionAndTheFontsItIsGiven)
 {
-    std::vector<std::string> keys;
-#define LYR_KEY(variable, key, fallback) keys.push_back(key);
-    LYR_SETTINGS(LYR_KEY, LYR_KEY)
-#undef LYR_KEY
-    keys.insert(keys.end(), {"customFontPickerTime", "customFontPicker"});
-    EXPECT_EQ(Simulator::Preview::lookSettings(), keys);
+    const auto& keys = Simulator::Preview::lookSettings();
+    ASSERT_EQ(keys.size(), std::size(Product::settings) + 2);
+    EXPECT_EQ(keys.front(), "enabled");
+    EXPECT_EQ(keys[keys.size() - 3], "ctNoOlder");
+    EXPECT_EQ(keys[keys.size() - 2], "customFontPickerTime");
+    EXPECT_EQ(keys.back(), "customFontPicker");
 }

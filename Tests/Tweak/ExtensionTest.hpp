@@ -23,10 +23,10 @@ protected:
     template <class T>
     T& variable(const std::string& name)
     {
-        void* address = ExtensionLoader::shared().variable(name);
-        if (!address)
+        const auto* row = ExtensionLoader::shared().variable(name);
+        if (!row)
             throw std::invalid_argument("the extension has no " + name);
-        return *static_cast<T*>(address);
+        return *static_cast<T*>(row->address);
     }
 };
 

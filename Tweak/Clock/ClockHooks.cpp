@@ -4,9 +4,9 @@
 #include "Platform/ObjC/Hook.hpp"
 #include "Tweak/Clock/ClockLabels.hpp"
 #include "Tweak/Clock/ClockText.hpp"
-#include "Tweak/Lifecycle/RefreshTimers.hpp"
+#include "Tweak/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/State.hpp"
 #include "Tweak/Widgets/Strip.hpp"
 
 namespace LYR {

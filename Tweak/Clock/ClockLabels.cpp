@@ -1,9 +1,9 @@
 // Creation, placement and visibility of the clock's labels.
 #include "Tweak/Clock/ClockLabels.hpp"
 
-#include "Tweak/Clock/ScreenWidth.hpp"
+#include "Tweak/ScreenWidth.hpp"
 #include "Tweak/Settings.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/State.hpp"
 
 namespace LYR {
 
@@ -26,13 +26,13 @@ CGRect dateFrame(const ScreenLayout& layout)
     return CGRectMake(_XdateLabel.doubleValue() + inset, _YdateLabel.doubleValue(), layout.width - margins, dateHeight);
 }
 
-void createBorderView(ObjC::Variable<UI::View>& variable, const NS::String& name, const UI::View& parent)
+UI::View borderView(const UI::View& parent)
 {
     auto border = UI::View::make();
     parent.addSubview(border);
     border.setBackgroundColor(UI::Color::clearColor());
     border.setHidden(true);
-    keepView(variable, border, name);
+    return border;
 }
 
 }
@@ -44,7 +44,7 @@ void createClockLabels(const SB::FLockScreenDateViewController& controller)
     time.setNumberOfLines(2);
     time.setAdjustsFontSizeToFitWidth(true);
     view.addSubview(time);
-    keepView(_timeLabel, time, "_timeLabel"_ns);
+    keepView(_timeLabel, time);
 
     auto date = UI::Label::make();
     date.setNumberOfLines(1);
@@ -52,7 +52,7 @@ void createClockLabels(const SB::FLockScreenDateViewController& controller)
     date.setLineBreakMode(UI::LineBreakMode::truncatingTail);
     date.setTextColor(UI::Color::whiteColor());
     view.addSubview(date);
-    keepView(_dateLabel, date, "_dateLabel"_ns);
+    keepView(_dateLabel, date);
 
     auto timer = UI::Label::make();
     timer.setNumberOfLines(1);
@@ -60,10 +60,10 @@ void createClockLabels(const SB::FLockScreenDateViewController& controller)
     timer.setTextColor(UI::Color::whiteColor());
     timer.setHidden(true);
     view.addSubview(timer);
-    keepView(_timerLabel, timer, "_timerLabel"_ns);
+    keepView(_timerLabel, timer);
 
-    createBorderView(_dateBorderView, "_dateBorderView"_ns, view);
-    createBorderView(_timeBorderView, "_timeBorderView"_ns, view);
+    keepView(_dateBorderView, borderView(view));
+    keepView(_timeBorderView, borderView(view));
     _timeBorderView->layer().setCornerRadius(15);
 }
 

@@ -2,13 +2,20 @@
 #include "Tweak/Clock/ClockLabels.hpp"
 
 #include "Platform/UIKit/UIImage.hpp"
-#include "Tweak/Clock/TextShadow.hpp"
+#include "Product/Choices.hpp"
+#include "Product/Names.hpp"
+#include "Tweak/TextShadow.hpp"
 #include "Tweak/Fonts.hpp"
 #include "Tweak/Settings.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/State.hpp"
 #include "WKSPalette/WKSColorUtils.hpp"
 
 namespace LYR {
+
+// Colours taken from the wallpaper at each full refresh; nil without a wallpaper.
+LYR_VARIABLE(ObjC::Variable<UI::Color>, _bgWallColor);
+LYR_VARIABLE(ObjC::Variable<UI::Color>, _primaryWallColor);
+LYR_VARIABLE(ObjC::Variable<UI::Color>, _secondaryWallColor);
 
 namespace {
 
@@ -60,14 +67,14 @@ void applyTimeFont()
     if (choice >= 1 && choice <= 4)
         _timeLabel->setFont(fontNamed(builtIn[choice - 1]->get(), _sizeTimeLabel));
     else if (choice == 5)
-        _timeLabel->setFont(pickedOrStanding("customFontPickerTime"_ns, standingTimeFont, _font1, _sizeTimeLabel));
+        _timeLabel->setFont(pickedOrStanding(NS::String::fromUTF8(Product::pickedTimeFontKey), standingTimeFont, _font1, _sizeTimeLabel));
     standingTimeFont = _timeLabel->font();
 }
 
 void applyDateFont()
 {
     standingDateFont = _useCustomFont2
-        ? pickedOrStanding("customFontPicker"_ns, standingDateFont, _font5, _sizeDateLabel)
+        ? pickedOrStanding(NS::String::fromUTF8(Product::pickedDateFontKey), standingDateFont, _font5, _sizeDateLabel)
         : fontNamed(_font5, _sizeDateLabel);
     _dateLabel->setFont(standingDateFont);
     _timerLabel->setFont(standingDateFont);
@@ -77,7 +84,7 @@ void applyDateFont()
 void applyAlignment(const ObjectSetting& setting, std::initializer_list<const UI::Label*> labels)
 {
     int alignment = setting.intValue();
-    if (alignment < 1 || alignment > 3)
+    if (alignment < 1 || alignment > static_cast<int>(std::size(Product::alignments)))
         return;
     for (const UI::Label* label : labels)
         label->setTextAlignment(static_cast<UI::TextAlignment>(alignment - 1));
@@ -85,9 +92,7 @@ void applyAlignment(const ObjectSetting& setting, std::initializer_list<const UI
 
 void takeWallpaperColours()
 {
-    auto wallpaper
-        = UI::Image::imageWithContentsOfFile("/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"_ns);
-    auto palette = WKSColorUtils::averageColors(wallpaper, 1.0);
+    auto palette = WKSColorUtils::averageColors(UI::Image::imageWithContentsOfFile(LYR_WALLPAPER ""_ns), 1.0);
     _bgWallColor = WKSColorUtils::colorWithMinimumSaturation(palette.background(), -0.1);
     _primaryWallColor = WKSColorUtils::colorWithMinimumSaturation(palette.primary(), 0.1);
     _secondaryWallColor = WKSColorUtils::colorWithMinimumSaturation(palette.detail(), 0.35);
@@ -111,8 +116,8 @@ void applyColour(const UI::Label& label, const ObjectSetting& source, const UI::
 void applyColours()
 {
     loadColours();
-    auto time = storedColour("colourTime"_ns);
-    auto date = storedColour("colourDate"_ns);
+    auto time = storedColour(Product::timeColourKey);
+    auto date = storedColour(Product::dateColourKey);
     _dateLabel->setTextColor(date);
     takeWallpaperColours();
     applyColour(_timeLabel.reference(), _colorTime, time);

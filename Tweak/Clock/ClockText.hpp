@@ -9,6 +9,10 @@ namespace LYR {
 
 /// The time as `timeFormat` or, with `twentyFourTime`, "H:mm" has it.
 NS::String timeText(const NS::Date& moment);
+/// The date as `dateFormat` has it.
+NS::String dateText(const NS::Date& moment);
+/// The date of another calendar as `alternateFormat` has it; nil if `alternateOption` names none.
+NS::String alternateDate(const NS::Date& moment);
 
 /// Sets the date line. Settings that name no style or no option leave it as it is; a line that is switched off has no
 /// item that somebody would have to be asked for.

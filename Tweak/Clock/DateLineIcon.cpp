@@ -1,7 +1,7 @@
 #include "Tweak/Clock/DateLineIcon.hpp"
 
 #include "Tweak/Settings.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/State.hpp"
 
 #include <cmath>
 

@@ -2,11 +2,12 @@
 
 #include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/ObjC/Hook.hpp"
+#include "Product/Names.hpp"
 #include "Tweak/Clock/ClockLabels.hpp"
 #include "Tweak/Clock/DateLineIcon.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/TemplateImage.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/State.hpp"
 
 namespace LYR {
 
@@ -21,7 +22,7 @@ NS::MutableAttributedString timerIcon()
 {
     auto line = NS::MutableAttributedString::withString(""_ns);
     line.appendAttributedString(dateLineIcon(templateThroughPNG(
-        UI::Image::imageNamed(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/timer.png"_ns))));
+        UI::Image::imageNamed(LYR_PREFIX LYR_RESOURCES "SS16/timer.png"_ns))));
     return line;
 }
 

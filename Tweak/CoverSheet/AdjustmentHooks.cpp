@@ -2,18 +2,17 @@
 
 #include "Platform/ObjC/Hook.hpp"
 #include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
-#include "Tweak/Editor/BatterySaverButtons.hpp"
-#include "Tweak/Lifecycle/RefreshTimers.hpp"
+#include "Tweak/Editor/Editor.hpp"
+#include "Tweak/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
+#include "Tweak/State.hpp"
 
 #include <utility>
 
 namespace LYR {
 
-constinit ObjC::Variable<NC::StructuredListViewController> _notifVC;
-constinit ObjC::Variable<CS::CoverSheetViewController> coverView;
-constinit bool _isLPM = false;
-constinit bool _axonVisible = false;
+/// The notification view of the other extension has something to show.
+LYR_VARIABLE(bool, _axonVisible, false);
 
 void NCNotificationStructuredListViewController_viewDidLoad(NC::StructuredListViewController self, SEL cmd)
 {

@@ -7,14 +7,6 @@
 
 namespace LYR {
 
-/// The controller of the notification list, and the cover sheet's, as they were seen last.
-extern constinit ObjC::Variable<NC::StructuredListViewController> _notifVC;
-extern constinit ObjC::Variable<CS::CoverSheetViewController> coverView;
-/// Low-power mode is on.
-extern constinit bool _isLPM;
-/// The notification view of the other extension has something to show.
-extern constinit bool _axonVisible;
-
 void NCNotificationStructuredListViewController_viewDidLoad(NC::StructuredListViewController self, SEL cmd);
 UIEdgeInsets CSCombinedListViewController_listViewDefaultContentInsets(UI::ViewController self, SEL cmd);
 UI::View CSCoverSheetViewController_dateView(CS::CoverSheetViewController self, SEL cmd);

@@ -1,14 +1,10 @@
 #include "Tweak/CoverSheet/CoverSheetHooks.hpp"
 
 #include "Platform/ObjC/Hook.hpp"
-#include "Tweak/CoverSheet/AdjustmentHooks.hpp"
-#include "Tweak/Editor/ColourSheet.hpp"
-#include "Tweak/Editor/EditMode.hpp"
-#include "Tweak/Editor/Handover.hpp"
-#include "Tweak/Editor/PanelBuilder.hpp"
-#include "Tweak/Lifecycle/RefreshTimers.hpp"
+#include "Tweak/Editor/Editor.hpp"
+#include "Tweak/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/State.hpp"
 #include "Tweak/Widgets/Strip.hpp"
 
 namespace LYR {
@@ -16,15 +12,10 @@ namespace LYR {
 void CSCoverSheetViewController_viewDidLoad(CS::CoverSheetViewController self, SEL cmd)
 {
     // What is open goes with the sheet that it stands on, before the clock and the list of another one are made.
-    if (_pressLong)
-        closeEditorAtOnce();
+    closeEditorAtOnce();
     stock<CSCoverSheetViewController_viewDidLoad>(self, cmd);
     createStrip(self);
-    if (_pressLong)
-        handEditorOver(_pressLong, self);
-    else
-        buildEditor(self);
-    _pressLong = self;
+    bringEditor(self);
     installLongPress();
 }
 
@@ -42,7 +33,7 @@ void CSCoverSheetViewController_viewWillAppear(CS::CoverSheetViewController self
 void CSCoverSheetViewController_viewWillDisappear(CS::CoverSheetViewController self, SEL cmd, bool animated)
 {
     stock<CSCoverSheetViewController_viewWillDisappear>(self, cmd, animated);
-    _colorWellSheet->closeView();
+    closeColourSheet();
     for (const auto* timer : {&_timerWidget, &_timerLock, &_timerLight, &_timer, &_timerLastLook})
         stopTimer(*timer);
     leaveEditor();

@@ -1,37 +1,30 @@
-#include "Tweak/Editor/BatterySaverButtons.hpp"
-
+// A button of two states on the lock screen: low-power mode.
 #include "Platform/SpringBoard/_CDBatterySaver.hpp"
 #include "Platform/UIKit/UIScreen.hpp"
-#include "Tweak/CoverSheet/AdjustmentHooks.hpp"
-#include "Tweak/Clock/ScreenWidth.hpp"
-#include "Tweak/Editor/EditorViews.hpp"
-#include "Tweak/Editor/Feedback.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/Editor/Areas.hpp"
+#include "Tweak/Editor/Editor.hpp"
+#include "Tweak/ScreenWidth.hpp"
+#include "Tweak/State.hpp"
 
 namespace LYR {
+
+LYR_VIEW(UI::Button, _buttonCL);
+LYR_VIEW(UI::Button, _buttonCL2);
 
 namespace {
 
 constexpr CGFloat side = 32;
 /// Below the strip's battery, at the right margin.
-constexpr CGFloat top = 220;
-constexpr CGFloat margin = 15;
+constexpr Placing belowBattery = fromRight(15, side, 220, side);
 
-void build(ObjC::Variable<UI::Button>& variable, const NS::String& name, const NS::String& symbol, SEL action,
-    const UI::Color& colour, const CS::CoverSheetViewController& controller)
+UI::View makeSaverButton(const UI::Color& colour)
 {
     auto button = UI::Button::buttonWithType(UI::ButtonType::system);
-    button.setImage(UI::Image::systemImageNamed(symbol));
+    button.setImage(UI::Image::systemImageNamed("battery.25"_ns));
     button.setTintColor(colour);
     button.setBackgroundColor(UI::Color::colorWithWhite(0.25, 1));
     button.layer().setCornerRadius(side / 2);
-    button.addTarget(controller, action, UI::ControlEvents::touchUpInside);
-    if (screenLayout()) {
-        CGFloat right = UI::Screen::mainScreen().bounds().size.width - margin;
-        button.setFrame(CGRectMake(right - side, top, side, side));
-    }
-    controller.view().addSubview(button);
-    keepView(variable, button, name);
+    return button;
 }
 
 /// The one button gives way to the other without a motion.
@@ -41,47 +34,47 @@ void swapAfter(int mode, void (*swap)())
     UI::View::animateWithDuration(0, 0, UI::AnimationOptions::transitionCrossDissolve, swap);
 }
 
-void showAsOn()
+void show(bool on)
+{
+    _buttonCL->setHidden(on);
+    _buttonCL2->setHidden(!on);
+}
+
+template <bool on>
+void showSwitched()
 {
     dateView->updateTime();
-    _buttonCL->setHidden(true);
-    _buttonCL2->setHidden(false);
+    show(on);
     playTap();
 }
 
-void showAsOff()
+template <bool on>
+void switchMode()
 {
-    dateView->updateTime();
-    _buttonCL->setHidden(false);
-    _buttonCL2->setHidden(true);
-    playTap();
+    swapAfter(on, showSwitched<on>);
 }
+
+constexpr Control controls[] = {
+    {.slot = _buttonCL, .make = [] { return makeSaverButton(UI::Color::whiteColor()); }, .placing = belowBattery,
+        .action = action<"didPressButtonCL:", switchMode<true>>(ActionGroup::batterySaver)},
+    {.slot = _buttonCL2, .make = [] { return makeSaverButton(UI::Color::systemYellowColor()); },
+        .placing = belowBattery,
+        .action = action<"didPressButtonCL2:", switchMode<false>>(ActionGroup::batterySaver)},
+};
 
 }
 
-void buildBatterySaverButtons(const CS::CoverSheetViewController& controller)
+constinit const Area batterySaverArea{controls};
+
+void placeBatterySaverButtons()
 {
-    build(_buttonCL, "_buttonCL"_ns, "battery.25"_ns, ObjC::selector<"didPressButtonCL:">(), UI::Color::whiteColor(),
-        controller);
-    build(_buttonCL2, "_buttonCL2"_ns, "battery.25"_ns, ObjC::selector<"didPressButtonCL2:">(),
-        UI::Color::systemYellowColor(), controller);
-    showBatterySaverState();
+    if (screenLayout())
+        place(controls, {0, UI::Screen::mainScreen().bounds().size.width});
 }
 
 void showBatterySaverState()
 {
-    _buttonCL->setHidden(_isLPM);
-    _buttonCL2->setHidden(!_isLPM);
-}
-
-void CSCoverSheetViewController_didPressButtonCL(CS::CoverSheetViewController, SEL, ObjC::Object)
-{
-    swapAfter(1, showAsOn);
-}
-
-void CSCoverSheetViewController_didPressButtonCL2(CS::CoverSheetViewController, SEL, ObjC::Object)
-{
-    swapAfter(0, showAsOff);
+    show(_isLPM);
 }
 
 }

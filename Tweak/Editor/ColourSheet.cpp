@@ -1,20 +1,15 @@
 #include "Tweak/Editor/ColourSheet.hpp"
 
 #include "Platform/Foundation/NSNotificationCenter.hpp"
-#include "Platform/ObjC/Method.hpp"
 #include "Platform/UIKit/NSLayoutConstraint.hpp"
-#include "Tweak/Editor/ColourSheetViews.hpp"
-#include "Tweak/Editor/ColourStore.hpp"
-#include "Tweak/Editor/ColourText.hpp"
-#include "Tweak/Editor/EditorViews.hpp"
-#include "Tweak/Editor/Feedback.hpp"
-#include "Tweak/Editor/Overlay.hpp"
-#include "Tweak/Editor/Wells.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/Editor/Areas.hpp"
+#include "Tweak/Editor/Editor.hpp"
+#include "Tweak/Editor/Storing.hpp"
+#include "Tweak/State.hpp"
 
 namespace LYR {
 
-constinit ObjC::Variable<ColourSheet> _colorWellSheet;
+LYR_VARIABLE(ObjC::Variable<ColourSheet>, _colorWellSheet);
 
 namespace {
 
@@ -97,10 +92,34 @@ void pinToEdges(const UI::View& view, const UI::View& frame)
 void showSheet()
 {
     hideOverlay();
-    _widgetButton->setHidden(true);
+    tabButton(Tab::widget).setHidden(true);
     _colorWellSheet->view().setAlpha(1);
 }
 
+/// Puts the sheet in the editor's place.
+void pickerShow(CS::CoverSheetViewController self, SEL)
+{
+    if (_colorWellSheet)
+        return;
+    _colorWellSheet = ColourSheet::make();
+    self.addChildViewController(_colorWellSheet);
+    auto view = _colorWellSheet->view();
+    view.setAlpha(0);
+    self.view().addSubview(view);
+    pinToEdges(view, self.view());
+    _colorWellSheet->didMoveToParentViewController(self);
+    animateOverlay(showSheet);
+}
+
+constexpr Action actions[] = {action<"pickerShow", pickerShow>(ActionGroup::wheels)};
+
+}
+
+constinit const Area colourSheetArea{{}, actions};
+
+void closeColourSheet()
+{
+    _colorWellSheet->closeView();
 }
 
 void registerColourSheet()
@@ -120,20 +139,6 @@ void registerColourSheet()
         .method<"closeView", &closeView>()
         .method<"handleProtectedDataWillBecomeUnavailable", &handleProtectedDataWillBecomeUnavailable>()
         .build();
-}
-
-void CSCoverSheetViewController_pickerShow(CS::CoverSheetViewController self, SEL)
-{
-    if (_colorWellSheet)
-        return;
-    _colorWellSheet = ColourSheet::make();
-    self.addChildViewController(_colorWellSheet);
-    auto view = _colorWellSheet->view();
-    view.setAlpha(0);
-    self.view().addSubview(view);
-    pinToEdges(view, self.view());
-    _colorWellSheet->didMoveToParentViewController(self);
-    animateOverlay(showSheet);
 }
 
 }

@@ -1,8 +1,10 @@
 // The sheet on which the user picks any colour for time, date and widgets, with the system's colour wells.
 #pragma once
 
+#include "Platform/ObjC/Method.hpp"
 #include "Platform/UIKit/UIColorWell.hpp"
-#include "Tweak/Editor/EditState.hpp"
+#include "Platform/UIKit/UIViewController.hpp"
+#include "Tweak/Editor/Tab.hpp"
 
 namespace LYR {
 
@@ -17,10 +19,13 @@ public:
 /// The sheet while it is open, or nil.
 extern constinit ObjC::Variable<ColourSheet> _colorWellSheet;
 
-/// Makes `MyCSCoverSheetViewController` known to the runtime. Once is enough, again does no harm.
-void registerColourSheet();
+// What is on the sheet: a row for each element, with a well, a swatch and a caption.
 
-/// Added: puts the sheet in the editor's place.
-void CSCoverSheetViewController_pickerShow(CS::CoverSheetViewController self, SEL cmd);
+/// `colorWellView`, `colorWell`, `wellViewTime` and so on, as instance variables that own what they hold, with accessors.
+void addColourSheetProperties(ObjC::ClassBuilder& builder);
+void buildColourSheet(const ColourSheet& sheet);
+/// Shows a colour on the element's swatch.
+void showOnSheet(const ColourSheet& sheet, Tab tab, const UI::Color& colour);
+void releaseColourSheetViews(id sheet);
 
 }

@@ -1,11 +1,9 @@
-#include "Tweak/Editor/ColourSheetViews.hpp"
+#include "Tweak/Editor/ColourSheet.hpp"
 
-#include "Platform/UIKit/UIButton.hpp"
-#include "Platform/UIKit/UILabel.hpp"
 #include "Platform/UIKit/UIScreen.hpp"
-#include "Tweak/Editor/EditorViews.hpp"
-#include "Tweak/Editor/Overlay.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/Editor/Areas.hpp"
+#include "Tweak/State.hpp"
+#include "Tweak/Widgets/Widget.hpp"
 
 namespace LYR {
 

@@ -1,26 +1,42 @@
-#include "Tweak/Editor/EditMode.hpp"
-
-#include "Tweak/CoverSheet/AdjustmentHooks.hpp"
-#include "Tweak/Editor/Appearance.hpp"
-#include "Tweak/Editor/ColourSheet.hpp"
-#include "Tweak/Editor/EditorViews.hpp"
-#include "Tweak/Editor/Feedback.hpp"
-#include "Tweak/Editor/Overlay.hpp"
-#include "Tweak/Editor/Wells.hpp"
-#include "Tweak/Lifecycle/IdleTimer.hpp"
+// Into the editor by a long press on the lock screen, and out of it by Done.
+#include "Tweak/Editor/Areas.hpp"
+#include "Tweak/Editor/Editor.hpp"
 #include "Tweak/Settings.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/State.hpp"
 
 namespace LYR {
+
+LYR_VARIABLE(ObjC::Variable<CS::CoverSheetViewController>, _pressLong);
+LYR_VARIABLE(ObjC::Variable<UI::LongPressGestureRecognizer>, _longPress);
+LYR_VARIABLE(double, _allowableMovement, 100);
+LYR_VARIABLE(bool, _timePress, false);
+LYR_VARIABLE(bool, _datePress, false);
+LYR_VARIABLE(bool, _widgetPress, false);
 
 namespace {
 
 /// A press this close to the bottom belongs to the system's own gestures.
 constexpr CGFloat deadBand = 200;
 
+constexpr PerTab<bool*> flags{{&_timePress, &_datePress, &_widgetPress}};
+
 const NS::String& reason()
 {
     return "LYR"_ns;
+}
+
+/// What keeps the screen lit while the user edits: the lock screen's own provider, wherever this system keeps it; nil
+/// if nowhere.
+SB::DashBoardIdleTimerProvider GetDashBoardIdleTimerProvider()
+{
+    using Provider = SB::DashBoardIdleTimerProvider;
+    auto manager = SB::CoverSheetPresentationManager::sharedInstance();
+    if (manager.respondsTo<"dashBoardViewController">())
+        return manager.dashBoardViewController().safeValueForKey<Provider>("_dashBoardIdleTimerProvider"_ns);
+    if (manager.respondsTo<"coverSheetViewController">())
+        return manager.coverSheetViewController().idleTimerController().safeValueForKey<Provider>(
+            "_idleTimerProvider"_ns);
+    return {};
 }
 
 /// Lets the screen go dark by itself again.
@@ -53,8 +69,8 @@ void open()
 void takeOverlayAway(bool)
 {
     hideOverlay();
-    _widgetButton->setHidden(false);
-    _widgetButton->setAlpha(1);
+    tabButton(Tab::widget).setHidden(false);
+    tabButton(Tab::widget).setAlpha(1);
     removeOverlay();
     removeWidgetButton();
     _timeBorderView->setHidden(true);
@@ -67,6 +83,49 @@ void finishClosing(bool finished)
     dateView->updateTime();
 }
 
+/// Called at every state of the long press. One in the dead band has already hidden the list and
+/// holds the screen lit: only Done takes that back.
+void showLongPress(UI::LongPressGestureRecognizer recognizer)
+{
+    if (!_enabledCustom)
+        return;
+    GetDashBoardIdleTimerProvider().addDisabledIdleTimerAssertionReason(reason());
+    if (recognizer.state() != UI::GestureRecognizerState::began)
+        return;
+    dateView->updateView();
+    _notifVC->scrollView().setHidden(true);
+    auto view = _pressLong->view();
+    if (recognizer.locationInView(view).y > view.bounds().size.height - deadBand)
+        return;
+    playTap();
+    prepareWells();
+    animateOverlay(open);
+}
+
+constexpr Action actions[] = {action<"showLongPress:", showLongPress>(ActionGroup::editing)};
+
+}
+
+constinit const Area editModeArea{{}, actions};
+
+bool isActive(Tab tab)
+{
+    return *flags[tab];
+}
+
+std::optional<Tab> activeTab()
+{
+    for (Tab tab : allTabs) {
+        if (isActive(tab))
+            return tab;
+    }
+    return std::nullopt;
+}
+
+void setActiveTab(std::optional<Tab> active)
+{
+    for (Tab tab : allTabs)
+        *flags[tab] = tab == active;
 }
 
 void installLongPress()
@@ -86,26 +145,7 @@ void removeLongPress()
     _longPress = UI::LongPressGestureRecognizer();
 }
 
-// A press in the dead band has already hidden the list and holds the screen lit: only Done takes that back.
-void CSCoverSheetViewController_showLongPress(
-    CS::CoverSheetViewController, SEL, UI::LongPressGestureRecognizer recognizer)
-{
-    if (!_enabledCustom)
-        return;
-    GetDashBoardIdleTimerProvider().addDisabledIdleTimerAssertionReason(reason());
-    if (recognizer.state() != UI::GestureRecognizerState::began)
-        return;
-    dateView->updateView();
-    _notifVC->scrollView().setHidden(true);
-    auto view = _pressLong->view();
-    if (recognizer.locationInView(view).y > view.bounds().size.height - deadBand)
-        return;
-    playTap();
-    prepareWells();
-    animateOverlay(open);
-}
-
-void CSCoverSheetViewController_doneButton(CS::CoverSheetViewController, SEL, ObjC::Object)
+void pressDone()
 {
     releaseScreen();
     dateView->updateView();
@@ -125,7 +165,9 @@ void leaveEditor()
 
 void closeEditorAtOnce()
 {
-    _colorWellSheet->closeView();
+    if (!_pressLong)
+        return;
+    closeColourSheet();
     releaseScreen();
     _notifVC->scrollView().setHidden(false);
     setActiveTab(std::nullopt);

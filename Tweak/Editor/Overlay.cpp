@@ -1,20 +1,23 @@
-#include "Tweak/Editor/Overlay.hpp"
-
+// The panel and the row of buttons above it: on the screen, off it, and on the way.
 #include "Platform/UIKit/UIScreen.hpp"
-#include "Tweak/Clock/ScreenWidth.hpp"
-#include "Tweak/Editor/EditState.hpp"
-#include "Tweak/Editor/EditorViews.hpp"
-#include "Tweak/Editor/PanelGeometry.hpp"
+#include "Tweak/Editor/Areas.hpp"
+#include "Tweak/Editor/Editor.hpp"
+#include "Tweak/ScreenWidth.hpp"
 
 #include <algorithm>
 
 namespace LYR {
 
+LYR_VIEW(UI::Button, _done);
+LYR_VIEW(UI::Button, _timeButton);
+LYR_VIEW(UI::Button, _dateButton);
+LYR_VIEW(UI::Button, _widgetButton);
+
 namespace {
 
 constexpr CGFloat margin = 10;
-constexpr CGFloat panelHeight = 240;
 constexpr CGFloat buttonHeight = 40;
+constexpr int buttonRadius = 12;
 constexpr CGFloat tabWidth = 85;
 constexpr CGFloat doneWidth = 90;
 // Above the bottom of the screen; a parked panel is below that of every one.
@@ -22,7 +25,31 @@ constexpr CGFloat panelRise = 345;
 constexpr CGFloat buttonsRise = 395;
 constexpr CGFloat parking = 1200;
 
-constexpr const ObjC::Variable<UI::Button>* tabButtons[] = {&_timeButton, &_dateButton, &_widgetButton};
+template <Tab tab>
+void pressTab()
+{
+    setActiveTab(tab);
+    updateButtonAppearance();
+    dateView->updateTime();
+}
+
+constexpr Placing tabAt(int index)
+{
+    return fromLeft(index * tabWidth, tabWidth, 0, buttonHeight);
+}
+
+constexpr Control controls[] = {
+    {.slot = _done, .make = textButton<"Done", buttonRadius>, .placing = fromRight(0, doneWidth, 0, buttonHeight),
+        .action = action<"doneButton:", pressDone>(ActionGroup::editing)},
+    {.slot = _timeButton, .make = textButton<"Time", buttonRadius>, .placing = tabAt(0),
+        .action = action<"timePressButton:", pressTab<Tab::time>>(ActionGroup::tabs)},
+    {.slot = _dateButton, .make = textButton<"Date", buttonRadius>, .placing = tabAt(1),
+        .action = action<"datePressButton:", pressTab<Tab::date>>(ActionGroup::tabs)},
+    {.slot = _widgetButton, .make = textButton<"Widget", buttonRadius>, .placing = tabAt(2),
+        .action = action<"widgetPressButton:", pressTab<Tab::widget>>(ActionGroup::tabs)},
+};
+
+constexpr Action actions[] = {action<"updateButtonAppearance", updateButtonAppearance>(ActionGroup::tabs)};
 
 /// A panel on a tablet is as wide as the screen is high.
 void placeOverlay(CGFloat panelTop, CGFloat buttonsTop)
@@ -31,18 +58,14 @@ void placeOverlay(CGFloat panelTop, CGFloat buttonsTop)
     if (!layout)
         return;
     CGFloat middle = UI::Screen::mainScreen().bounds().size.width / 2;
-    CGFloat x = middle - layout->width / 2 + margin;
-    CGFloat width = layout->width - 2 * margin;
-    _optionView->setFrame(CGRectMake(x, panelTop, width, panelHeight));
+    Slot slot{middle - layout->width / 2 + margin, layout->width - 2 * margin};
+    _optionView->setFrame(CGRectMake(slot.x, panelTop, slot.width, panelHeight));
     CGFloat outside = panelOutsideScreen();
-    placePanel({outside, width - 2 * outside});
-    _done->setFrame(CGRectMake(x + width - doneWidth, buttonsTop, doneWidth, buttonHeight));
-    for (const auto* button : tabButtons) {
-        (*button)->setFrame(CGRectMake(x, buttonsTop, tabWidth, buttonHeight));
-        x += tabWidth;
-    }
+    placePanel({outside, slot.width - 2 * outside});
+    place(controls, slot, buttonsTop);
     // On the narrowest screens the last tab lies over a part of it.
-    CGFloat covered = std::max<CGFloat>(x - _done->frame().origin.x, 0);
+    CGRect last = _widgetButton->frame();
+    CGFloat covered = std::max<CGFloat>(last.origin.x + last.size.width - _done->frame().origin.x, 0);
     _done->setContentEdgeInsets({0, covered, 0, 0});
 }
 
@@ -51,11 +74,18 @@ template <class Action>
 void forEachView(Action action)
 {
     action(_optionView.reference());
-    action(_done.reference());
-    for (const auto* button : tabButtons)
-        action(button->reference());
+    for (const Control& button : controls)
+        action(button.slot.view());
 }
 
+}
+
+constinit const Area tabArea{controls, actions};
+
+const UI::Button& tabButton(Tab tab)
+{
+    constexpr PerTab<const ObjC::Variable<UI::Button>*> buttons{{&_timeButton, &_dateButton, &_widgetButton}};
+    return buttons[tab]->reference();
 }
 
 void animateOverlay(void (*changes)(), void (*completion)(bool))

@@ -1,15 +1,10 @@
 #include "Tweak/Lifecycle/LifecycleHooks.hpp"
 
 #include "Platform/ObjC/Hook.hpp"
-#include "Tweak/CoverSheet/AdjustmentHooks.hpp"
-#include "Tweak/Editor/BatterySaverButtons.hpp"
-#include "Tweak/Editor/ColourSheet.hpp"
-#include "Tweak/Editor/EditMode.hpp"
-#include "Tweak/Editor/EditorViews.hpp"
-#include "Tweak/Editor/Overlay.hpp"
-#include "Tweak/Lifecycle/RefreshTimers.hpp"
+#include "Tweak/Editor/Editor.hpp"
+#include "Tweak/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
-#include "Tweak/Views.hpp"
+#include "Tweak/State.hpp"
 
 namespace LYR {
 
@@ -89,7 +84,7 @@ void SBLockScreenTimerDialView_didMoveToWindow(UI::View self, SEL cmd)
 void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, int source, NS::Object options)
 {
     stock<SBLockScreenManager_lockUIFromSource>(self, cmd, source, options);
-    _colorWellSheet->closeView();
+    closeColourSheet();
     coverView->send<void, "doneButton:">(ObjC::Object());
     stopTimer(_timer);
     stopTimer(_timerWidget);

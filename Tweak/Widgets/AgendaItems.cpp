@@ -4,6 +4,7 @@
 #include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Platform/SpringBoard/SBScheduledAlarmObserver.hpp"
+#include "Product/Names.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/TemplateImage.hpp"
 
@@ -81,12 +82,12 @@ NS::String firstEventText(const NS::Date& now)
 
 UI::Image alarmIcon()
 {
-    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/alarm.png"_ns);
+    return resourceIcon(LYR_PREFIX LYR_RESOURCES "SS16/alarm.png"_ns);
 }
 
 UI::Image eventIcon()
 {
-    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/calendar.png"_ns);
+    return resourceIcon(LYR_PREFIX LYR_RESOURCES "SS16/calendar.png"_ns);
 }
 
 }

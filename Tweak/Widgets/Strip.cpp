@@ -1,41 +1,84 @@
 #include "Tweak/Widgets/Strip.hpp"
 
 #include "Platform/Foundation/InstallPrefix.hpp"
-#include "Platform/UIKit/NSTextAttachment.hpp"
 #include "Platform/UIKit/UIScreen.hpp"
-#include "Tweak/Clock/ScreenWidth.hpp"
-#include "Tweak/Settings.hpp"
+#include "Product/Names.hpp"
+#include "Tweak/ScreenWidth.hpp"
 #include "Tweak/TemplateImage.hpp"
-#include "Tweak/Views.hpp"
-#include "Tweak/Widgets/BatterySlot.hpp"
+#include "Tweak/TextShadow.hpp"
+#include "Tweak/Widgets/StripColours.hpp"
 #include "Tweak/Widgets/StripGeometry.hpp"
-#include "Tweak/Widgets/StripViews.hpp"
+#include "Tweak/Widgets/Widget.hpp"
 
 namespace LYR {
 
 namespace {
 
-constexpr CGFloat conditionIconSide = 28;
-/// How strongly the day's other end stands beside the one that is shown.
-constexpr CGFloat otherEndAlpha = 0.4;
+constexpr const Widget* widgets[] = {&weatherWidget, &agendaWidget, &batteryWidget};
 
-template <class Option>
-std::optional<Option> chosen(const ObjectSetting& setting, Option first, Option last)
+UI::View makePicture(const StripView& view)
 {
-    int code = setting.intValue();
-    if (code < static_cast<int>(first) || code > static_cast<int>(last))
-        return std::nullopt;
-    return static_cast<Option>(code);
+    auto picture = UI::ImageView::make();
+    picture.setContentMode(view.contentMode);
+    return picture;
 }
 
-std::optional<WeatherOption> weatherOption()
+/// What does not fit is drawn smaller before it is cut short.
+UI::View makeLabel(const StripView& view)
 {
-    return chosen(_highLowOption, WeatherOption::oneCell, WeatherOption::twoCells);
+    constexpr CGFloat smallestText = 0.6;
+    auto label = UI::Label::make();
+    label.setFont(UI::Font::systemFontOfSize(view.fontSize));
+    label.setTextAlignment(view.alignment);
+    label.setNumberOfLines(1);
+    label.setAdjustsFontSizeToFitWidth(true);
+    label.setMinimumScaleFactor(smallestText);
+    label.setLineBreakMode(UI::LineBreakMode::truncatingTail);
+    return label;
 }
 
-std::optional<BatteryOption> batteryOption()
+template <class Action>
+void forEachView(Action action)
 {
-    return chosen(_battOption, BatteryOption::percentage, BatteryOption::bar);
+    for (const Widget* widget : widgets) {
+        for (const StripView& view : widget->views)
+            action(view);
+    }
+}
+
+void buildStrip()
+{
+    auto strip = UI::View::make();
+    // What lies under the strip stays within reach of the finger.
+    strip.setUserInteractionEnabled(false);
+    // Until the first refresh there is nothing to be seen on it.
+    strip.setHidden(true);
+    keepView(_widgetView, strip);
+    forEachView([&strip](const StripView& row) {
+        auto view = row.isLabel() ? makeLabel(row) : makePicture(row);
+        view.setAccessibilityIdentifier(NS::String::fromUTF8(row.name));
+        strip.addSubview(view);
+        *row.variable = view.leak();
+    });
+    prepareBattery();
+}
+
+/// The icons outside the battery, whose colours follow its state, and every text with its shadow.
+void colourViews()
+{
+    auto icons = stripIconColour();
+    auto texts = stripTextColour();
+    for (const Widget* widget : {&weatherWidget, &agendaWidget})
+        for (const StripView& view : widget->views)
+            if (!view.isLabel())
+                UI::View(*view.variable).setTintColor(icons);
+    forEachView([&texts](const StripView& view) {
+        if (!view.isLabel())
+            return;
+        UI::Label label(*view.variable);
+        label.setTextColor(texts);
+        applyTextShadow(label, smallTextShadow);
+    });
 }
 
 /// The scale is about the middle, so the frame is the one that the strip has at its natural size.
@@ -47,86 +90,37 @@ void setFrameAtNaturalSize(const UI::View& view, CGRect frame)
     view.setTransform(scale);
 }
 
-/// Slots whose option names no presentation stay where they are.
-void placeSlots()
+/// A widget whose option names no presentation stays where it is.
+void placeWidgets()
 {
     if (!screenLayout())
         return;
-    auto weather = weatherOption();
-    auto battery = batteryOption();
-    auto geometry = stripGeometry(UI::Screen::mainScreen().bounds().size, weather.value_or(WeatherOption::twoCells),
-        battery.value_or(BatteryOption::percentage));
+    auto weather = weatherWidget.chosen();
+    auto battery = batteryWidget.chosen();
+    auto geometry = stripGeometry(
+        UI::Screen::mainScreen().bounds().size, weather ? weather->cells : 2, battery ? battery->cells : 1);
     setFrameAtNaturalSize(_widgetView, geometry.frame);
     if (weather)
-        placeWeather(*weather, geometry.weather);
-    if (weather && battery) {
-        placeAgenda(geometry.agenda);
-        placeBattery(*battery, geometry.battery);
-    }
-}
-
-void refreshWeatherSlot(const WeatherItems& weather)
-{
-    _HL->setImage(weather.scaleIcon ? resourceIcon(weather.scaleIcon) : UI::Image());
-    _HLo->setImage(weather.markIcon ? resourceIcon(weather.markIcon) : UI::Image());
-    _tempLabel->setText(weather.plainTemperature);
-    _temperatureLabel->setText(weather.plainTemperature);
-    _highLabel->setText(weather.high);
-    _lowLabel->setText(weather.low);
-    _HLLabel->setText(weather.highLow);
-    _conLabel->setText(weather.condition);
-    if (!weather.icon)
-        return _conditionLabel->setText({});
-    auto attachment = NS::TextAttachment::make();
-    attachment.setBounds(CGRectMake(0, 0, conditionIconSide, conditionIconSide));
-    attachment.setImage(weather.icon);
-    _conditionLabel->setAttributedText(NS::AttributedString::attributedStringWithAttachment(attachment));
-}
-
-void showAgenda(const UI::Image& icon, const UI::Image& otherEnd, const NS::String& marker, const NS::String& text)
-{
-    _SL->setImage(icon);
-    _upS->setImage(otherEnd);
-    _upS->setAlpha(otherEndAlpha);
-    _pm->setText(marker);
-    _pm->setAlpha(_twentyFour ? 0 : 1);
-    _sunLabel->setText(text);
-}
-
-UI::Image sunriseIcon()
-{
-    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/up.png"_ns);
-}
-
-UI::Image sunsetIcon()
-{
-    return resourceIcon(LYR_PREFIX "/Library/Application Support/lyr.bundle/SS16/down.png"_ns);
-}
-
-void refreshAgendaSlot(Items& items)
-{
-    auto option = chosen(_sunOption, AgendaOption::sunrise, AgendaOption::event);
-    if (!option)
+        place(weather->places, geometry.weather);
+    if (!weather || !battery)
         return;
-    switch (*option) {
-    case AgendaOption::sunrise:
-        return showAgenda(sunriseIcon(), sunsetIcon(), {}, items.weather().sunrise);
-    case AgendaOption::sunset:
-        return showAgenda(sunsetIcon(), sunriseIcon(), {}, items.weather().sunset);
-    case AgendaOption::alarm:
-        return showAgenda(alarmIcon(), {}, items.alarm().marker, items.alarm().time);
-    case AgendaOption::event:
-        return showAgenda(eventIcon(), {}, {}, items.event());
-    }
+    placeAgenda(geometry.agenda);
+    place(battery->places, geometry.battery);
+    if (battery->cells > 1)
+        placeBatteryIndicator();
 }
 
+/// The middle widget gives way where weather and battery take two cells each.
 void showChosenViews()
 {
-    auto weather = weatherOption();
-    if (auto battery = batteryOption())
-        showBatteryViews(*battery, weather);
+    auto weather = weatherWidget.chosen();
+    auto battery = batteryWidget.chosen();
+    if (battery)
+        batteryWidget.show(*battery);
     if (weather)
-        showWeatherViews(*weather);
+        weatherWidget.show(*weather);
+    if (battery && (weather || battery->cells == 1))
+        agendaWidget.setHidden(battery->cells > 1 && weather->cells > 1);
 }
 
 bool isStripShown()
@@ -136,16 +130,22 @@ bool isStripShown()
 
 bool isAgendaShown()
 {
-    return isStripShown() && !_SL->isHidden();
+    return isStripShown() && !UI::View(*agendaWidget.views.front().variable).isHidden();
 }
 
-/// A strip or a slot that is hidden asks nobody for its contents.
-void refreshShownSlots(Items& items)
+void fillAgenda(Items& items)
+{
+    if (auto chosen = agendaWidget.chosen())
+        chosen->fill(items);
+}
+
+/// A strip or a widget that is hidden asks nobody for its contents.
+void fillShownWidgets(Items& items)
 {
     if (isStripShown())
-        refreshWeatherSlot(items.weather());
+        fillWeather(items.weather());
     if (isAgendaShown())
-        refreshAgendaSlot(items);
+        fillAgenda(items);
 }
 
 }
@@ -153,10 +153,10 @@ void refreshShownSlots(Items& items)
 void createStrip(const CS::CoverSheetViewController& controller)
 {
     if (!_widgetView)
-        buildStripViews();
+        buildStrip();
     controller.view().addSubview(_widgetView.reference());
     showChosenViews();
-    placeSlots();
+    placeWidgets();
 }
 
 void placeStrip(Items& items)
@@ -164,19 +164,19 @@ void placeStrip(Items& items)
     const bool wasAgendaShown = isAgendaShown();
     showChosenViews();
     if (isAgendaShown() && !wasAgendaShown)
-        refreshAgendaSlot(items);
-    placeSlots();
+        fillAgenda(items);
+    placeWidgets();
 }
 
 void refreshStrip(Items& items)
 {
     _widgetView->setHidden(!_showWidget);
     _widgetView->setTransform(CGAffineTransformMakeScale(_sizeWidget.doubleValue(), _sizeWidget.doubleValue()));
-    colourStripViews();
+    colourViews();
     showChosenViews();
-    refreshShownSlots(items);
-    refreshBatterySlot();
-    placeSlots();
+    fillShownWidgets(items);
+    fillBattery();
+    placeWidgets();
 }
 
 }

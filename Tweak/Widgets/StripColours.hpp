@@ -8,13 +8,13 @@ namespace LYR {
 /// Of every icon.
 inline UI::Color stripIconColour()
 {
-    return storedColour("colourWidget"_ns);
+    return storedColour(Product::widgetColourKey);
 }
 
 /// Of every text.
 inline UI::Color stripTextColour()
 {
-    return storedColour("colourTextWidget"_ns);
+    return storedColour(Product::widgetTextColourKey);
 }
 
 }

@@ -1,85 +1,107 @@
-// The table of the places that views have within their slots.
+// How the three widgets share the strip.
 #include "Tweak/Widgets/StripGeometry.hpp"
 
-#include "Tweak/Views.hpp"
-#include "Tweak/Widgets/BatterySlot.hpp"
+#include "Tweak/Settings.hpp"
+
+#include <algorithm>
 
 namespace LYR {
 
 namespace {
 
-constexpr Place weatherInOneCell[] = {
-    aboutMiddle(_HL, 0, 44, 6, 44),
-    aboutMiddle(_HLo, 0, 44, 6, 44),
-    aboutMiddle(_tempLabel, 0, 28, 17, 22),
-    aboutMiddle(_lowLabel, -12, 24, 44, 14),
-    aboutMiddle(_highLabel, 12, 24, 44, 14),
-};
-constexpr Place weatherInTwoCells[] = {
-    fromLeft(_conditionLabel, 0, 30, 15, 30),
-    fromLeft(_temperatureLabel, 32, 42, 12, 36),
-    throughout(_conLabel, 78, 0, 13, 17),
-    throughout(_HLLabel, 78, 0, 31, 16),
-};
-// What shares the icon's line with it, and both side by side.
-constexpr Place agendaIconAlone[] = {
-    aboutMiddle(_SL, 0, 22, 9, 22),
-};
-constexpr Place agendaIconAndMore[] = {
-    aboutMiddle(_SL, -13, 22, 9, 22),
-    aboutMiddle(_upS, 13, 22, 9, 22),
-    aboutMiddle(_pm, 14, 26, 11, 18),
-};
-constexpr Place agendaText[] = {
-    throughout(_sunLabel, 0, 0, 33, 19),
-};
-constexpr Place batteryWithPercentage[] = {
-    aboutMiddle(_BG, 0, 32, 12, 16),
-    aboutMiddle(_BL, 0, 32, 12, 16),
-    aboutMiddle(_BC, 0, 32, 12, 16),
-    throughout(_batteryLabel, 0, 0, 33, 19),
-};
-// The bolt stands at the right end of its picture, beside where the battery is; over the phone it is in the middle.
-constexpr CGFloat boltFromMiddle = -12;
-constexpr Place batteryUnderPhone[] = {
-    aboutMiddle(_phoneImage, 0, 32, 4, 32),
-    aboutMiddle(_BC2, boltFromMiddle, 32, 12, 16),
-    aboutMiddle(_BG, 0, 32, 40, 16),
-    aboutMiddle(_BL, 0, 32, 40, 16),
-};
-constexpr Place batteryBar[] = {
-    throughout(_batteryBarName, 1, 0, 5, 18),
-    throughout(_batteryBarBackground, 0, 0, 23, 16),
-    throughout(_batteryBarLabel, -7, 0, 39, 18),
-};
+constexpr CGFloat top = 150;
+constexpr CGFloat height = 60;
+/// Left and right of the clock's labels together.
+constexpr CGFloat margins = 30;
+constexpr CGFloat phoneLimit = 500;
+constexpr CGFloat tabletScale = 0.8;
+/// Between two slots.
+constexpr CGFloat gap = 8;
+
+// One cell of weather beside a bar: the bar has a fixed place, for which the strip moves to the left.
+constexpr CGFloat shiftForBar = 40;
+constexpr CGFloat barPlace = 260;
+/// The weather's place in the moved strip is on the screen.
+constexpr CGFloat cellsBesideBar = 20;
+constexpr CGFloat widestCellsBesideBar = 360;
+/// What the bar leaves of a phone's width: its place in the moved strip, and a margin.
+constexpr CGFloat besideBar = barPlace - shiftForBar + margins / 2;
+constexpr CGFloat longestBar = 144;
+
+/// The cells lie in the middle of the screen, as wide together as the clock looks.
+Slot cells(CGSize screen)
+{
+    CGFloat width = screen.width < phoneLimit ? screen.width - margins
+                                              : tabletScale * (std::min(screen.width, screen.height) - margins);
+    return {(screen.width - width) / 2, width};
+}
+
+/// A part of the cells that stops at the given end, with its content in the part's middle.
+Slot part(const Slot& all, CGFloat from, CGFloat to, CGFloat end)
+{
+    CGFloat centre = all.x + all.width * (from + to) / 2;
+    CGFloat half = std::min(all.width * (to - from) / 2 - gap / 2, end - centre);
+    return {centre - half, 2 * half};
+}
+
+/// Three cells of one width.
+void divideInThirds(StripGeometry& geometry, const Slot& all)
+{
+    CGFloat width = geometry.frame.size.width;
+    geometry.weather = part(all, 0, 1.0 / 3, width);
+    geometry.agenda = part(all, 1.0 / 3, 2.0 / 3, width);
+    geometry.battery = part(all, 2.0 / 3, 1, width);
+}
+
+/// Two of four cells for the weather.
+void divideInQuarters(StripGeometry& geometry, const Slot& all)
+{
+    CGFloat width = geometry.frame.size.width;
+    geometry.weather = {all.x, all.width / 2 - gap};
+    geometry.agenda = part(all, 0.5, 0.75, width);
+    geometry.battery = part(all, 0.75, 1, width);
+}
+
+CGFloat barLength(CGSize screen)
+{
+    return std::min(screen.width - besideBar, longestBar);
+}
+
+/// The bar ends where the strip does, and the weather has what is left.
+void divideForBar(StripGeometry& geometry, const Slot& all, CGFloat length)
+{
+    CGFloat end = std::min(all.x + all.width, geometry.frame.size.width);
+    geometry.battery = {end - length, length};
+    geometry.weather = {all.x, geometry.battery.x - 2 * gap - all.x};
+}
+
+void divideBesideBar(StripGeometry& geometry, Slot all, CGFloat length)
+{
+    geometry.frame.origin.x -= shiftForBar;
+    all.x = cellsBesideBar;
+    all.width = std::min(all.width, widestCellsBesideBar);
+    geometry.weather = part(all, 0, 1.0 / 3, barPlace - gap);
+    geometry.agenda = part(all, 1.0 / 3, 2.0 / 3, barPlace - gap);
+    geometry.battery = {barPlace, length};
+}
 
 }
 
-void placeWeather(WeatherOption option, const Slot& slot)
+StripGeometry stripGeometry(CGSize screen, int weatherCells, int batteryCells)
 {
-    option == WeatherOption::oneCell ? place(weatherInOneCell, slot) : place(weatherInTwoCells, slot);
-}
-
-void placeAgenda(const Slot& slot)
-{
-    bool alone = !_upS->image() && _pm->text().length() == 0;
-    place(agendaIconAndMore, slot);
-    if (alone)
-        place(agendaIconAlone, slot);
-    place(agendaText, slot);
-}
-
-void placeBattery(BatteryOption option, const Slot& slot)
-{
-    switch (option) {
-    case BatteryOption::percentage:
-        return place(batteryWithPercentage, slot);
-    case BatteryOption::phone:
-        return place(batteryUnderPhone, slot);
-    case BatteryOption::bar:
-        place(batteryBar, slot);
-        return placeBatteryIndicator();
-    }
+    StripGeometry geometry;
+    geometry.frame
+        = CGRectMake(_XwidgetView.doubleValue(), _YwidgetView.doubleValue() + top, screen.width - margins, height);
+    Slot all = cells(screen);
+    if (batteryCells > 1 && weatherCells == 1)
+        divideBesideBar(geometry, all, barLength(screen));
+    else if (batteryCells > 1)
+        divideForBar(geometry, all, barLength(screen));
+    else if (weatherCells == 1)
+        divideInThirds(geometry, all);
+    else
+        divideInQuarters(geometry, all);
+    return geometry;
 }
 
 }

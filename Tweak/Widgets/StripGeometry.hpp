@@ -2,7 +2,6 @@
 #pragma once
 
 #include "Tweak/Placement.hpp"
-#include "Tweak/Widgets/StripOptions.hpp"
 
 namespace LYR {
 
@@ -14,12 +13,7 @@ struct StripGeometry {
     Slot battery;
 };
 
-StripGeometry stripGeometry(CGSize screen, WeatherOption weather, BatteryOption battery);
-
-/// Gives each view of a presentation its frame within the slot.
-void placeWeather(WeatherOption option, const Slot& slot);
-/// The icon stands in the middle of its slot, or beside what shares the line with it.
-void placeAgenda(const Slot& slot);
-void placeBattery(BatteryOption option, const Slot& slot);
+/// `weatherCells` and `batteryCells` are how much of the strip those two take, from 1 to 2.
+StripGeometry stripGeometry(CGSize screen, int weatherCells, int batteryCells);
 
 }

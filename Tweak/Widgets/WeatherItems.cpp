@@ -2,6 +2,7 @@
 
 #include "Platform/Companions/WeatherApp.hpp"
 #include "Platform/Foundation/InstallPrefix.hpp"
+#include "Product/Names.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/TemplateImage.hpp"
 
@@ -47,7 +48,7 @@ const Indicator& indicatorFor(long temperature, long low, long high)
 
 NS::String indicatorPath(const char* name)
 {
-    return LYR_PREFIX "/Library/Application Support/lyr.bundle/HL16/"_ns.stringByAppendingString(NS::String::fromUTF8(name))
+    return LYR_PREFIX LYR_RESOURCES "HL16/"_ns.stringByAppendingString(NS::String::fromUTF8(name))
         .stringByAppendingString(".png"_ns);
 }
 

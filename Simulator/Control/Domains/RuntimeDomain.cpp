@@ -3,21 +3,12 @@
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 #include "Simulator/Control/Domains/RuntimeValues.hpp"
 
-#include "Simulator/Companions/HBPreferences.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
 #include "Simulator/Loader/HookRecord.hpp"
-
-#include <set>
 
 namespace Simulator::Control {
 
 namespace {
-
-/// Variables of the extension that hold no object.
-const std::set<std::string> flags = {"isTimerRunning", "_isLPM", "_axonVisible", "_screenOn", "_timePress",
-    "_datePress", "_widgetPress", "_colorPickerPress"};
-const std::set<std::string> numbers = {"_startTime", "_startLastLook", "_allowableMovement"};
-const std::set<std::string> counts = {"_initialSegmentCount"};
 
 id classNamed(const std::string& name)
 {
@@ -88,25 +79,27 @@ Json describeHooks()
     return hooks;
 }
 
-/// Settings are variables too; those that were bound as truth values are not objects.
-bool isFlag(const std::string& name)
+template <class T>
+T valueOf(const Product::VariableRow& variable)
 {
-    auto bound = boundValue(name.starts_with('_') ? name.substr(1) : name);
-    return flags.contains(name) || (bound && bound->kind == BoundValue::Kind::Boolean);
+    return *static_cast<const T*>(variable.address);
 }
 
 Json globalValue(const std::string& name)
 {
-    void* address = ExtensionLoader::shared().variable(name);
-    if (!address)
+    const auto* variable = ExtensionLoader::shared().variable(name);
+    if (!variable)
         throwNotFound("the extension has no variable " + quote(name));
-    if (isFlag(name))
-        return *static_cast<bool*>(address);
-    if (numbers.contains(name))
-        return *static_cast<double*>(address);
-    if (counts.contains(name))
-        return *static_cast<unsigned long*>(address);
-    return jsonOfObject(NS::Object(*static_cast<id*>(address)));
+    const std::string_view type = variable->type;
+    if (type == "@")
+        return jsonOfObject(NS::Object(valueOf<id>(*variable)));
+    if (type == "B")
+        return valueOf<bool>(*variable);
+    if (type == "d")
+        return valueOf<double>(*variable);
+    if (type == "Q")
+        return valueOf<unsigned long>(*variable);
+    throw ProtocolError(ErrorCode::Internal, "the variable " + quote(name) + " is of a type that is not known: " + quote(variable->type));
 }
 
 }
