@@ -7,6 +7,7 @@
 #include "Platform/Foundation/NSJSONSerialization.hpp"
 #include "Platform/Foundation/NSLocale.hpp"
 #include "Platform/ObjC/Method.hpp"
+#include "Product/Names.hpp"
 
 #include <string_view>
 
@@ -83,7 +84,7 @@ void loadTranslations(LYRLocalization self, SEL, ObjC::Object file)
     auto name = file.as<NS::String>();
     if (name.length() == 0)
         return;
-    auto bundle = NS::Bundle::bundleWithPath(LYR_PREFIX "/Library/PreferenceBundles/LYRPrefs.bundle/"_ns);
+    auto bundle = NS::Bundle::bundleWithPath(LYR_PREFIX LYR_SETTINGS_PAGES ""_ns);
     auto url = bundle.URLForResource(name, "json"_ns);
     auto data = url ? NS::Data::dataWithContentsOfURL(url) : NS::Data();
     if (!data)

@@ -8,14 +8,25 @@
 
 #include <nlohmann/json.hpp>
 
+#include <algorithm>
+#include <filesystem>
 #include <functional>
 #include <set>
 #include <vector>
 
 namespace LYR {
 
-inline const std::vector<std::string> languages
-    = {"en", "fr", "de", "es", "it", "pt", "ru", "he", "ar", "ja", "zh-hans", "zh-hant"};
+/// The languages of a folder, a file each.
+inline std::vector<std::string> languagesOf(const std::string& folder)
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        if (entry.path().extension() == ".json")
+            names.push_back(entry.path().stem());
+    std::ranges::sort(names);
+    return names;
+}
+inline const std::vector<std::string> languages = languagesOf(LYR_LANGUAGES);
 inline const std::vector<std::string> pageNames(std::begin(Product::pages), std::end(Product::pages));
 
 class SettingsBundle : public Simulator::FoundationTest {

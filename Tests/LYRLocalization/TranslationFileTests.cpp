@@ -2,7 +2,6 @@
 #include "SettingsBundle.hpp"
 
 #include <algorithm>
-#include <filesystem>
 
 namespace LYR {
 namespace {
@@ -34,11 +33,8 @@ protected:
 
 TEST_F(TranslationFiles, AreThoseOfTheLanguages)
 {
-    std::set<std::string> found;
-    for (const auto& entry : std::filesystem::directory_iterator(LYR_SETTINGS_BUNDLE))
-        if (entry.path().extension() == ".json")
-            found.insert(entry.path().stem());
-    EXPECT_EQ(found, std::set<std::string>(languages.begin(), languages.end()));
+    EXPECT_GE(languages.size(), 12u);
+    EXPECT_EQ(languagesOf(LYR_SETTINGS_BUNDLE), languages);
 }
 
 TEST_F(TranslationFiles, HaveTheSameKeysInEveryLanguage)

@@ -6,6 +6,7 @@ import { openPage, picture, settingsFile, sharePhoneAndBrowser, untilDark, until
     untilPictureIs } from "./support.mjs";
 
 const bundle = new URL("../../Resources/LYRPrefs.bundle/", import.meta.url);
+const languages = new URL("../../Product/Languages/", import.meta.url);
 
 // Every cell of the settings pages that has a key, with its label's key, and the colours.
 function cells() {
@@ -33,7 +34,7 @@ test("loads without a complaint and asks nobody but the preview", async () => {
 for (const [locale, file, word] of [["en-US", "en.json", "Connected"], ["de-DE", "de.json", "Verbunden"]]) {
     test(`shows every setting in the language of ${locale}`, async () => {
         const page = await openPage(browser, preview.address, { locale });
-        const texts = JSON.parse(readFileSync(new URL(file, bundle), "utf8"));
+        const texts = JSON.parse(readFileSync(new URL(file, languages), "utf8")).settingsPages;
         const shown = await page.$$eval("[data-key]", (controls) =>
             controls.map((control) => ({ key: control.dataset.key, label: control.labels[0].textContent })));
         const wanted = cells().map(({ key, label }) => ({ key, label: texts[label] }));

@@ -4,21 +4,17 @@ import { readdirSync, readFileSync } from "node:fs";
 import { test } from "node:test";
 
 const page = new URL("../../Simulator/Preview/Page/", import.meta.url);
-const bundle = new URL("../../Resources/LYRPrefs.bundle/", import.meta.url);
+const sources = new URL("../../Product/Languages/", import.meta.url);
 const read = (name, folder = page) => readFileSync(new URL(name, folder), "utf8");
+const source = (language) => JSON.parse(read(`${language}.json`, sources));
 // By its name alone, not every Node takes the page's script for a module.
 const { chooseLanguage } = await import(`data:text/javascript,${encodeURIComponent(read("texts.js"))}`);
-const languages = readdirSync(bundle).filter((name) => name.endsWith(".json")).map((name) => name.slice(0, -5));
-const english = JSON.parse(read("text.en.json"));
-
-test("the page has the languages of the settings pages", () => {
-    const own = readdirSync(page).map((name) => /^text\.(.+)\.json$/.exec(name)?.[1]).filter(Boolean);
-    assert.deepEqual(own.sort(), languages.sort());
-});
+const languages = readdirSync(sources).map((name) => name.slice(0, -5));
+const english = source("en").preview;
 
 for (const language of languages) {
     test(`every text is there in ${language}, with its star where it has one`, () => {
-        const texts = JSON.parse(read(`text.${language}.json`));
+        const texts = source(language).preview;
         assert.deepEqual(Object.keys(texts).sort(), Object.keys(english).sort());
         for (const [key, text] of Object.entries(texts)) {
             assert.ok(text.trim(), key);
@@ -27,8 +23,13 @@ for (const language of languages) {
     });
 }
 
+test("a language is named as the phone names it", () => {
+    for (const language of languages)
+        assert.equal(source(language).identifier.toLowerCase(), language);
+});
+
 test("every text that a panel asks for by its key is there", () => {
-    const known = new Set([...Object.keys(english), ...Object.keys(JSON.parse(read("en.json", bundle)))]);
+    const known = new Set([...Object.keys(english), ...Object.keys(source("en").settingsPages)]);
     const asked = readdirSync(page).filter((name) => name.endsWith(".js")).flatMap((name) =>
         [...read(name).matchAll(/(?:\.text|\btext|texts\.of)\("(\w+)"/g)].map(([, key]) => key));
     assert.ok(asked.length > 40);

@@ -173,7 +173,7 @@ export class DevicePanel {
             await this.#setWeather(this.#device.weather);
         };
         const name = (locale) => called(locale, this.texts, "language");
-        const languages = ["ar", "de", "en", "es", "fr", "he", "it", "ja", "pt", "ru", "zh-Hans", "zh-Hant"];
+        const languages = this.texts.languages.map(({ identifier }) => identifier);
         return group(this.text("surroundings"), [row(this.text("timeNow"), time),
             this.#choice("timeZone", "timeZone", timeZones, (zone) => zone.replaceAll("_", " ")),
             this.#choice("locale", "locale", locales, name), this.#choice("language", "languages", languages, name)]);

@@ -8,7 +8,7 @@ import { Screen } from "./screen.js";
 import { bundle, loadPages, SettingsPanels } from "./settings.js";
 import { Store } from "./store.js";
 import { Tabs } from "./tabs.js";
-import { chooseLanguage, ownTexts, Texts } from "./texts.js";
+import { chooseLanguage, readTexts, Texts } from "./texts.js";
 
 const find = (id) => document.getElementById(id);
 
@@ -61,7 +61,7 @@ async function loadTexts(connection) {
     const present = names.filter((name) => name.endsWith(".json")).map((name) => name.slice(0, -5));
     const language = chooseLanguage(navigator.languages, present);
     const { json } = await connection.call("file.read", { path: `${bundle}${language}.json` });
-    texts = new Texts(texts.own, language, json);
+    texts = new Texts(texts.own, texts.languages, language, json);
     Object.assign(document.documentElement, { lang: language, dir: texts.direction });
 }
 
@@ -90,7 +90,7 @@ async function build(connection, screen, store) {
 }
 
 async function start() {
-    texts = new Texts(await ownTexts(navigator.languages));
+    texts = await readTexts(navigator.languages);
     const connection = new Connection();
     const screen = new Screen(find("screen"), connection);
     const store = new Store(connection, report);

@@ -1,7 +1,6 @@
 // Which language the page speaks: its own texts, a file a language, and those of the settings pages.
 
-const languages = ["ar", "de", "en", "es", "fr", "he", "it", "ja", "pt", "ru", "zh-hans", "zh-hant"];
-const rightToLeft = ["ar", "he"];
+const read = async (name) => (await fetch(name)).json();
 
 // The best of the languages that there are for what the browser prefers.
 export function chooseLanguage(wanted, present) {
@@ -16,20 +15,20 @@ export function chooseLanguage(wanted, present) {
 }
 
 // The page's own texts in the best language that it has.
-export async function ownTexts(wanted) {
-    const response = await fetch(`text.${chooseLanguage(wanted, languages)}.json`);
-    return response.json();
+export async function readTexts(wanted) {
+    const languages = await read("languages.json");
+    const best = chooseLanguage(wanted, languages.map(({ name }) => name));
+    return new Texts(await read(`text.${best}.json`), languages);
 }
 
 export class Texts {
-    constructor(own, language = "en", ofPages = {}) {
-        this.own = own;
-        this.language = language;
-        this.ofPages = ofPages;
+    constructor(own, languages, language = "en", ofPages = {}) {
+        Object.assign(this, { own, languages, language, ofPages });
     }
 
     get direction() {
-        return rightToLeft.includes(this.language) ? "rtl" : "ltr";
+        return this.languages.some(({ name, writtenFromRight }) => name === this.language && writtenFromRight)
+            ? "rtl" : "ltr";
     }
 
     // A text of the page by its key, or of the settings pages; `value` takes the place of its star.

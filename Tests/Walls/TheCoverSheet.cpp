@@ -1,0 +1,2 @@
+// The interceptions of the cover sheet.
+#include "Tweak/CoverSheet/CoverSheetHooks.hpp"

@@ -1,0 +1,2 @@
+// What the rest of the extension sees of the editor.
+#include "Tweak/Editor/Editor.hpp"
