@@ -2,12 +2,21 @@
 JOBS ?= $(shell nproc)
 GENERATE = cmake
 
-.PHONY: run build test test-sanitize test-phone bench package pictures packages clean
+.PHONY: run program phone build test test-sanitize test-phone bench package pictures packages clean
 
-# A picture of the lock screen and, on a terminal, the live phone.
-run: build
+# A picture of the lock screen and, on a terminal, the live phone. It builds what the picture needs and nothing else.
+run: program
 	build/bin/lyr render -o build/lock.png
 	@if [ -t 1 ]; then build/bin/lyr preview; fi
+
+program: packages
+	@$(GENERATE) --preset release
+	ninja -C build -j $(JOBS) bin/lyr share
+
+# The phone's own library, which the other trees take from here.
+phone: packages
+	@$(GENERATE) --preset release
+	ninja -C build -j $(JOBS) phone packages
 
 build: packages
 	@$(GENERATE) --preset release
@@ -16,7 +25,7 @@ build: packages
 test: build
 	ctest --test-dir build --output-on-failure -j $(JOBS)
 
-test-sanitize: packages
+test-sanitize: phone
 	@$(GENERATE) --preset sanitize
 	ninja -C build-sanitize -j $(JOBS)
 	ctest --test-dir build-sanitize --output-on-failure -j $(JOBS) -LE phone
@@ -35,7 +44,7 @@ test-phone: build
 		build/bin/EndToEndTests --gtest_brief=1
 	LYR_PHONE_PROGRAM=$(ARM64)/lyr build/bin/MachOTests --gtest_brief=1 --gtest_filter='*SameBehaviour.*:Package.*'
 
-bench: packages
+bench: phone
 	@$(GENERATE) --preset bench
 	ninja -C build-bench -j $(JOBS) lyr_benchmarks share
 	build-bench/bin/lyr_benchmarks
@@ -49,7 +58,7 @@ package: packages
 	@ls packages/*.deb
 
 # The pictures of the README.
-pictures: build
+pictures: program
 	tools/make-pictures
 
 packages:
