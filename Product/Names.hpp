@@ -13,6 +13,7 @@
 
 // What is the user's lies in one place on every phone.
 #define LYR_PREFERENCES "/var/mobile/Library/Preferences/"
+#define LYR_SETTINGS_FILE LYR_PREFERENCES LYR_SETTINGS_STORE ".plist"
 #define LYR_COLOUR_FILE LYR_PREFERENCES LYR_COLOUR_STORE ".plist"
 #define LYR_WALLPAPER "/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"
 

@@ -1,6 +1,7 @@
 // The host folder that is the phone's `/`: a given one, or a temporary one that goes with its owner.
 #pragma once
 
+#include "Product/Names.hpp"
 #include "Simulator/Base/TemporaryFolder.hpp"
 #include "Simulator/Control/Envelope.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
@@ -11,10 +12,10 @@
 namespace Simulator::Control {
 
 // Where the phone keeps what `phone.start` puts there.
-inline constexpr std::string_view settingsPath = "/var/mobile/Library/Preferences/com.ostrel.lyrprefs.plist";
-inline constexpr std::string_view coloursPath = "/var/mobile/Library/Preferences/com.ostrel.colorslyr.plist";
-inline constexpr std::string_view wallpaperPath = "/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg";
-inline constexpr std::string_view userFontFolder = "/Library/Application Support/LYRFont/";
+inline constexpr std::string_view settingsPath = LYR_SETTINGS_FILE;
+inline constexpr std::string_view coloursPath = LYR_COLOUR_FILE;
+inline constexpr std::string_view wallpaperPath = LYR_WALLPAPER;
+inline constexpr std::string_view userFontFolder = LYR_FONTS "/";
 
 class RootFolder {
 public:

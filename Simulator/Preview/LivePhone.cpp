@@ -1,6 +1,7 @@
 // Passes calls on to the supervisor, and answers the preview's own.
 #include "Simulator/Preview/LivePhone.hpp"
 
+#include "Product/Names.hpp"
 #include "Simulator/Preview/Look.hpp"
 
 namespace Simulator::Preview {
@@ -49,7 +50,7 @@ Json LivePhone::weatherNow(const Json& weather)
 Json LivePhone::setLook(const Json& look)
 {
     const Json missing = writeLook(_root, look);
-    for (const char* name : {"com.ostrel.lyrprefs/ReloadPrefs", "com.ostrel.colorslyr/ReloadPrefs"})
+    for (const char* name : {LYR_SETTINGS_CHANGED, LYR_COLOURS_CHANGED})
         _supervisor.call("notify.post", {{"name", name}});
     return {{"missingFonts", missing}};
 }

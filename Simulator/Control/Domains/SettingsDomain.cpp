@@ -12,9 +12,9 @@ namespace Simulator::Control {
 
 namespace {
 
-constexpr const char* domain = "com.ostrel.lyrprefs";
-constexpr const char* settingsChanged = "com.ostrel.lyrprefs/ReloadPrefs";
-constexpr const char* coloursChanged = "com.ostrel.colorslyr/ReloadPrefs";
+constexpr const char* domain = LYR_SETTINGS_STORE;
+constexpr const char* settingsChanged = LYR_SETTINGS_CHANGED;
+constexpr const char* coloursChanged = LYR_COLOURS_CHANGED;
 
 /// The members that were asked for, or all.
 Json selected(const Json& values, const Json& parameters)
