@@ -1,7 +1,7 @@
 // What a long-running command lives by: it ends on a signal, and when nobody is left who could read its replies.
 #pragma once
 
-#include "Simulator/Files/Descriptor.hpp"
+#include "Simulator/Base/Descriptor.hpp"
 
 #include <chrono>
 #include <initializer_list>

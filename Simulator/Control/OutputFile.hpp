@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Simulator/Control/Wait.hpp"
-#include "Simulator/Files/Descriptor.hpp"
+#include "Simulator/Base/Descriptor.hpp"
 
 #include <filesystem>
 #include <optional>

@@ -2,7 +2,7 @@
 // and alpha. It is divided into square tiles, and only those that differ are written and sent on.
 #pragma once
 
-#include "Simulator/Files/Descriptor.hpp"
+#include "Simulator/Base/Descriptor.hpp"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 // The other extension that groups notifications by app: a row of icons above the list.
 #include "Platform/Foundation/NSArray.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
-#include "Simulator/SpringBoard/DeviceState.hpp"
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 namespace Simulator {

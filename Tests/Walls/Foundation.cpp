@@ -1,2 +1,2 @@
 // The loop and the files are plain C++; Foundation stands on them.
-#include "Simulator/Foundation/Foundation.hpp"
+#include "Simulator/Foundation/Mending.hpp"
