@@ -152,4 +152,9 @@ std::unique_ptr<Control::Shell> makeSimulatedPhone(const ShellOptions& options)
     return std::make_unique<SimulatedPhone>(options);
 }
 
+void checkExtension(const std::string& hostPath)
+{
+    ExtensionLoader::check(hostPath);
+}
+
 }

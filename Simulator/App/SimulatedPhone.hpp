@@ -6,5 +6,8 @@
 namespace Simulator::App {
 
 std::unique_ptr<Control::Shell> makeSimulatedPhone(const ShellOptions& = {});
+/// Says in a LoadError why a file of the host could not be loaded as an extension, as far as that can be known without
+/// running it.
+void checkExtension(const std::string& hostPath);
 
 }

@@ -6,6 +6,7 @@
 #include "Simulator/Runtime/ActivityLog.hpp"
 #include "Simulator/Runtime/Binder.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
+#include "Simulator/SpringBoard/SpringBoard.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/ViewDescription.hpp"
 #include "Tests/Support/PhoneTest.hpp"

@@ -1,3 +1,4 @@
+#include "Platform/UIKit/UIDevice.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
 #include "Recorder.hpp"
 #include "Simulator/Device/DeviceState.hpp"

@@ -12,26 +12,26 @@ struct Area {
     std::span<const Action> actions = {};
 };
 
-extern const Area fontArea;
-extern const Area colourArea;
-extern const Area positionArea;
-extern const Area dateArea;
-extern const Area widgetArea;
+[[gnu::visibility("hidden")]] extern const Area fontArea;
+[[gnu::visibility("hidden")]] extern const Area colourArea;
+[[gnu::visibility("hidden")]] extern const Area positionArea;
+[[gnu::visibility("hidden")]] extern const Area dateArea;
+[[gnu::visibility("hidden")]] extern const Area widgetArea;
 
 /// The panel itself, with its main segments.
-extern const Area panelArea;
+[[gnu::visibility("hidden")]] extern const Area panelArea;
 /// The buttons above the panel: done, and a tab for each element.
-extern const Area tabArea;
+[[gnu::visibility("hidden")]] extern const Area tabArea;
 /// The notice of where the user's fonts go. It covers what stands on the panel.
-extern const Area noticeArea;
+[[gnu::visibility("hidden")]] extern const Area noticeArea;
 LYR_EXTERN_VIEW(UI::View, _alertView);
 void showNotice(bool shown);
 /// Low-power mode, on and off. They stand on the lock screen itself.
-extern const Area batterySaverArea;
+[[gnu::visibility("hidden")]] extern const Area batterySaverArea;
 /// Into the editor, and out of it.
-extern const Area editModeArea;
+[[gnu::visibility("hidden")]] extern const Area editModeArea;
 /// The sheet of the system's colour wells.
-extern const Area colourSheetArea;
+[[gnu::visibility("hidden")]] extern const Area colourSheetArea;
 
 inline constexpr CGFloat panelHeight = 240;
 LYR_EXTERN_VIEW(UI::View, _optionView);

@@ -63,16 +63,16 @@ struct Widget {
 };
 
 /// Weather, in one cell or in two.
-extern const Widget weatherWidget;
+[[gnu::visibility("hidden")]] extern const Widget weatherWidget;
 void fillWeather(const WeatherItems& weather);
 
 /// Sun, alarm or event: all of them look alike.
-extern const Widget agendaWidget;
+[[gnu::visibility("hidden")]] extern const Widget agendaWidget;
 /// The icon stands in the middle of its slot, or beside what shares the line with it.
 void placeAgenda(const Slot& slot);
 
 /// The battery: a glyph or a bar that follows the charge in steps.
-extern const Widget batteryWidget;
+[[gnu::visibility("hidden")]] extern const Widget batteryWidget;
 LYR_EXTERN_VIEW(UI::ImageView, _BG);
 /// The bolts have a picture of their own until the first refresh.
 void prepareBattery();
