@@ -1,6 +1,6 @@
 // The battery in the status bar and the device's own reading of it.
-#include "ShellTest.hpp"
 #include "Platform/UIKit/UIDevice.hpp"
+#include "ShellTest.hpp"
 #include "Simulator/SpringBoard/BatteryView.hpp"
 #include "Spy.hpp"
 

@@ -1,5 +1,5 @@
-#include "Platform/UIKit/UIDevice.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
+#include "Platform/UIKit/UIDevice.hpp"
 #include "Recorder.hpp"
 #include "Simulator/Device/DeviceState.hpp"
 #include "UIKitTest.hpp"
