@@ -115,8 +115,8 @@ TEST_F(SettingsPages, HaveListsWithATitleForEachChoiceAndTheDefaultAmongThem)
 
 TEST_F(SettingsPages, OfferTheCodesThatTheLockScreenKnows)
 {
-    const std::map<std::string, std::vector<std::string>> codes = {
-        {"customFont", {"1", "2", "3", "4", "5"}}, {"colorTime", {"1", "2", "3", "4"}}, {"colorDate", {"1", "2", "3", "4"}}};
+    const std::map<std::string, std::vector<std::string>> codes = {{"customFont", {"1", "2", "3", "4", "5"}},
+        {"colorTime", {"1", "2", "3", "4"}}, {"colorDate", {"1", "2", "3", "4"}}};
     std::map<std::string, std::vector<std::string>> offered;
     for (const NS::Dictionary& cell : cells("PSLinkListCell"))
         if (codes.contains(text(cell, "key")))

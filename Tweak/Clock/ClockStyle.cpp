@@ -67,7 +67,8 @@ void applyTimeFont()
     if (choice >= 1 && choice <= 4)
         _timeLabel->setFont(fontNamed(builtIn[choice - 1]->get(), _sizeTimeLabel));
     else if (choice == 5)
-        _timeLabel->setFont(pickedOrStanding(NS::String::fromUTF8(Product::pickedTimeFontKey), standingTimeFont, _font1, _sizeTimeLabel));
+        _timeLabel->setFont(pickedOrStanding(
+            NS::String::fromUTF8(Product::pickedTimeFontKey), standingTimeFont, _font1, _sizeTimeLabel));
     standingTimeFont = _timeLabel->font();
 }
 

@@ -45,7 +45,8 @@ constexpr LetterCase asWritten = nullptr;
 template <class T>
 const T* chosen(std::span<const T> entries, int code)
 {
-    return code >= 1 && code <= static_cast<int>(entries.size()) ? &entries[static_cast<std::size_t>(code - 1)] : nullptr;
+    const bool exists = code >= 1 && code <= static_cast<int>(entries.size());
+    return exists ? &entries[static_cast<std::size_t>(code - 1)] : nullptr;
 }
 
 const LetterCase* chosenLetterCase()

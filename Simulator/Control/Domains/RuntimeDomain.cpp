@@ -99,7 +99,8 @@ Json globalValue(const std::string& name)
         return valueOf<double>(*variable);
     if (type == "Q")
         return valueOf<unsigned long>(*variable);
-    throw ProtocolError(ErrorCode::Internal, "the variable " + quote(name) + " is of a type that is not known: " + quote(variable->type));
+    throw ProtocolError(ErrorCode::Internal,
+        "the variable " + quote(name) + " is of a type that is not known: " + quote(variable->type));
 }
 
 }
