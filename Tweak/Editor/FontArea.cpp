@@ -1,5 +1,4 @@
 // The font of time and date: a wheel of all that are installed, and the size with its button to apply it.
-#include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Tweak/Editor/Areas.hpp"
 #include "Tweak/Editor/Storing.hpp"
 #include "Tweak/Fonts.hpp"

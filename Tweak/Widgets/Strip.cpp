@@ -1,10 +1,7 @@
 #include "Tweak/Widgets/Strip.hpp"
 
-#include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/UIKit/UIScreen.hpp"
-#include "Product/Names.hpp"
 #include "Tweak/ScreenWidth.hpp"
-#include "Tweak/TemplateImage.hpp"
 #include "Tweak/TextShadow.hpp"
 #include "Tweak/Widgets/StripColours.hpp"
 #include "Tweak/Widgets/StripGeometry.hpp"
