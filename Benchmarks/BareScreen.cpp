@@ -277,9 +277,9 @@ PangoLayoutPointer BareScreen::layoutOf(const Text& text, const Place& place) co
     pango_attr_list_unref(attributes);
     pango_layout_set_width(layout.get(), static_cast<int>(place.rect.width * PANGO_SCALE));
     pango_layout_set_ellipsize(layout.get(), PANGO_ELLIPSIZE_END);
-    if (text.alignment == TextAlignment::Center)
+    if (text.alignment == TextAlignment::center)
         pango_layout_set_alignment(layout.get(), PANGO_ALIGN_CENTER);
-    else if (text.alignment == TextAlignment::Right)
+    else if (text.alignment == TextAlignment::right)
         pango_layout_set_alignment(layout.get(), PANGO_ALIGN_RIGHT);
     return layout;
 }

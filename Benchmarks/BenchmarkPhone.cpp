@@ -1,3 +1,4 @@
+// The measured phone: started once, moved on by its clock, refreshed by messages.
 #include "Benchmarks/BenchmarkPhone.hpp"
 
 #include "Simulator/App/SimulatedPhone.hpp"
@@ -73,7 +74,7 @@ void forgetLog()
 
 WithoutWallpaper::WithoutWallpaper()
 {
-    Simulator::PhoneFiles::shared().setFault(Simulator::Control::wallpaperPath, Simulator::FileOperation::Read, EACCES);
+    Simulator::PhoneFiles::shared().setFault(Simulator::Control::wallpaperPath, Simulator::FileOperation::read, EACCES);
 }
 
 WithoutWallpaper::~WithoutWallpaper()

@@ -1,3 +1,4 @@
+// The formatters, made by ICU, and the lengths of what they write.
 #include "Benchmarks/CachedFormats.hpp"
 
 #include <unicode/smpdtfmt.h>

@@ -34,26 +34,26 @@ std::string verdict(double value, double aim)
 
 void Comparison::report()
 {
-    double work = median(work_);
-    double floor = median(floor_);
+    double work = median(m_work);
+    double floor = median(m_floor);
     double ratio = floor > 0 ? work / floor : 0;
-    state_.counters["median_us"] = work * 1e6;
-    state_.counters["floor_us"] = floor * 1e6;
-    state_.counters["ratio"] = ratio;
+    m_state.counters["median_us"] = work * 1e6;
+    m_state.counters["floor_us"] = floor * 1e6;
+    m_state.counters["ratio"] = ratio;
     std::string remark = fixed(ratio, 3) + " of the floor";
-    if (aim_) {
-        state_.counters["aim"] = *aim_;
-        remark += ", aim " + fixed(*aim_, 2) + " " + verdict(ratio, *aim_);
+    if (m_aim) {
+        m_state.counters["aim"] = *m_aim;
+        remark += ", aim " + fixed(*m_aim, 2) + " " + verdict(ratio, *m_aim);
     }
-    state_.SetLabel(remark);
+    m_state.SetLabel(remark);
 }
 
 void Limit::report()
 {
-    double work = median(times_);
-    state_.counters["median_us"] = work * 1e6;
-    state_.counters["limit_us"] = limit_ * 1e6;
-    state_.SetLabel(fixed(work * 1e6, 2) + " us, limit " + fixed(limit_ * 1e6, 2) + " us " + verdict(work, limit_));
+    double work = median(m_times);
+    m_state.counters["median_us"] = work * 1e6;
+    m_state.counters["limit_us"] = m_limit * 1e6;
+    m_state.SetLabel(fixed(work * 1e6, 2) + " us, limit " + fixed(m_limit * 1e6, 2) + " us " + verdict(work, m_limit));
 }
 
 }

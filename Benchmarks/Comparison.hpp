@@ -29,8 +29,8 @@ class Comparison {
 public:
     /// The aim is the ratio that the work should not exceed.
     explicit Comparison(benchmark::State& state, std::optional<double> aim = std::nullopt)
-        : state_(state)
-        , aim_(aim)
+        : m_state(state)
+        , m_aim(aim)
     {
     }
 
@@ -41,11 +41,11 @@ public:
         Work work, Floor floor, int repetitions = 1, TidyUp tidyUp = [] {})
     {
         bool workFirst = true;
-        for (auto unused : state_) {
+        for (auto unused : m_state) {
             (void)unused;
             double first = workFirst ? seconds(work, repetitions) : seconds(floor, repetitions);
             double second = workFirst ? seconds(floor, repetitions) : seconds(work, repetitions);
-            state_.SetIterationTime(workFirst ? first : second);
+            m_state.SetIterationTime(workFirst ? first : second);
             add((workFirst ? first : second) / repetitions, (workFirst ? second : first) / repetitions);
             workFirst = !workFirst;
             tidyUp();
@@ -56,46 +56,46 @@ public:
     /// Takes times that were measured elsewhere.
     void add(double work, double floor)
     {
-        work_.push_back(work);
-        floor_.push_back(floor);
+        m_work.push_back(work);
+        m_floor.push_back(floor);
     }
     void report();
 
 private:
-    benchmark::State& state_;
-    std::optional<double> aim_;
-    std::vector<double> work_;
-    std::vector<double> floor_;
+    benchmark::State& m_state;
+    std::optional<double> m_aim;
+    std::vector<double> m_work;
+    std::vector<double> m_floor;
 };
 
 /// Says beside the time whether the work stays below an absolute limit.
 class Limit {
 public:
     Limit(benchmark::State& state, double seconds)
-        : state_(state)
-        , limit_(seconds)
+        : m_state(state)
+        , m_limit(seconds)
     {
     }
 
     template <class Work>
     void run(Work work)
     {
-        for (auto unused : state_) {
+        for (auto unused : m_state) {
             (void)unused;
             add(seconds(work));
-            state_.SetIterationTime(times_.back());
+            m_state.SetIterationTime(m_times.back());
         }
         report();
     }
 
     /// Takes a time that was measured elsewhere.
-    void add(double time) { times_.push_back(time); }
+    void add(double time) { m_times.push_back(time); }
     void report();
 
 private:
-    benchmark::State& state_;
-    double limit_;
-    std::vector<double> times_;
+    benchmark::State& m_state;
+    double m_limit;
+    std::vector<double> m_times;
 };
 
 }

@@ -1,3 +1,4 @@
+// How long the wheel of fonts takes to open, beside the bare making of its rows.
 #include "Benchmarks/EditorBenchmarks.hpp"
 
 #include "Benchmarks/Comparison.hpp"

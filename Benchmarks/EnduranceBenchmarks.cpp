@@ -87,20 +87,21 @@ void memoryOfTenThousandAppearances(benchmark::State& state)
 class LastLook {
 public:
     LastLook()
-        : _keepsWidgets(*static_cast<bool*>(Simulator::ExtensionLoader::shared().variable("_showWidgetLastLook")->address))
+        : m_keepsWidgets(
+            *static_cast<bool*>(Simulator::ExtensionLoader::shared().variable("_showWidgetLastLook")->address))
     {
         Simulator::PhoneFiles::shared().put(library, "LastLook");
-        _keepsWidgets = true;
+        m_keepsWidgets = true;
     }
     ~LastLook()
     {
         Simulator::PhoneFiles::shared().remove(library);
-        _keepsWidgets = false;
+        m_keepsWidgets = false;
     }
 
 private:
     static constexpr const char* library = "/Library/MobileSubstrate/DynamicLibraries/LastLook.dylib";
-    bool& _keepsWidgets;
+    bool& m_keepsWidgets;
 };
 
 /// As long as a locked phone is refreshed every minute: five hours.

@@ -18,7 +18,7 @@ namespace {
 using namespace Benchmarks;
 using namespace Simulator;
 
-// Beyond this, the bare calls draw something else. Edges and letters differ by fractions of a pixel.
+/// Beyond this, the bare calls draw something else. Edges and letters differ by fractions of a pixel.
 constexpr double mostDistance = 0.1;
 
 std::vector<std::filesystem::path> fontFiles()

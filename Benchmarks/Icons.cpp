@@ -1,3 +1,4 @@
+// Reading and writing of PNG files by libpng alone.
 #include "Benchmarks/Icons.hpp"
 
 #include <cstdint>

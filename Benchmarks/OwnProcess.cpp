@@ -1,3 +1,4 @@
+// Starts this program again, and reads what it prints.
 #include "Benchmarks/OwnProcess.hpp"
 
 #include <cstdio>

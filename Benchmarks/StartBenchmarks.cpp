@@ -1,3 +1,4 @@
+// Start-up, with and without fonts, of the Linux library and of the phone's own.
 #include "Benchmarks/StartBenchmarks.hpp"
 
 #include "Benchmarks/Comparison.hpp"

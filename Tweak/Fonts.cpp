@@ -52,7 +52,7 @@ FileState stateOf(const NS::FileAttributes& file)
     return {file.fileSize(), file.fileSystemFileNumber(), file.fileModificationDate().timeIntervalSinceReferenceDate()};
 }
 
-// In the order of loading.
+/// In the order of loading.
 const BuiltInFont builtInFonts[] = {
     {[] { return LYR_PREFIX LYR_RESOURCES "time1.ttf"_ns; }, &_font1},
     {[] { return LYR_PREFIX LYR_RESOURCES "time2.ttf"_ns; }, &_font2},

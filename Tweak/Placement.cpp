@@ -1,3 +1,4 @@
+// Works out the frame of a row.
 #include "Tweak/Placement.hpp"
 
 #include <algorithm>

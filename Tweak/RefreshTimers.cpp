@@ -1,3 +1,4 @@
+// Starts and stops the timers, and reaches the clock by its own message.
 #include "Tweak/RefreshTimers.hpp"
 
 #include "Platform/Companions/WeatherApp.hpp"

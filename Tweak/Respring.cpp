@@ -1,3 +1,4 @@
+// Ends the shell, which the system then starts again.
 #include "Tweak/Respring.hpp"
 
 #include "Platform/SpringBoard/FBSystemService.hpp"

@@ -24,7 +24,7 @@ LYR_VARIABLE(ObjC::Variable<NS::Dictionary>, _preferencesDictionary);
 
 NS::Object ObjectSetting::usableValue() const
 {
-    NS::Object value = value_;
+    NS::Object value = m_value;
     if (value.is<NS::String>() || value.is<NS::Number>())
         return value;
     return fallback();

@@ -13,12 +13,12 @@ namespace LYR {
 class ObjectSetting {
 public:
     constexpr ObjectSetting(const char* key, const char* fallback)
-        : key_(key)
-        , fallback_(fallback)
+        : m_key(key)
+        , m_fallback(fallback)
     {
     }
 
-    NS::String key() const { return NS::String::fromUTF8(key_); }
+    NS::String key() const { return NS::String::fromUTF8(m_key); }
 
     /// The whole number; 0 for text that is none.
     int intValue() const { return usableValue().send<int, "intValue">(); }
@@ -27,16 +27,16 @@ public:
     NS::String stringValue() const;
 
     /// Shows a value at once that is being stored.
-    void assign(const NS::Object& value) { value_ = value; }
-    constexpr id* address() { return value_.address(); }
-    NS::String fallback() const { return NS::String::fromUTF8(fallback_); }
+    void assign(const NS::Object& value) { m_value = value; }
+    constexpr id* address() { return m_value.address(); }
+    NS::String fallback() const { return NS::String::fromUTF8(m_fallback); }
 
 private:
     NS::Object usableValue() const;
 
-    ObjC::Variable<NS::Object> value_;
-    const char* key_;
-    const char* fallback_;
+    ObjC::Variable<NS::Object> m_value;
+    const char* m_key;
+    const char* m_fallback;
 };
 
 #define LYR_DECLARE_FLAG(variable, ...) extern constinit bool variable;

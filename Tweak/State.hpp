@@ -9,7 +9,7 @@
 
 namespace LYR {
 
-// The clock: made when the stock date view controller loads.
+/// The clock: made when the stock date view controller loads.
 LYR_EXTERN_VIEW(UI::Label, _timeLabel);
 LYR_EXTERN_VIEW(UI::Label, _dateLabel);
 /// Stands in the date's place while a timer runs.
@@ -19,7 +19,7 @@ LYR_EXTERN_VIEW(UI::View, _dateBorderView);
 /// The strip of widgets under the clock; nil until the cover sheet is loaded.
 LYR_EXTERN_VIEW(UI::View, _widgetView);
 
-// The stock controllers and views that were seen last.
+/// The stock controllers and views that were seen last.
 extern constinit ObjC::Variable<SB::FLockScreenDateViewController> dateView;
 extern constinit ObjC::Variable<SB::FLockScreenDateView> lockscreenDateView;
 extern constinit ObjC::Variable<NC::StructuredListViewController> _notifVC;

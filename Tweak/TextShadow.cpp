@@ -1,3 +1,4 @@
+// One shadow for every text, as the settings want it.
 #include "Tweak/TextShadow.hpp"
 
 #include "Tweak/Settings.hpp"

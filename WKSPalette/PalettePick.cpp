@@ -31,7 +31,7 @@ constexpr bool ranksAbove(const Candidate& left, const Candidate& right)
 
 /// Every colour once, with the number of its pixels, in the order of appearance. Open addressing at most half
 /// full: the slots hold one more than the index of a candidate.
-std::vector<Candidate> countColors(std::span<const WKSColor> pixels)
+std::vector<Candidate> countColours(std::span<const WKSColor> pixels)
 {
     std::vector<Candidate> candidates;
     candidates.reserve(pixels.size());
@@ -89,9 +89,9 @@ WKSColor pickBackground(const std::vector<Candidate>& candidates)
 
 }
 
-PickedColors pickPalette(std::span<const WKSColor> pixels)
+PickedColours pickPalette(std::span<const WKSColor> pixels)
 {
-    std::vector<Candidate> candidates = countColors(pixels);
+    std::vector<Candidate> candidates = countColours(pixels);
     countCells(candidates);
     WKSColor background = pickBackground(candidates);
     bool textIsDark = !background.isDark();

@@ -7,13 +7,13 @@
 
 namespace LYR {
 
-struct PickedColors {
+struct PickedColours {
     WKSColor background;
     WKSColor primary;
     WKSColor secondary;
     WKSColor detail;
 
-    constexpr bool operator==(const PickedColors&) const = default;
+    constexpr bool operator==(const PickedColours&) const = default;
 };
 
 /// The background is the most frequent colour that is not black or white, else the most frequent one. The text
@@ -21,6 +21,6 @@ struct PickedColors {
 /// one another; where there is none left, white stands on a dark background and black on a light one. Of colours
 /// that are equally frequent the one wins that more pixels are like, in red, green and blue of four bits each, and
 /// then the one with the smaller packed value. No pixels at all count as black.
-PickedColors pickPalette(std::span<const WKSColor> pixels);
+PickedColours pickPalette(std::span<const WKSColor> pixels);
 
 }

@@ -67,7 +67,7 @@ private:
     constexpr bool isGrey() const { return distance(r, g) < 7 && distance(r, b) < 7; }
 };
 
-// A bitmap of red, green, blue and alpha bytes is a row of colours.
+/// A bitmap of red, green, blue and alpha bytes is a row of colours.
 static_assert(sizeof(WKSColor) == 4);
 
 /// The colour with its saturation raised to the minimum; the same object if it is saturated enough already, is nil or

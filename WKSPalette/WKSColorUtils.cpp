@@ -36,7 +36,7 @@ std::size_t reduced(std::size_t edge, std::size_t longerEdge)
     return std::max<std::size_t>(length, 1);
 }
 
-WKSPalette makePalette(const PickedColors& colors, double alpha)
+WKSPalette makePalette(const PickedColours& colors, double alpha)
 {
     WKSPalette palette = WKSPalette::make();
     palette.setBackground(colors.background.uicolorWithAlpha(alpha));

@@ -77,9 +77,9 @@ Surface draw(const char* path, int width, int height)
     return surface;
 }
 
-enum class Ink { Black, Coloured };
+enum class Ink { black, coloured };
 
-// A template image is only its transparency: colour would be lost on the phone. A blank picture is a slip.
+/// A template image is only its transparency: colour would be lost on the phone. A blank picture is a slip.
 void check(const char* path, Ink ink, cairo_surface_t* surface)
 {
     bool isBlank = true;
@@ -87,7 +87,7 @@ void check(const char* path, Ink ink, cairo_surface_t* surface)
     for (int y = 0; y < cairo_image_surface_get_height(surface); ++y, row += cairo_image_surface_get_stride(surface)) {
         const auto* pixels = reinterpret_cast<const std::uint32_t*>(row);
         for (int x = 0; x < cairo_image_surface_get_width(surface); ++x) {
-            if (ink == Ink::Black && pixels[x] & 0xFFFFFF)
+            if (ink == Ink::black && pixels[x] & 0xFFFFFF)
                 throw Failure{1,
                     std::string(path) + " has colour at pixel " + std::to_string(x) + "," + std::to_string(y)
                         + "; an icon is black on transparent"};
@@ -96,11 +96,11 @@ void check(const char* path, Ink ink, cairo_surface_t* surface)
     }
     if (isBlank)
         throw Failure{1,
-            std::string(path) + " draws nothing; an icon is " + (ink == Ink::Black ? "black" : "coloured")
+            std::string(path) + " draws nothing; an icon is " + (ink == Ink::black ? "black" : "coloured")
                 + " on transparent"};
 }
 
-// Through a neighbour, so that a build that is cut short leaves no half a picture.
+/// Through a neighbour, so that a build that is cut short leaves no half a picture.
 void write(const std::string& path, cairo_surface_t* surface)
 {
     const std::string unfinished = path + ".part";
@@ -123,7 +123,7 @@ void run(int count, char** arguments)
     const int width = readSide("WIDTH", arguments[3]);
     const int height = readSide("HEIGHT", arguments[4]);
     const Surface surface = draw(arguments[1], width, height);
-    check(arguments[1], isColoured ? Ink::Coloured : Ink::Black, surface.get());
+    check(arguments[1], isColoured ? Ink::coloured : Ink::black, surface.get());
     write(arguments[2], surface.get());
 }
 

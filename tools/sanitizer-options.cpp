@@ -6,8 +6,8 @@ extern "C" const char* __asan_default_options()
     return "handle_segv=0";
 }
 
-// What the leak check of a sanitized build is not told about: the tables that the Objective-C runtime and Foundation make
-// once and keep until the process ends. Objects have counters of their own in the tests.
+/// What the leak check of a sanitized build is not told about: the tables that the Objective-C runtime and Foundation
+/// make once and keep until the process ends. Objects have counters of their own in the tests.
 extern "C" const char* __lsan_default_suppressions()
 {
     return "leak:libobjc.so\n"

@@ -18,28 +18,28 @@ template <class Reference, void (*releaseFunction)(Reference)>
 class Owned {
 public:
     explicit Owned(Reference reference = nullptr)
-        : reference_(reference)
+        : m_reference(reference)
     {
     }
     Owned(Owned&& other) noexcept
-        : reference_(std::exchange(other.reference_, nullptr))
+        : m_reference(std::exchange(other.m_reference, nullptr))
     {
     }
     Owned& operator=(Owned&& other) noexcept
     {
-        std::swap(reference_, other.reference_);
+        std::swap(m_reference, other.m_reference);
         return *this;
     }
     ~Owned()
     {
-        if (reference_)
-            releaseFunction(reference_);
+        if (m_reference)
+            releaseFunction(m_reference);
     }
-    explicit operator bool() const { return reference_ != nullptr; }
-    Reference get() const { return reference_; }
+    explicit operator bool() const { return m_reference != nullptr; }
+    Reference get() const { return m_reference; }
 
 private:
-    Reference reference_;
+    Reference m_reference;
 };
 
 }

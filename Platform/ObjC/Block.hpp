@@ -38,18 +38,18 @@ public:
 
     template <std::convertible_to<void (*)(Arguments...)> Function>
     requires(!std::same_as<Function, std::nullptr_t>) Block(Function function)
-        : literal_{{_NSConcreteStackBlock, 0, 0, reinterpret_cast<void (*)()>(&callPlain), &descriptor}, nullptr,
+        : m_literal{{_NSConcreteStackBlock, 0, 0, reinterpret_cast<void (*)()>(&callPlain), &descriptor}, nullptr,
             reinterpret_cast<void (*)()>(static_cast<void (*)(Arguments...)>(function))}
     {
     }
     Block(void* context, void (*function)(void* context, Arguments...))
-        : literal_{{_NSConcreteStackBlock, 0, 0, reinterpret_cast<void (*)()>(&callWithContext), &descriptor}, context,
+        : m_literal{{_NSConcreteStackBlock, 0, 0, reinterpret_cast<void (*)()>(&callWithContext), &descriptor}, context,
             reinterpret_cast<void (*)()>(function)}
     {
     }
 
     /// The block as an argument of a message; null for none.
-    void* raw() const { return literal_.function ? const_cast<Literal*>(&literal_) : nullptr; }
+    void* raw() const { return m_literal.function ? const_cast<Literal*>(&m_literal) : nullptr; }
 
 private:
     struct Literal {
@@ -69,7 +69,7 @@ private:
             block->context, fromWire<Arguments>(arguments)...);
     }
 
-    Literal literal_;
+    Literal m_literal;
 };
 
 }

@@ -49,7 +49,7 @@ inline IMP inheritedImplementation(SEL command)
 class ClassBuilder {
 public:
     ClassBuilder(const char* name, Class superclass)
-        : class_(superclass ? objc_allocateClassPair(superclass, name, 0) : nullptr)
+        : m_class(superclass ? objc_allocateClassPair(superclass, name, 0) : nullptr)
     {
     }
 
@@ -57,29 +57,29 @@ public:
     ClassBuilder& ivar(const char* name)
     {
         constexpr std::uint8_t alignment = alignof(T) == 8 ? 3 : alignof(T) == 4 ? 2 : alignof(T) == 2 ? 1 : 0;
-        if (class_)
-            class_addIvar(class_, name, sizeof(T), alignment, encodingOf<T>().data());
+        if (m_class)
+            class_addIvar(m_class, name, sizeof(T), alignment, encodingOf<T>().data());
         return *this;
     }
 
     template <FixedString name, auto function>
     ClassBuilder& method()
     {
-        return add<name, function>(class_);
+        return add<name, function>(m_class);
     }
 
     template <FixedString name, auto function>
     ClassBuilder& classMethod()
     {
-        return add<name, function>(class_ ? object_getClass(reinterpret_cast<id>(class_)) : nullptr);
+        return add<name, function>(m_class ? object_getClass(reinterpret_cast<id>(m_class)) : nullptr);
     }
 
     /// The registered class; nil if the name was taken or the superclass is missing.
     Class build()
     {
-        if (class_)
-            objc_registerClassPair(class_);
-        return class_;
+        if (m_class)
+            objc_registerClassPair(m_class);
+        return m_class;
     }
 
 private:
@@ -94,7 +94,7 @@ private:
         return *this;
     }
 
-    Class class_;
+    Class m_class;
 };
 
 }

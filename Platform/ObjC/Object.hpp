@@ -16,22 +16,22 @@ public:
     constexpr Object() = default;
     constexpr Object(std::nullptr_t) { }
     explicit Object(id object)
-        : object_(ObjC::retain(object))
+        : m_object(ObjC::retain(object))
     {
     }
     Object(const Object& other)
-        : object_(ObjC::retain(other.object_))
+        : m_object(ObjC::retain(other.m_object))
     {
     }
     Object(Object&& other) noexcept
-        : object_(std::exchange(other.object_, nullptr))
+        : m_object(std::exchange(other.m_object, nullptr))
     {
     }
-    ~Object() { ObjC::release(object_); }
+    ~Object() { ObjC::release(m_object); }
 
     Object& operator=(Object other) noexcept
     {
-        std::swap(object_, other.object_);
+        std::swap(m_object, other.m_object);
         return *this;
     }
 
@@ -39,18 +39,18 @@ public:
     static Object adopting(id object)
     {
         Object handle;
-        handle.object_ = object;
+        handle.m_object = object;
         return handle;
     }
 
-    id raw() const { return object_; }
-    explicit operator bool() const { return object_ != nullptr; }
-    friend bool operator==(const Object& left, const Object& right) { return left.object_ == right.object_; }
+    id raw() const { return m_object; }
+    explicit operator bool() const { return m_object != nullptr; }
+    friend bool operator==(const Object& left, const Object& right) { return left.m_object == right.m_object; }
 
     /// Gives the retain away to the caller.
-    id leak() { return std::exchange(object_, nullptr); }
+    id leak() { return std::exchange(m_object, nullptr); }
     /// The object as a method returns it: alive until the pool drains.
-    id autoreleased() const { return ObjC::autorelease(ObjC::retain(object_)); }
+    id autoreleased() const { return ObjC::autorelease(ObjC::retain(m_object)); }
 
     template <class Result, FixedString name, class... Arguments>
     Result send(const Arguments&... arguments) const
@@ -69,14 +69,14 @@ public:
     template <class T>
     bool is() const
     {
-        return object_ && isKindOf(T::type());
+        return m_object && isKindOf(T::type());
     }
 
     /// The object as a facade of its class; nil if it is of another class.
     template <class T>
     T as() const
     {
-        return is<T>() ? T(object_) : T();
+        return is<T>() ? T(m_object) : T();
     }
 
     /// The instance variable of that name, wherever the class keeps it.
@@ -96,11 +96,11 @@ protected:
     {
         static_assert(!isInitializer(name.view()), "initializers consume their receiver: use make<\"init…\">");
         listMessage<'-', className, Result, name, Arguments...>();
-        return sendMessage<Result, returnsOwned(name.view())>(object_, selector<name>(), arguments...);
+        return sendMessage<Result, returnsOwned(name.view())>(m_object, selector<name>(), arguments...);
     }
 
 private:
-    id object_ = nullptr;
+    id m_object = nullptr;
 };
 
 /// The storage of one instance variable, found by name; empty if the object is nil or has none of that name.
@@ -111,18 +111,18 @@ public:
     {
         Ivar found = object ? class_getInstanceVariable(object_getClass(object), name) : nullptr;
         if (found)
-            storage_ = reinterpret_cast<T*>(reinterpret_cast<char*>(object) + ivar_getOffset(found));
+            m_storage = reinterpret_cast<T*>(reinterpret_cast<char*>(object) + ivar_getOffset(found));
     }
-    explicit operator bool() const { return storage_ != nullptr; }
-    T get() const { return storage_ ? *storage_ : T(); }
+    explicit operator bool() const { return m_storage != nullptr; }
+    T get() const { return m_storage ? *m_storage : T(); }
     void set(T value) const
     {
-        if (storage_)
-            *storage_ = value;
+        if (m_storage)
+            *m_storage = value;
     }
 
 private:
-    T* storage_ = nullptr;
+    T* m_storage = nullptr;
 };
 
 /// The object in an instance variable that owns what it holds.
@@ -143,7 +143,7 @@ inline void setOwnedVariable(id object, const char* name, const Object& value)
 template <class T>
 InstanceVariable<T> Object::variable(const char* name) const
 {
-    return {object_, name};
+    return {m_object, name};
 }
 
 template <Handle T>
@@ -209,28 +209,28 @@ public:
 
     Variable& operator=(const T& value)
     {
-        id previous = std::exchange(object_, ObjC::retain(value.raw()));
+        id previous = std::exchange(m_object, ObjC::retain(value.raw()));
         ObjC::release(previous);
         return *this;
     }
 
-    T get() const { return T(object_); }
-    operator T() const { return T(object_); }
-    explicit operator bool() const { return object_ != nullptr; }
-    id raw() const { return object_; }
-    constexpr id* address() { return &object_; }
-    constexpr const id* address() const { return &object_; }
+    T get() const { return T(m_object); }
+    operator T() const { return T(m_object); }
+    explicit operator bool() const { return m_object != nullptr; }
+    id raw() const { return m_object; }
+    constexpr id* address() { return &m_object; }
+    constexpr const id* address() const { return &m_object; }
 
     /// What it holds as a handle in place, without a retain of its own.
     const T& reference() const
     {
         static_assert(sizeof(T) == sizeof(id), "a facade adds no state to the handle");
-        return reinterpret_cast<const T&>(object_);
+        return reinterpret_cast<const T&>(m_object);
     }
     const T* operator->() const { return &reference(); }
 
 private:
-    id object_ = nullptr;
+    id m_object = nullptr;
 };
 
 /// A variable that knows its name.

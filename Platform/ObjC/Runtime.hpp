@@ -77,15 +77,15 @@ inline Class metaclassOf(Class type)
 class AutoreleasePool {
 public:
     AutoreleasePool()
-        : pool_(objc_autoreleasePoolPush())
+        : m_pool(objc_autoreleasePoolPush())
     {
     }
-    ~AutoreleasePool() { objc_autoreleasePoolPop(pool_); }
+    ~AutoreleasePool() { objc_autoreleasePoolPop(m_pool); }
     AutoreleasePool(const AutoreleasePool&) = delete;
     AutoreleasePool& operator=(const AutoreleasePool&) = delete;
 
 private:
-    void* pool_;
+    void* m_pool;
 };
 
 #else
@@ -125,15 +125,15 @@ inline Class metaclassOf(Class type)
 class AutoreleasePool {
 public:
     AutoreleasePool()
-        : pool_(plainMessage<id>(reinterpret_cast<id>(objc_getClass("NSAutoreleasePool")), sel_registerName("new")))
+        : m_pool(plainMessage<id>(reinterpret_cast<id>(objc_getClass("NSAutoreleasePool")), sel_registerName("new")))
     {
     }
-    ~AutoreleasePool() { plainMessage<void>(pool_, sel_registerName("drain")); }
+    ~AutoreleasePool() { plainMessage<void>(m_pool, sel_registerName("drain")); }
     AutoreleasePool(const AutoreleasePool&) = delete;
     AutoreleasePool& operator=(const AutoreleasePool&) = delete;
 
 private:
-    id pool_;
+    id m_pool;
 };
 
 #endif

@@ -24,7 +24,7 @@ namespace {
 constexpr int failed = 1;
 constexpr int badUsage = 2;
 
-// An option with one value that is checked as the protocol does it.
+/// An option with one value that is checked as the protocol does it.
 CLI::Option* takes(CLI::Option* option, const Type& type, const char* form)
 {
     return option->type_name(form)->check([type](const std::string& text) {
@@ -32,7 +32,7 @@ CLI::Option* takes(CLI::Option* option, const Type& type, const char* form)
     });
 }
 
-// "375x812@3"
+/// "375x812@3"
 std::optional<Json> screenOf(const std::string& text)
 {
     double width = 0, height = 0, scale = 0;
@@ -43,7 +43,7 @@ std::optional<Json> screenOf(const std::string& text)
     return complaint("screen", screenType(), screen) ? std::nullopt : std::optional(screen);
 }
 
-// The commands' options as they are filled in by the parser.
+/// The commands' options as they are filled in by the parser.
 struct Values {
     StartOptions start;
     std::map<std::string, std::string> single; // single values of `phone.start`
@@ -60,7 +60,8 @@ struct Values {
 
 void addExtension(CLI::App& command, Values& values)
 {
-    command.add_option("--extension", values.shellOptions.extension, "The extension: a library of Linux or of the phone")
+    command
+        .add_option("--extension", values.shellOptions.extension, "The extension: a library of Linux or of the phone")
         ->type_name("FILE");
 }
 
@@ -69,7 +70,7 @@ void addVerbose(CLI::App& command, Values& values)
     command.add_flag("--verbose", values.shellOptions.isVerbose, "Print the extension's log on standard error");
 }
 
-// A shell process for another processor, under an emulator; nothing for users.
+/// A shell process for another processor, under an emulator; nothing for users.
 void addShellProgram(CLI::App& command, Values& values)
 {
     command.add_option("--shell", values.shell)->group("");
@@ -162,7 +163,7 @@ void addLook(CLI::App& app, Values& values)
     }
 }
 
-// How the program runs itself; nothing for users.
+/// How the program runs itself; nothing for users.
 void addShell(CLI::App& app, Values& values)
 {
     CLI::App& command = *app.add_subcommand("shell")->group("");
@@ -208,7 +209,7 @@ int runShell(const Values& values, const PhoneKind& kind)
     return ShellProcess(*shell, Descriptor(values.socket)).run();
 }
 
-// The file itself is looked at first, so that what is wrong with it is said at once.
+/// The file itself is looked at first, so that what is wrong with it is said at once.
 std::vector<std::string> shellCommand(const Values& values, const PhoneKind& kind)
 {
     std::vector<std::string> command{values.shell, "shell"};

@@ -12,14 +12,14 @@ struct ShellOptions {
     bool isVerbose = false; // the extension's log goes to standard error
 };
 
-// The simulated phone that a shell process runs, and the methods it has.
+/// The simulated phone that a shell process runs, and the methods it has.
 struct PhoneKind {
     std::unique_ptr<Control::Shell> (*make)(const ShellOptions&);
     void (*checkExtension)(const std::string& extension); // throws to say why it cannot be loaded
     const std::vector<Control::Method>& methods;
 };
 
-// Answers the exit status: 0, 1 for a failure, 2 for bad usage.
+/// Answers the exit status: 0, 1 for a failure, 2 for bad usage.
 int run(int argumentCount, char** arguments, const PhoneKind&);
 
 }

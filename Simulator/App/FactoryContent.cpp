@@ -1,3 +1,4 @@
+// Finds the share folder beside the program, and fills a phone's root from it.
 #include "Simulator/App/FactoryContent.hpp"
 
 #include "Simulator/Control/RootFolder.hpp"

@@ -34,18 +34,18 @@ Lifeline::Lifeline()
     const sigset_t signals = endingSignals();
     sigprocmask(SIG_BLOCK, &signals, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
-    _signals = Descriptor(signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK));
+    m_signals = Descriptor(signalfd(-1, &signals, SFD_CLOEXEC | SFD_NONBLOCK));
 }
 
 void Lifeline::watchStreams(int input, int output)
 {
-    _input = input;
-    _output = output;
+    m_input = input;
+    m_output = output;
 }
 
 void Lifeline::waitForInput(std::initializer_list<int> descriptors) const
 {
-    std::vector<pollfd> entries{{_signals.number(), POLLIN, 0}};
+    std::vector<pollfd> entries{{m_signals.number(), POLLIN, 0}};
     for (const int descriptor : descriptors)
         entries.push_back({descriptor, POLLIN, 0});
     while (poll(entries.data(), entries.size(), -1) < 0 && errno == EINTR) { }
@@ -57,7 +57,7 @@ void Lifeline::wait(int descriptor, short events)
     for (;;) {
         // Without events of their own the streams report only that their other end is gone.
         pollfd entries[]{
-            {descriptor, events, 0}, {_signals.number(), POLLIN, 0}, {_end ? -1 : _input, 0, 0}, {_output, 0, 0}};
+            {descriptor, events, 0}, {m_signals.number(), POLLIN, 0}, {m_end ? -1 : m_input, 0, 0}, {m_output, 0, 0}};
         const int count = poll(entries, std::size(entries), timeLeft());
         throwIfSignalled();
         if (count > 0 && entries[0].revents)
@@ -65,24 +65,24 @@ void Lifeline::wait(int descriptor, short events)
         if (count > 0 && entries[3].revents)
             throw Interrupted{};
         if (count > 0 && entries[2].revents)
-            _end = Clock::now() + timeAfterEndOfInput;
-        if (count == 0 && _end)
+            m_end = Clock::now() + timeAfterEndOfInput;
+        if (count == 0 && m_end)
             throw Interrupted{};
     }
 }
 
 int Lifeline::timeLeft() const
 {
-    if (!_end)
+    if (!m_end)
         return -1;
-    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*_end - Clock::now());
+    const auto left = std::chrono::ceil<std::chrono::milliseconds>(*m_end - Clock::now());
     return static_cast<int>(std::max<std::int64_t>(0, left.count()));
 }
 
 void Lifeline::throwIfSignalled() const
 {
     signalfd_siginfo arrived;
-    if (read(_signals.number(), &arrived, sizeof arrived) == sizeof arrived)
+    if (read(m_signals.number(), &arrived, sizeof arrived) == sizeof arrived)
         throw Interrupted{static_cast<int>(arrived.ssi_signo)};
 }
 

@@ -5,7 +5,7 @@
 
 namespace Simulator::App {
 
-// Answer the exit status; throw a Failure or a ProtocolError.
+/// Answer the exit status; throw a Failure or a ProtocolError.
 int exportLook(const std::string& root, const std::string& file);
 int importLook(const std::string& root, const std::string& file);
 

@@ -1,3 +1,4 @@
+// The weather, alarm, event and battery of a phone in use, by its own clock.
 #include "Simulator/App/PhoneInUse.hpp"
 
 #include "Simulator/Text/LocalTime.hpp"
@@ -16,13 +17,13 @@ constexpr double minute = 60;
 constexpr double hour = 60 * minute;
 constexpr double day = 24 * hour;
 
-// Where a clock shows the text, whatever its zone. The text was checked before.
+/// Where a clock shows the text, whatever its zone. The text was checked before.
 double momentOf(const std::string& text)
 {
     return momentOfLocalTime(text, "UTC").value_or(0);
 }
 
-// The time of day when it comes next; the last moment that the phone can be told where it comes no more.
+/// The time of day when it comes next; the last moment that the phone can be told where it comes no more.
 std::string next(double timeOfDay, double moment)
 {
     const double today = std::floor(moment / day) * day + timeOfDay;

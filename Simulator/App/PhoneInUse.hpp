@@ -5,11 +5,11 @@
 
 namespace Simulator::App {
 
-// Battery, weather, alarm and events, as `device.set` takes them, of somebody's phone at a local time. What lies ahead
-// of it lies within a day.
+/// Battery, weather, alarm and events, as `device.set` takes them, of somebody's phone at a local time. What lies ahead
+/// of it lies within a day.
 Control::Json phoneInUse(const std::string& time);
 
-// The host's time in a zone of the phone, "2020-11-15T21:41:00".
+/// The host's time in a zone of the phone, "2020-11-15T21:41:00".
 std::string localTimeNow(const std::string& timeZone);
 
 }

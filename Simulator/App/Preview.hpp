@@ -12,7 +12,7 @@ struct PreviewOptions {
     int port = 0; // 0 for any that is free
 };
 
-// Until it is interrupted. Throws a Failure or a ProtocolError.
+/// Until it is interrupted. Throws a Failure or a ProtocolError.
 int preview(const PreviewOptions&, Control::Supervisor::Options);
 
 }

@@ -14,22 +14,22 @@ using namespace Control;
 
 namespace {
 
-// A lock screen of the longest settings has long settled by then.
+/// A lock screen of the longest settings has long settled by then.
 constexpr double settlingSeconds = 2;
 constexpr double longestTimer = 86400;
 
-// One line on standard error that the next one replaces; silent unless that is a terminal.
+/// One line on standard error that the next one replaces; silent unless that is a terminal.
 class Progress {
 public:
     ~Progress() { show(""); }
     void show(const std::string& text) const
     {
-        if (_isTerminal)
+        if (m_isTerminal)
             std::cerr << "\r\033[K" << text << std::flush;
     }
 
 private:
-    bool _isTerminal = isatty(STDERR_FILENO);
+    bool m_isTerminal = isatty(STDERR_FILENO);
 };
 
 void takePicture(const RenderOptions& options, Supervisor& supervisor, const OutputFile& output)
@@ -60,7 +60,7 @@ int render(const RenderOptions& options, Supervisor::Options supervisorOptions)
     try {
         Lifeline lifeline;
         supervisorOptions.wait = [&](int descriptor, short events) { lifeline.wait(descriptor, events); };
-        const OutputFile output(options.output, OutputFile::OwnStreams::Taken, supervisorOptions.wait);
+        const OutputFile output(options.output, OutputFile::OwnStreams::taken, supervisorOptions.wait);
         // Nothing follows a picture on standard output.
         saysPath = !output.isStandardOutput();
         Supervisor supervisor(std::move(supervisorOptions));

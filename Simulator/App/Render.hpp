@@ -11,7 +11,7 @@ struct RenderOptions {
     std::string output;
 };
 
-// Answers the exit status; throws a Failure or a ProtocolError.
+/// Answers the exit status; throws a Failure or a ProtocolError.
 int render(const RenderOptions&, Control::Supervisor::Options);
 
 }

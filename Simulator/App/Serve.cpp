@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t longestRequest = std::size_t(64) << 20;
 
-// False when nobody reads any more.
+/// False when nobody reads any more.
 bool writeLine(std::string line)
 {
     line += '\n';
@@ -32,19 +32,19 @@ bool writeLine(std::string line)
 class Server {
 public:
     explicit Server(Supervisor::Options options)
-        : _supervisor(withWait(std::move(options), _lifeline))
+        : m_supervisor(withWait(std::move(options), m_lifeline))
     {
-        _lifeline.watchStreams(STDIN_FILENO, STDOUT_FILENO);
+        m_lifeline.watchStreams(STDIN_FILENO, STDOUT_FILENO);
     }
 
     void run()
     {
-        while (answerArrived() && !_isAtEnd) {
-            _lifeline.waitForInput({STDIN_FILENO, _supervisor.descriptor()});
-            _supervisor.notice();
+        while (answerArrived() && !m_isAtEnd) {
+            m_lifeline.waitForInput({STDIN_FILENO, m_supervisor.descriptor()});
+            m_supervisor.notice();
             readArrived();
         }
-        _supervisor.stop();
+        m_supervisor.stop();
     }
 
 private:
@@ -56,8 +56,8 @@ private:
 
     bool answerArrived()
     {
-        while (const auto line = _lines.next()) {
-            const auto reply = line->isTooLong ? tooLong() : answerLine(line->text, _call);
+        while (const auto line = m_lines.next()) {
+            const auto reply = line->isTooLong ? tooLong() : answerLine(line->text, m_call);
             if (reply && !writeLine(*reply))
                 return false;
         }
@@ -66,9 +66,9 @@ private:
 
     static std::optional<std::string> tooLong()
     {
-        return toLine(errorDocument(nullptr,
-            ProtocolError(ErrorCode::NotARequest,
-                "not a request: a line takes at most " + std::to_string(longestRequest) + " bytes")));
+        std::string reason("not a request: a line takes at most ");
+        reason.append(std::to_string(longestRequest)).append(" bytes");
+        return toLine(errorDocument(nullptr, ProtocolError(ErrorCode::notARequest, reason)));
     }
 
     void readArrived()
@@ -79,20 +79,20 @@ private:
         std::array<char, 65536> bytes;
         const auto count = read(STDIN_FILENO, bytes.data(), bytes.size());
         if (count > 0) {
-            _lines.feed({bytes.data(), static_cast<std::size_t>(count)});
+            m_lines.feed({bytes.data(), static_cast<std::size_t>(count)});
         } else if (count == 0 || (errno != EINTR && errno != EAGAIN)) {
-            _lines.finish();
+            m_lines.finish();
             answerArrived();
-            _isAtEnd = true;
+            m_isAtEnd = true;
         }
     }
 
-    Lifeline _lifeline;
-    Supervisor _supervisor;
-    LineReader _lines{longestRequest};
-    Call _call
-        = [this](const std::string& method, const Json& parameters) { return _supervisor.call(method, parameters); };
-    bool _isAtEnd = false;
+    Lifeline m_lifeline;
+    Supervisor m_supervisor;
+    LineReader m_lines{longestRequest};
+    Call m_call
+        = [this](const std::string& method, const Json& parameters) { return m_supervisor.call(method, parameters); };
+    bool m_isAtEnd = false;
 };
 
 }

@@ -5,7 +5,7 @@
 
 namespace Simulator::App {
 
-// Until the input ends. Answers the exit status.
+/// Until the input ends. Answers the exit status.
 int serve(Control::Supervisor::Options);
 
 }

@@ -35,65 +35,65 @@ double hostNow()
 class SimulatedPhone : public Control::Shell {
 public:
     explicit SimulatedPhone(const ShellOptions& options)
-        : _extension(options.extension)
+        : m_extension(options.extension)
     {
         SystemLog::shared().isOnStandardError = options.isVerbose;
     }
 
     void addMethods(Control::Dispatcher& dispatcher) override
     {
-        _context = std::make_unique<Control::PhoneContext>(_shell, dispatcher);
+        m_context = std::make_unique<Control::PhoneContext>(m_shell, dispatcher);
         for (auto add :
             {Control::addPhoneMethods, Control::addClockMethods, Control::addDeviceMethods, Control::addSettingsMethods,
                 Control::addFileMethods, Control::addTouchMethods, Control::addControlMethods, Control::addViewMethods,
                 Control::addRuntimeMethods, Control::addLogMethods, Control::addScreenMethods})
-            add(*_context);
+            add(*m_context);
     }
 
     void start(const Control::ShellStart& start) override
     {
         ObjC::AutoreleasePool pool;
         PhoneFiles::shared().setRoot(start.root);
-        installFactoryContent(start, _extension);
+        installFactoryContent(start, m_extension);
         setUpDevice(start);
         setUpClock(start);
         setUpSymbols(symbolFolder());
-        _phone.start();
-        relaunchRequested() = [this] { _wantsRelaunch = true; };
+        m_phone.start();
+        relaunchRequested() = [this] { m_wantsRelaunch = true; };
         if (!start.isSafeMode && start.parameters.value("extension", true))
             loadExtensions();
-        _shell.start();
-        _shell.commit();
-        _isStarted = true;
+        m_shell.start();
+        m_shell.commit();
+        m_isStarted = true;
     }
 
     Json state() const override
     {
         Json state{{"now", Loop::shared().now()}, {"uptime", uptime()}, {"device", Control::describeDevice()},
-            {"isLit", _shell.isLit()}, {"isLocked", _shell.isLocked()}};
-        if (_wantsRelaunch)
+            {"isLit", m_shell.isLit()}, {"isLocked", m_shell.isLocked()}};
+        if (m_wantsRelaunch)
             state["log"] = ActivityLog::shared().handOver();
         return state;
     }
 
-    bool wantsRelaunch() const override { return _wantsRelaunch; }
+    bool wantsRelaunch() const override { return m_wantsRelaunch; }
     std::optional<double> nextDue() const override
     {
-        return Loop::shared().clockKind() == ClockKind::Real ? Loop::shared().nextDue() : std::nullopt;
+        return Loop::shared().clockKind() == ClockKind::realTime ? Loop::shared().nextDue() : std::nullopt;
     }
 
     void runDue() override
     {
         // A long request arrives in pieces, the first one too.
-        if (!_isStarted)
+        if (!m_isStarted)
             return;
         ObjC::AutoreleasePool pool;
         Loop::shared().runDue();
-        _shell.commit();
+        m_shell.commit();
     }
 
 private:
-    double uptime() const { return _earlierUptime + Loop::shared().uptime(); }
+    double uptime() const { return m_earlierUptime + Loop::shared().uptime(); }
 
     void setUpDevice(const Control::ShellStart& start)
     {
@@ -118,11 +118,12 @@ private:
             now = momentOfLocalTime(start.parameters.at("time")).value_or(now);
         if (start.state.is_object()) {
             now = start.state.at("now");
-            _earlierUptime = start.state.at("uptime");
+            m_earlierUptime = start.state.at("uptime");
             if (start.state.contains("log"))
                 ActivityLog::shared().restore(start.state.at("log"));
         }
-        Loop::shared().reset(now, start.parameters.at("clock") == "real" ? ClockKind::Real : ClockKind::Virtual);
+        Loop::shared().reset(
+            now, start.parameters.at("clock") == "real" ? ClockKind::realTime : ClockKind::virtualTime);
         ActivityLog::shared().setClock([this] { return uptime(); });
     }
 
@@ -130,19 +131,19 @@ private:
     void loadExtensions()
     {
         const auto refuse = [this](const std::string&, const LoadError& error) {
-            throw std::runtime_error(_extension + ": cannot be loaded: " + error.what());
+            throw std::runtime_error(m_extension + ": cannot be loaded: " + error.what());
         };
         ExtensionLoader::shared().loadAll(
-            _extension.empty() ? ExtensionLoader::reportOnStandardError : ExtensionLoader::Report(refuse));
+            m_extension.empty() ? ExtensionLoader::reportOnStandardError : ExtensionLoader::Report(refuse));
     }
 
-    Phone _phone;
-    std::string _extension;
-    Simulator::Shell _shell;
-    std::unique_ptr<Control::PhoneContext> _context;
-    double _earlierUptime = 0;
-    bool _isStarted = false;
-    bool _wantsRelaunch = false;
+    Phone m_phone;
+    std::string m_extension;
+    Simulator::Shell m_shell;
+    std::unique_ptr<Control::PhoneContext> m_context;
+    double m_earlierUptime = 0;
+    bool m_isStarted = false;
+    bool m_wantsRelaunch = false;
 };
 
 }

@@ -30,7 +30,7 @@ std::vector<std::string> keysIn(const std::string& path)
     return keys;
 }
 
-// Empty where every key is known.
+/// Empty where every key is known.
 std::string doubtAboutKeys(const std::string& path, const char* what, const std::vector<std::string>& known)
 {
     constexpr std::size_t mostNamed = 5;

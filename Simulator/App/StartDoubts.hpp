@@ -5,7 +5,7 @@
 
 namespace Simulator::App {
 
-// One line each on standard error. Throws the first as a Failure where the start is to be strict.
+/// One line each on standard error. Throws the first as a Failure where the start is to be strict.
 void sayDoubts(const StartOptions&);
 
 }

@@ -26,7 +26,7 @@ bool looksLikeJson(const std::string& bytes)
     return first != std::string::npos && bytes[first] == '{';
 }
 
-// The host path of the file as the phone stores it: a property list as it is, JSON turned into one.
+/// The host path of the file as the phone stores it: a property list as it is, JSON turned into one.
 std::string storedFile(const std::string& path, const std::string& name, const Workshop& workshop)
 {
     const std::string bytes = bytesOf(path);
@@ -43,7 +43,7 @@ std::string storedFile(const std::string& path, const std::string& name, const W
 constexpr const char* timerMember = "timer";
 constexpr double longestTimer = 86400;
 
-// What `device.set` takes, and the seconds of a timer that runs.
+/// What `device.set` takes, and the seconds of a timer that runs.
 Json deviceIn(const std::string& path)
 {
     Schema members = deviceParameters();

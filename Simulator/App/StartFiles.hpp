@@ -9,7 +9,7 @@
 
 namespace Simulator::App {
 
-// Something that the user can mend, said in one line.
+/// Something that the user can mend, said in one line.
 class Failure : public std::runtime_error {
 public:
     using std::runtime_error::runtime_error;
@@ -26,19 +26,19 @@ struct StartOptions {
     bool isStrict = false; // what a phone would pass over is refused
 };
 
-// A host folder for what is made on the way, removed with its owner.
+/// A host folder for what is made on the way, removed with its owner.
 class Workshop {
 public:
-    std::string at(const std::string& name) const { return (_folder.path() / name).string(); }
+    std::string at(const std::string& name) const { return (m_folder.path() / name).string(); }
     std::string put(const std::string& name, const std::string& bytes) const;
 
 private:
-    TemporaryFolder _folder;
+    TemporaryFolder m_folder;
 };
 
-// The parameters of `phone.start`. Throws a Failure.
+/// The parameters of `phone.start`. Throws a Failure.
 Control::Json startParameters(const StartOptions&, const Workshop&);
-// Of the timer that the device's file has running. Throws a Failure.
+/// Of the timer that the device's file has running. Throws a Failure.
 std::optional<double> timerSeconds(const StartOptions&);
 
 std::string bytesOf(const std::string& path);

@@ -20,7 +20,7 @@ struct Row {
     bool hasNight = false;
 };
 
-// The stronger weather comes before the weaker: "Snow Showers" are snow, "Rain and Snow" is neither alone.
+/// The stronger weather comes before the weaker: "Snow Showers" are snow, "Rain and Snow" is neither alone.
 constexpr std::array rows{
     Row{"thunder", "thunderstorm"},
     Row{"t-storm", "thunderstorm"},
@@ -63,7 +63,7 @@ constexpr std::array rows{
 constexpr int noon = 12;
 constexpr int minutesPerHour = 60;
 
-// Minutes since midnight of "6:12", "16.41" or "4:41 PM".
+/// Minutes since midnight of "6:12", "16.41" or "4:41 PM".
 std::optional<int> minutesOf(const Json& value)
 {
     if (!value.is_string())

@@ -10,29 +10,29 @@ namespace Simulator {
 class Descriptor {
 public:
     explicit Descriptor(int number = -1)
-        : _number(number)
+        : m_number(number)
     {
     }
     ~Descriptor() { close(); }
     Descriptor(Descriptor&& other) noexcept
-        : _number(std::exchange(other._number, -1))
+        : m_number(std::exchange(other.m_number, -1))
     {
     }
     Descriptor& operator=(Descriptor&& other) noexcept
     {
-        std::swap(_number, other._number);
+        std::swap(m_number, other.m_number);
         return *this;
     }
-    explicit operator bool() const { return _number >= 0; }
-    int number() const { return _number; }
+    explicit operator bool() const { return m_number >= 0; }
+    int number() const { return m_number; }
     void close()
     {
-        if (_number >= 0)
-            ::close(std::exchange(_number, -1));
+        if (m_number >= 0)
+            ::close(std::exchange(m_number, -1));
     }
 
 private:
-    int _number;
+    int m_number;
 };
 
 /// Opens an existing file below a folder in one step, if no link on the way leaves the folder or names it by its whole

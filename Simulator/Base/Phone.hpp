@@ -20,34 +20,34 @@ public:
         using Action = void (*)(Phone&);
 
         explicit AtStart(Action action)
-            : action_(action)
-            , next_(std::exchange(last_, this))
+            : m_action(action)
+            , m_next(std::exchange(m_last, this))
         {
         }
 
     private:
         friend class Phone;
-        static constinit inline const AtStart* last_ = nullptr;
+        static constinit inline const AtStart* m_last = nullptr;
 
-        const Action action_;
-        const AtStart* const next_;
+        const Action m_action;
+        const AtStart* const m_next;
     };
 
     Phone()
     {
-        if (std::exchange(exists_, true))
+        if (std::exchange(m_exists, true))
             fail("a phone is there already");
     }
     /// The part that was made last goes first.
     ~Phone()
     {
-        const auto scope = makeScope_ ? makeScope_() : nullptr;
-        while (!ends_.empty()) {
-            const End end = ends_.back();
-            ends_.pop_back();
+        const auto scope = m_makeScope ? m_makeScope() : nullptr;
+        while (!m_ends.empty()) {
+            const End end = m_ends.back();
+            m_ends.pop_back();
             end();
         }
-        exists_ = false;
+        m_exists = false;
     }
     Phone(const Phone&) = delete;
     Phone& operator=(const Phone&) = delete;
@@ -56,27 +56,27 @@ public:
     /// is to be known by then.
     void start()
     {
-        for (const AtStart* row = AtStart::last_; row; row = row->next_)
-            row->action_(*this);
+        for (const AtStart* row = AtStart::m_last; row; row = row->m_next)
+            row->m_action(*this);
     }
 
     /// What is made before the parts go and goes after them: the last autorelease pool.
     using MakeScope = std::shared_ptr<void> (*)();
-    void setScope(MakeScope makeScope) { makeScope_ = makeScope; }
+    void setScope(MakeScope makeScope) { m_makeScope = makeScope; }
 
     /// The phone's one object of the type.
     template <class Part>
     static Part& part()
     {
-        if (!part_<Part>)
+        if (!m_part<Part>)
             make<Part>();
-        return *part_<Part>;
+        return *m_part<Part>;
     }
     /// Null until the part is asked for, and when the phone is gone.
     template <class Part>
     static Part* partIfMade()
     {
-        return part_<Part>;
+        return m_part<Part>;
     }
 
 private:
@@ -91,18 +91,18 @@ private:
     template <class Part>
     [[gnu::noinline]] static void make()
     {
-        if (!exists_)
+        if (!m_exists)
             fail("there is no phone to keep a state");
-        part_<Part> = new Part;
-        ends_.push_back([] { delete std::exchange(part_<Part>, nullptr); });
+        m_part<Part> = new Part;
+        m_ends.push_back([] { delete std::exchange(m_part<Part>, nullptr); });
     }
 
-    MakeScope makeScope_ = nullptr;
+    MakeScope m_makeScope = nullptr;
 
     template <class Part>
-    static constinit inline Part* part_ = nullptr;
-    static constinit inline bool exists_ = false;
-    static inline std::vector<End> ends_;
+    static constinit inline Part* m_part = nullptr;
+    static constinit inline bool m_exists = false;
+    static inline std::vector<End> m_ends;
 };
 
 }

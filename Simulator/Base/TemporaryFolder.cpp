@@ -13,13 +13,13 @@ TemporaryFolder::TemporaryFolder(const std::string& name)
     std::string path = (fs::temp_directory_path() / (name + "-XXXXXX")).string();
     if (!::mkdtemp(path.data()))
         throw std::system_error(errno, std::generic_category(), "cannot make the folder " + path);
-    _path = path;
+    m_path = path;
 }
 
 TemporaryFolder::~TemporaryFolder()
 {
     std::error_code ignored;
-    fs::remove_all(_path, ignored);
+    fs::remove_all(m_path, ignored);
 }
 
 }

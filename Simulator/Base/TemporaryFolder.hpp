@@ -14,10 +14,10 @@ public:
     TemporaryFolder(const TemporaryFolder&) = delete;
     TemporaryFolder& operator=(const TemporaryFolder&) = delete;
 
-    const std::filesystem::path& path() const { return _path; }
+    const std::filesystem::path& path() const { return m_path; }
 
 private:
-    std::filesystem::path _path;
+    std::filesystem::path m_path;
 };
 
 }

@@ -8,26 +8,26 @@
 namespace Simulator {
 
 UnfinishedFile::UnfinishedFile(std::filesystem::path place)
-    : _place(std::move(place))
+    : m_place(std::move(place))
 {
-    for (int number = 0; !_file && (number == 0 || errno == EEXIST); ++number) {
-        _name = _place.parent_path() / (".lyr-" + std::to_string(::getpid()) + "-" + std::to_string(number));
-        _file = Descriptor(::open(_name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
+    for (int number = 0; !m_file && (number == 0 || errno == EEXIST); ++number) {
+        m_name = m_place.parent_path() / (".lyr-" + std::to_string(::getpid()) + "-" + std::to_string(number));
+        m_file = Descriptor(::open(m_name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666));
     }
 }
 
 UnfinishedFile::~UnfinishedFile()
 {
-    if (_file)
-        ::unlink(_name.c_str());
+    if (m_file)
+        ::unlink(m_name.c_str());
 }
 
 int UnfinishedFile::takePlace()
 {
     std::error_code error;
-    std::filesystem::rename(_name, _place, error);
+    std::filesystem::rename(m_name, m_place, error);
     if (!error)
-        _file.close();
+        m_file.close();
     return error.value();
 }
 

@@ -16,15 +16,15 @@ public:
     UnfinishedFile(const UnfinishedFile&) = delete;
     UnfinishedFile& operator=(const UnfinishedFile&) = delete;
 
-    explicit operator bool() const { return static_cast<bool>(_file); }
-    int descriptor() const { return _file.number(); }
+    explicit operator bool() const { return static_cast<bool>(m_file); }
+    int descriptor() const { return m_file.number(); }
     /// 0, or the errno.
     int takePlace();
 
 private:
-    std::filesystem::path _place;
-    std::string _name;
-    Descriptor _file;
+    std::filesystem::path m_place;
+    std::string m_name;
+    Descriptor m_file;
 };
 
 }

@@ -28,7 +28,7 @@ struct __CFNotificationCenter {
         Simulator::Loop& loop = Simulator::Loop::shared();
         if (!loop.isScheduled(delivery))
             delivery = loop.schedule(
-                0, [this] { deliverWaiting(); }, Simulator::WorkKind::MainQueue);
+                0, [this] { deliverWaiting(); }, Simulator::WorkKind::mainQueue);
     }
 
     void deliverWaiting()

@@ -43,16 +43,16 @@ public:
     static EK::Event make(const Occurrence& occurrence)
     {
         const auto event = EK::Event::make();
-        standIn<EKEvent>(event.raw()).occurrence_ = occurrence;
+        standIn<EKEvent>(event.raw()).m_occurrence = occurrence;
         return event;
     }
-    NS::String title() const { return occurrence_.title ? NS::String::fromUTF8(*occurrence_.title) : NS::String(); }
-    NS::Date startDate() const { return NS::Date::dateWithTimeIntervalSinceReferenceDate(occurrence_.start); }
-    NS::Date endDate() const { return NS::Date::dateWithTimeIntervalSinceReferenceDate(occurrence_.end); }
-    bool isAllDay() const { return occurrence_.allDay; }
+    NS::String title() const { return m_occurrence.title ? NS::String::fromUTF8(*m_occurrence.title) : NS::String(); }
+    NS::Date startDate() const { return NS::Date::dateWithTimeIntervalSinceReferenceDate(m_occurrence.start); }
+    NS::Date endDate() const { return NS::Date::dateWithTimeIntervalSinceReferenceDate(m_occurrence.end); }
+    bool isAllDay() const { return m_occurrence.allDay; }
 
 private:
-    Occurrence occurrence_;
+    Occurrence m_occurrence;
 };
 
 class EKEventPredicate : public StandIn {
@@ -73,7 +73,7 @@ class EKEventStore : public StandIn {
 public:
     using Root = EKEventStore;
 
-    void init() { ExtensionCounts::shared().add(Count::CalendarStores); }
+    void init() { ExtensionCounts::shared().add(Count::calendarStores); }
 
     NS::Object predicateForEvents(const NS::Date& start, const NS::Date& end, const NS::Object&)
     {
@@ -86,7 +86,7 @@ public:
 
     NS::Array eventsMatchingPredicate(const NS::Object& predicate)
     {
-        ExtensionCounts::shared().add(Count::CalendarQueries);
+        ExtensionCounts::shared().add(Count::calendarQueries);
         const auto events = NS::MutableArray::make();
         const auto* interval = standInOrNull<EKEventPredicate>(predicate);
         if (!interval)

@@ -41,7 +41,7 @@ bool writeDomain(const std::string& domain, const std::string& bytes)
 {
     PhoneFiles& files = PhoneFiles::shared();
     const std::string path = fileOfDomain(domain);
-    return !files.fault(path, FileOperation::Write) && !files.fault(path, FileOperation::Rename)
+    return !files.fault(path, FileOperation::write) && !files.fault(path, FileOperation::rename)
         && files.put(path, bytes) == 0;
 }
 
@@ -94,15 +94,15 @@ bool HBPreferences::initWithIdentifier(const NS::String& identifier)
 {
     if (!identifier.is<NS::String>())
         return false;
-    domain_ = text(identifier);
-    stored_ = storedValues(domain_);
+    m_domain = text(identifier);
+    m_stored = storedValues(m_domain);
     service().living.push_back(this);
     return true;
 }
 
 NS::String HBPreferences::identifier() const
 {
-    return NS::String::fromUTF8(domain_);
+    return NS::String::fromUTF8(m_domain);
 }
 
 void HBPreferences::registerBool(void* variable, bool fallback, const NS::String& key)
@@ -120,16 +120,16 @@ void HBPreferences::bind(Binding binding)
     if (!binding.key || (!binding.boolean && !binding.object))
         return;
     const std::string key = text(binding.key);
-    fallbacks_[key] = binding.fallback;
+    m_fallbacks[key] = binding.fallback;
     service().lastBound[key] = {binding.boolean, binding.object};
     give(binding);
-    bindings_.push_back(std::move(binding));
+    m_bindings.push_back(std::move(binding));
 }
 
 /// A flag takes what can be read as true or false; an object variable takes whatever is stored.
 void HBPreferences::give(const Binding& binding) const
 {
-    const auto stored = stored_.objectForKey<NS::Object>(binding.key);
+    const auto stored = m_stored.objectForKey<NS::Object>(binding.key);
     if (binding.object)
         assign(binding.object, stored ? stored : binding.fallback);
     else
@@ -138,8 +138,8 @@ void HBPreferences::give(const Binding& binding) const
 
 void HBPreferences::mirror(const NS::Dictionary& stored)
 {
-    stored_ = stored;
-    for (const Binding& binding : bindings_)
+    m_stored = stored;
+    for (const Binding& binding : m_bindings)
         give(binding);
 }
 
@@ -147,10 +147,10 @@ NS::Object HBPreferences::objectForKey(const NS::String& key) const
 {
     if (!key)
         return {};
-    if (const auto stored = stored_.objectForKey<NS::Object>(key))
+    if (const auto stored = m_stored.objectForKey<NS::Object>(key))
         return stored;
-    const auto fallback = fallbacks_.find(text(key));
-    return fallback == fallbacks_.end() ? NS::Object() : fallback->second;
+    const auto fallback = m_fallbacks.find(text(key));
+    return fallback == m_fallbacks.end() ? NS::Object() : fallback->second;
 }
 
 bool HBPreferences::boolForKey(const NS::String& key) const
@@ -161,7 +161,7 @@ bool HBPreferences::boolForKey(const NS::String& key) const
 
 void HBPreferences::setObject(const NS::Object& value, const NS::String& key)
 {
-    if (!key || !storeValue(domain_, text(key), value))
+    if (!key || !storeValue(m_domain, text(key), value))
         return;
     const auto json = jsonOfValue(value);
     ActivityLog::shared().record("setting", {{"key", text(key)}, {"value", json}, {"type", kindOf(json)}});
@@ -209,8 +209,8 @@ std::optional<BoundValue> boundValue(const std::string& key)
     if (found == service().lastBound.end())
         return std::nullopt;
     if (found->second.boolean)
-        return BoundValue{BoundValue::Kind::Boolean, *found->second.boolean, {}};
-    return BoundValue{BoundValue::Kind::Object, false, NS::Object(*found->second.object)};
+        return BoundValue{BoundValue::Kind::boolean, *found->second.boolean, {}};
+    return BoundValue{BoundValue::Kind::object, false, NS::Object(*found->second.object)};
 }
 
 static const StandInClass hbPreferences("HBPreferences", "NSObject", [](Binder<HBPreferences>& binder) {

@@ -31,7 +31,7 @@ public:
 
     /// Takes over what is stored now and gives it to the bound variables.
     void mirror(const NS::Dictionary& stored);
-    const std::string& domain() const { return domain_; }
+    const std::string& domain() const { return m_domain; }
 
 private:
     /// One of the two variables is set.
@@ -44,16 +44,16 @@ private:
     void bind(Binding binding);
     void give(const Binding& binding) const;
 
-    std::string domain_;
-    NS::Dictionary stored_;
-    std::vector<Binding> bindings_;
-    std::map<std::string, NS::Object> fallbacks_;
+    std::string m_domain;
+    NS::Dictionary m_stored;
+    std::vector<Binding> m_bindings;
+    std::map<std::string, NS::Object> m_fallbacks;
 };
 
 /// What a variable that was bound to a setting holds now.
 struct BoundValue {
-    enum class Kind { Boolean, Object };
-    Kind kind = Kind::Object;
+    enum class Kind { boolean, object };
+    Kind kind = Kind::object;
     bool boolean = false;
     NS::Object object;
 };

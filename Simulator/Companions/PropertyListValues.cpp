@@ -1,3 +1,4 @@
+// Objects, JSON and the bytes of property lists, each made of the other.
 #include "Simulator/Companions/PropertyListValues.hpp"
 
 #include "Simulator/Files/PhoneFiles.hpp"

@@ -35,7 +35,7 @@ public:
 
     SB::ScheduledAlarm nextAlarm() const
     {
-        ExtensionCounts::shared().add(Count::AlarmReads);
+        ExtensionCounts::shared().add(Count::alarmReads);
         return nextFireMoment() ? SB::ScheduledAlarm::make() : SB::ScheduledAlarm();
     }
 };
@@ -44,11 +44,11 @@ class MTAlarmManager : public StandIn {
 public:
     using Root = MTAlarmManager;
 
-    void init() { cache_ = SB::AlarmCache::make(); }
-    SB::AlarmCache cache() const { return cache_; }
+    void init() { m_cache = SB::AlarmCache::make(); }
+    SB::AlarmCache cache() const { return m_cache; }
 
 private:
-    SB::AlarmCache cache_;
+    SB::AlarmCache m_cache;
 };
 
 class SBScheduledAlarmObserver : public StandIn {

@@ -49,7 +49,7 @@ public:
 
     void refreshWeatherData()
     {
-        ExtensionCounts::shared().add(Count::WeatherRequests);
+        ExtensionCounts::shared().add(Count::weatherRequests);
         ActivityLog::shared().record("weatherRefresh");
     }
 

@@ -11,7 +11,7 @@ namespace Simulator::Control {
 
 namespace {
 
-// Both ends are ours; a picture in base64 is the longest thing that is said.
+/// Both ends are ours; a picture in base64 is the longest thing that is said.
 constexpr std::size_t longestDocument = std::size_t(1) << 30;
 
 bool mustWait()
@@ -22,9 +22,9 @@ bool mustWait()
 }
 
 Channel::Channel(Descriptor descriptor, Wait wait)
-    : _descriptor(std::move(descriptor))
-    , _wait(std::move(wait))
-    , _lines(longestDocument)
+    : m_descriptor(std::move(descriptor))
+    , m_wait(std::move(wait))
+    , m_lines(longestDocument)
 {
 }
 
@@ -37,7 +37,7 @@ bool Channel::send(const Json& document)
         if (count >= 0)
             sent += static_cast<std::size_t>(count);
         else if (mustWait())
-            _wait(descriptor(), POLLOUT);
+            m_wait(descriptor(), POLLOUT);
         else if (errno != EINTR)
             return false;
     }
@@ -49,9 +49,9 @@ std::optional<Json> Channel::receive()
     for (;;) {
         if (auto document = receiveArrived())
             return document;
-        if (!_isOpen)
+        if (!m_isOpen)
             return std::nullopt;
-        _wait(descriptor(), POLLIN);
+        m_wait(descriptor(), POLLIN);
     }
 }
 
@@ -66,20 +66,20 @@ std::optional<Json> Channel::receiveArrived()
 void Channel::readArrived()
 {
     std::array<char, 65536> bytes;
-    while (_isOpen) {
+    while (m_isOpen) {
         const auto count = ::recv(descriptor(), bytes.data(), bytes.size(), MSG_DONTWAIT);
         if (count > 0)
-            _lines.feed({bytes.data(), static_cast<std::size_t>(count)});
+            m_lines.feed({bytes.data(), static_cast<std::size_t>(count)});
         else if (count < 0 && mustWait())
             return;
         else if (count == 0 || errno != EINTR)
-            _isOpen = false;
+            m_isOpen = false;
     }
 }
 
 std::optional<Json> Channel::nextDocument()
 {
-    const auto line = _lines.next();
+    const auto line = m_lines.next();
     if (!line)
         return std::nullopt;
     return parseDocument(line->text);

@@ -15,7 +15,7 @@ namespace Simulator::Control {
 
 namespace {
 
-// A process that is told to end has this long before it is killed.
+/// A process that is told to end has this long before it is killed.
 constexpr std::chrono::milliseconds gracePeriod{2000};
 
 [[noreturn]] void fail(const char* what)
@@ -23,7 +23,7 @@ constexpr std::chrono::milliseconds gracePeriod{2000};
     throw std::system_error(errno, std::generic_category(), what);
 }
 
-// Between fork and exec only calls that are safe there. What the shell prints must not get between the replies.
+/// Between fork and exec only calls that are safe there. What the shell prints must not get between the replies.
 [[noreturn]] void becomeShell(char* const* arguments, int socket, pid_t supervisor)
 {
     prctl(PR_SET_PDEATHSIG, SIGKILL);
@@ -46,14 +46,14 @@ constexpr std::chrono::milliseconds gracePeriod{2000};
 
 bool Ending::isExitWith(int status) const
 {
-    return WIFEXITED(_waitStatus) && WEXITSTATUS(_waitStatus) == status;
+    return WIFEXITED(m_waitStatus) && WEXITSTATUS(m_waitStatus) == status;
 }
 
 std::string Ending::text() const
 {
-    if (WIFEXITED(_waitStatus))
-        return "exit status " + std::to_string(WEXITSTATUS(_waitStatus));
-    const int number = WTERMSIG(_waitStatus);
+    if (WIFEXITED(m_waitStatus))
+        return "exit status " + std::to_string(WEXITSTATUS(m_waitStatus));
+    const int number = WTERMSIG(m_waitStatus);
     const char* name = sigabbrev_np(number);
     return "signal "
         + (name ? "SIG" + std::string(name) + " (" + std::to_string(number) + ")" : std::to_string(number));
@@ -75,17 +75,17 @@ ChildProcess::ChildProcess(const std::vector<std::string>& command, Wait wait)
     arguments.push_back(nullptr);
 
     const pid_t self = getpid();
-    _pid = fork();
-    if (_pid < 0)
+    m_pid = fork();
+    if (m_pid < 0)
         fail("cannot start the shell process");
-    if (_pid == 0)
+    if (m_pid == 0)
         becomeShell(arguments.data(), childs.number(), self);
-    _channel.emplace(std::move(own), std::move(wait));
+    m_channel.emplace(std::move(own), std::move(wait));
 }
 
 ChildProcess::~ChildProcess()
 {
-    if (_pid > 0) {
+    if (m_pid > 0) {
         kill();
         end();
     }
@@ -93,18 +93,18 @@ ChildProcess::~ChildProcess()
 
 void ChildProcess::kill()
 {
-    if (_pid > 0)
-        ::kill(_pid, SIGKILL);
+    if (m_pid > 0)
+        ::kill(m_pid, SIGKILL);
 }
 
 Ending ChildProcess::end()
 {
-    _channel->close();
+    m_channel->close();
     if (!endsWithin(gracePeriod))
         kill();
     int status = 0;
-    while (waitpid(_pid, &status, 0) < 0 && errno == EINTR) { }
-    _pid = -1;
+    while (waitpid(m_pid, &status, 0) < 0 && errno == EINTR) { }
+    m_pid = -1;
     return Ending(status);
 }
 
@@ -113,7 +113,7 @@ bool ChildProcess::endsWithin(std::chrono::milliseconds time) const
     constexpr std::chrono::milliseconds step{1};
     for (; time.count() > 0; time -= step) {
         siginfo_t ended{};
-        if (waitid(P_PID, static_cast<id_t>(_pid), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 && ended.si_pid == _pid)
+        if (waitid(P_PID, static_cast<id_t>(m_pid), &ended, WEXITED | WNOHANG | WNOWAIT) == 0 && ended.si_pid == m_pid)
             return true;
         std::this_thread::sleep_for(step);
     }

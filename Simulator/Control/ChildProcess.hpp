@@ -9,42 +9,42 @@
 
 namespace Simulator::Control {
 
-// How a process ended.
+/// How a process ended.
 class Ending {
 public:
     explicit Ending(int waitStatus)
-        : _waitStatus(waitStatus)
+        : m_waitStatus(waitStatus)
     {
     }
     bool isExitWith(int status) const;
-    // "signal SIGSEGV (11)" or "exit status 3".
+    /// "signal SIGSEGV (11)" or "exit status 3".
     std::string text() const;
 
 private:
-    int _waitStatus;
+    int m_waitStatus;
 };
 
 class ChildProcess {
 public:
-    // Runs the command with `--fd N` added, N being the child's end of the socket.
+    /// Runs the command with `--fd N` added, N being the child's end of the socket.
     ChildProcess(const std::vector<std::string>& command, Wait);
-    // Kills the process if it still runs.
+    /// Kills the process if it still runs.
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
-    pid_t pid() const { return _pid; }
-    Channel& channel() { return *_channel; }
+    pid_t pid() const { return m_pid; }
+    Channel& channel() { return *m_channel; }
 
-    // Closes the socket, which tells the process to end, and kills it if it does not.
+    /// Closes the socket, which tells the process to end, and kills it if it does not.
     Ending end();
     void kill();
 
 private:
     bool endsWithin(std::chrono::milliseconds) const;
 
-    pid_t _pid = -1; // -1 once it was waited for
-    std::optional<Channel> _channel;
+    pid_t m_pid = -1; // -1 once it was waited for
+    std::optional<Channel> m_channel;
 };
 
 }

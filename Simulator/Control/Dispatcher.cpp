@@ -7,7 +7,7 @@ namespace Simulator::Control {
 
 void Dispatcher::add(const Method& method, Handler handler)
 {
-    const bool isNew = _entries.emplace(method.name, Entry{method, std::move(handler)}).second;
+    const bool isNew = m_entries.emplace(method.name, Entry{method, std::move(handler)}).second;
     if (!isNew)
         throw std::logic_error("the method " + method.name + " is added twice");
 }
@@ -22,9 +22,9 @@ void Dispatcher::add(const std::string& protocolMethod, Handler handler)
 
 Json Dispatcher::call(const std::string& method, const Json& parameters) const
 {
-    const auto entry = _entries.find(method);
-    if (entry == _entries.end())
-        throw ProtocolError(ErrorCode::NoSuchMethod, "no such method: " + quote(method));
+    const auto entry = m_entries.find(method);
+    if (entry == m_entries.end())
+        throw ProtocolError(ErrorCode::noSuchMethod, "no such method: " + quote(method));
     checkParameters(entry->second.method, parameters);
     return entry->second.handler(parameters);
 }

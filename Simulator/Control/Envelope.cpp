@@ -7,7 +7,7 @@ namespace Simulator::Control {
 
 namespace {
 
-// Deeper documents would exhaust the stack when they are copied or written.
+/// Deeper documents would exhaust the stack when they are copied or written.
 constexpr std::size_t deepestNesting = 128;
 constexpr std::size_t longestQuote = 80;
 
@@ -55,7 +55,7 @@ Json idOf(const Json& document)
 
 ProtocolError notARequest(const std::string& reason)
 {
-    return ProtocolError(ErrorCode::NotARequest, "not a request: " + reason);
+    return ProtocolError(ErrorCode::notARequest, "not a request: " + reason);
 }
 
 Request readRequest(const Json& document)
@@ -84,12 +84,12 @@ Json perform(const Request& request, const Call& call)
 {
     try {
         if (!request.parameters.is_object())
-            throw ProtocolError(ErrorCode::BadParameters, "parameters go by name: \"params\" takes an object");
+            throw ProtocolError(ErrorCode::badParameters, "parameters go by name: \"params\" takes an object");
         return resultDocument(request.id, call(request.method, request.parameters));
     } catch (const ProtocolError& error) {
         return errorDocument(request.id, error);
     } catch (const std::exception& error) {
-        return errorDocument(request.id, ProtocolError(ErrorCode::Internal, error.what()));
+        return errorDocument(request.id, ProtocolError(ErrorCode::internal, error.what()));
     }
 }
 
@@ -127,12 +127,12 @@ Json parseDocument(std::string_view text)
     if (nestingDepth(text) > deepestNesting) {
         if (Json::accept(text))
             throw notARequest("nested deeper than " + std::to_string(deepestNesting) + " levels");
-        throw ProtocolError(ErrorCode::BadJson, "bad JSON, nested deeper than " + std::to_string(deepestNesting));
+        throw ProtocolError(ErrorCode::badJson, "bad JSON, nested deeper than " + std::to_string(deepestNesting));
     }
     try {
         return Json::parse(text);
     } catch (const Json::exception& error) {
-        throw ProtocolError(ErrorCode::BadJson, std::string("bad JSON: ") + error.what());
+        throw ProtocolError(ErrorCode::badJson, std::string("bad JSON: ") + error.what());
     }
 }
 

@@ -14,47 +14,47 @@ namespace Simulator::Control {
 using Json = nlohmann::json;
 
 enum class ErrorCode {
-    BadJson = -32700,
-    NotARequest = -32600,
-    NoSuchMethod = -32601,
-    BadParameters = -32602,
-    Internal = -32603,
-    NoPhone = -32001,
-    NotFound = -32002,
-    ShellEnded = -32003,
+    badJson = -32700,
+    notARequest = -32600,
+    noSuchMethod = -32601,
+    badParameters = -32602,
+    internal = -32603,
+    noPhone = -32001,
+    notFound = -32002,
+    shellEnded = -32003,
 };
 
 class ProtocolError : public std::runtime_error {
 public:
     ProtocolError(ErrorCode code, const std::string& message)
         : std::runtime_error(message)
-        , _code(code)
+        , m_code(code)
     {
     }
-    ErrorCode code() const { return _code; }
+    ErrorCode code() const { return m_code; }
 
 private:
-    ErrorCode _code;
+    ErrorCode m_code;
 };
 
-// What a method does with its parameters, which are always an object.
+/// What a method does with its parameters, which are always an object.
 using Call = std::function<Json(const std::string& method, const Json& parameters)>;
 
-// Throws a ProtocolError for anything that is not one JSON document of bearable depth.
+/// Throws a ProtocolError for anything that is not one JSON document of bearable depth.
 Json parseDocument(std::string_view text);
 
-// One line without its newline; what is not UTF-8 is replaced.
+/// One line without its newline; what is not UTF-8 is replaced.
 std::string toLine(const Json&);
 
 Json requestDocument(std::uint64_t id, const std::string& method, const Json& parameters);
 Json resultDocument(const Json& id, const Json& result);
 Json errorDocument(const Json& id, const ProtocolError&);
 
-// The reply to a request or a batch of them; nothing when there were notifications only.
+/// The reply to a request or a batch of them; nothing when there were notifications only.
 std::optional<Json> answerDocument(const Json& document, const Call&);
 std::optional<std::string> answerLine(std::string_view line, const Call&);
 
-// A value as an error message quotes it: on one line and short.
+/// A value as an error message quotes it: on one line and short.
 std::string quote(const Json&);
 
 }

@@ -5,44 +5,44 @@ namespace Simulator::Control {
 
 void LineReader::feed(std::string_view bytes)
 {
-    if (_start > 0) {
-        _buffer.erase(0, _start);
-        _searched -= _start;
-        _start = 0;
+    if (m_start > 0) {
+        m_buffer.erase(0, m_start);
+        m_searched -= m_start;
+        m_start = 0;
     }
-    _buffer.append(bytes);
+    m_buffer.append(bytes);
 }
 
 void LineReader::finish()
 {
-    if (_buffer.empty() ? _isDropping : _buffer.back() != '\n')
-        _buffer.push_back('\n');
+    if (m_buffer.empty() ? m_isDropping : m_buffer.back() != '\n')
+        m_buffer.push_back('\n');
 }
 
 std::optional<LineReader::Line> LineReader::next()
 {
-    const std::size_t newline = _buffer.find('\n', _searched);
+    const std::size_t newline = m_buffer.find('\n', m_searched);
     if (newline == std::string::npos) {
         dropOverlong();
         return std::nullopt;
     }
     Line line;
-    line.isTooLong = _isDropping || newline - _start > _longestLine;
+    line.isTooLong = m_isDropping || newline - m_start > m_longestLine;
     if (!line.isTooLong)
-        line.text = _buffer.substr(_start, newline - _start);
-    _start = _searched = newline + 1;
-    _isDropping = false;
+        line.text = m_buffer.substr(m_start, newline - m_start);
+    m_start = m_searched = newline + 1;
+    m_isDropping = false;
     return line;
 }
 
 void LineReader::dropOverlong()
 {
-    _searched = _buffer.size();
-    if (!_isDropping && _buffer.size() - _start <= _longestLine)
+    m_searched = m_buffer.size();
+    if (!m_isDropping && m_buffer.size() - m_start <= m_longestLine)
         return;
-    _isDropping = true;
-    _buffer.clear();
-    _start = _searched = 0;
+    m_isDropping = true;
+    m_buffer.clear();
+    m_start = m_searched = 0;
 }
 
 }

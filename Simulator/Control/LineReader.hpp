@@ -15,23 +15,23 @@ public:
     };
 
     explicit LineReader(std::size_t longestLine)
-        : _longestLine(longestLine)
+        : m_longestLine(longestLine)
     {
     }
 
     void feed(std::string_view bytes);
-    // The stream has ended: a last line without a newline is a line too.
+    /// The stream has ended: a last line without a newline is a line too.
     void finish();
     std::optional<Line> next();
 
 private:
     void dropOverlong();
 
-    std::size_t _longestLine;
-    std::string _buffer;
-    std::size_t _start = 0; // of the next line
-    std::size_t _searched = 0; // up to here there is no newline after `_start`
-    bool _isDropping = false;
+    std::size_t m_longestLine;
+    std::string m_buffer;
+    std::size_t m_start = 0; // of the next line
+    std::size_t m_searched = 0; // up to here there is no newline after `m_start`
+    bool m_isDropping = false;
 };
 
 }

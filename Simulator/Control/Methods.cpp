@@ -9,8 +9,8 @@ namespace Simulator::Control {
 
 namespace {
 
-constexpr auto required = Presence::Required;
-constexpr auto optional = Presence::Optional;
+constexpr auto required = Presence::required;
+constexpr auto optional = Presence::optional;
 constexpr double longestAdvance = 366 * 86400.0;
 constexpr double longestTouch = 60;
 
@@ -27,7 +27,7 @@ Type battery()
         {"lowPower", boolean()}});
 }
 
-// Texts; but a library that has gone wrong gives out anything.
+/// Texts; but a library that has gone wrong gives out anything.
 Type weather()
 {
     const Type value = propertyList();
@@ -41,7 +41,7 @@ Type events()
         object({{"title", orNull(text()), required}, {"start", localTime(), required}, {"allDay", boolean()}}));
 }
 
-// An object on the phone: a class, the shell's object of a class, a view, or one that `objc.new` made.
+/// An object on the phone: a class, the shell's object of a class, a view, or one that `objc.new` made.
 Type target()
 {
     return oneMemberOf(

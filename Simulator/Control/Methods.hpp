@@ -5,23 +5,23 @@
 
 namespace Simulator::Control {
 
-// Methods that one table of the documentation has.
+/// Methods that one table of the documentation has.
 struct MethodGroup {
     std::string name;
     std::vector<Method> methods;
 };
 const std::vector<MethodGroup>& methodGroups();
 
-// The phone's: all but those that only a preview has.
+/// The phone's: all but those that only a preview has.
 const std::vector<Method>& protocolMethods();
 
-// Of the preview's too; null where there is none of the name.
+/// Of the preview's too; null where there is none of the name.
 const Method* methodNamed(const std::string& name);
 
-// The `screen` of `phone.start`.
+/// The `screen` of `phone.start`.
 Type screenType();
 
-// The parameters of `device.set`, which `phone.start` takes as well.
+/// The parameters of `device.set`, which `phone.start` takes as well.
 Schema deviceParameters();
 
 }

@@ -26,8 +26,8 @@ fs::path ownStreams()
     return "/proc/" + std::to_string(getpid()) + "/fd";
 }
 
-// Where the links lead, whether or not there is anything; empty where a folder on the way is missing. The links of a
-// process's streams are left: they only look like paths.
+/// Where the links lead, whether or not there is anything; empty where a folder on the way is missing. The links of a
+/// process's streams are left: they only look like paths.
 fs::path followed(const std::string& given)
 {
     std::error_code error;
@@ -44,28 +44,28 @@ fs::path followed(const std::string& given)
     return {};
 }
 
-// A reader that has gone is told by an error.
+/// A reader that has gone is told by an error.
 class WithoutPipeSignal {
 public:
     WithoutPipeSignal() = default;
-    ~WithoutPipeSignal() { std::signal(SIGPIPE, _before); }
+    ~WithoutPipeSignal() { std::signal(SIGPIPE, m_before); }
     WithoutPipeSignal(const WithoutPipeSignal&) = delete;
     WithoutPipeSignal& operator=(const WithoutPipeSignal&) = delete;
 
 private:
-    void (*_before)(int) = std::signal(SIGPIPE, SIG_IGN);
+    void (*m_before)(int) = std::signal(SIGPIPE, SIG_IGN);
 };
 
 }
 
 OutputFile::OutputFile(const std::string& path, OwnStreams streams, Wait wait)
-    : _given(path)
-    , _wait(std::move(wait))
-    , _path(followed(path))
+    : m_given(path)
+    , m_wait(std::move(wait))
+    , m_path(followed(path))
 {
-    if (_path.empty())
+    if (m_path.empty())
         refuse("a file name in a folder that exists is needed");
-    if (_path.parent_path() == ownStreams())
+    if (m_path.parent_path() == ownStreams())
         openStream(streams);
     else
         look();
@@ -73,20 +73,20 @@ OutputFile::OutputFile(const std::string& path, OwnStreams streams, Wait wait)
 
 void OutputFile::openStream(OwnStreams streams)
 {
-    if (streams == OwnStreams::Refused)
+    if (streams == OwnStreams::refused)
         refuse("this program needs its streams for itself");
-    const std::string name = _path.filename();
+    const std::string name = m_path.filename();
     int number = -1;
     std::from_chars(name.data(), name.data() + name.size(), number);
-    _descriptor = Descriptor(fcntl(number, F_DUPFD_CLOEXEC, 3));
-    if (!_descriptor)
+    m_descriptor = Descriptor(fcntl(number, F_DUPFD_CLOEXEC, 3));
+    if (!m_descriptor)
         refuseWithError();
 }
 
 void OutputFile::look()
 {
     struct stat status {};
-    if (stat(_path.c_str(), &status) != 0) {
+    if (stat(m_path.c_str(), &status) != 0) {
         if (errno != ENOENT)
             refuseWithError();
         return checkFolder();
@@ -97,56 +97,56 @@ void OutputFile::look()
         refuse("it is a socket");
     // The mode holds for the superuser too, whom the system lets do anything.
     constexpr mode_t writeBits = 0222;
-    if ((status.st_mode & writeBits) == 0 || access(_path.c_str(), W_OK) != 0)
+    if ((status.st_mode & writeBits) == 0 || access(m_path.c_str(), W_OK) != 0)
         refuse("it is read-only");
     if (S_ISREG(status.st_mode)) {
-        _replaced = status;
+        m_replaced = status;
         return checkFolder();
     }
     // A pipe that nobody reads would make the program wait.
-    _descriptor = Descriptor(open(_path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!_descriptor && errno == ENXIO && S_ISFIFO(status.st_mode))
+    m_descriptor = Descriptor(open(m_path.c_str(), O_WRONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+    if (!m_descriptor && errno == ENXIO && S_ISFIFO(status.st_mode))
         refuse("nobody reads from this pipe");
-    if (!_descriptor)
+    if (!m_descriptor)
         refuseWithError();
 }
 
 void OutputFile::checkFolder() const
 {
-    if (access(_path.parent_path().c_str(), W_OK | X_OK) != 0)
+    if (access(m_path.parent_path().c_str(), W_OK | X_OK) != 0)
         refuse("its folder is read-only");
 }
 
 void OutputFile::write(std::string_view bytes) const
 {
-    if (_descriptor)
-        send(_descriptor.number(), bytes);
+    if (m_descriptor)
+        send(m_descriptor.number(), bytes);
     else
         replace(bytes);
 }
 
 void OutputFile::replace(std::string_view bytes) const
 {
-    UnfinishedFile file(_path);
+    UnfinishedFile file(m_path);
     if (!file)
         refuseWithError();
     send(file.descriptor(), bytes);
-    if (_replaced) {
+    if (m_replaced) {
         constexpr mode_t permissions = 0777;
         // Only the superuser can give a file away, and only to others need it be given.
-        [[maybe_unused]] const int ignored = fchown(file.descriptor(), _replaced->st_uid, _replaced->st_gid);
-        fchmod(file.descriptor(), _replaced->st_mode & permissions);
+        [[maybe_unused]] const int ignored = fchown(file.descriptor(), m_replaced->st_uid, m_replaced->st_gid);
+        fchmod(file.descriptor(), m_replaced->st_mode & permissions);
     }
     if (const int error = file.takePlace())
         refuse(std::strerror(error));
 }
 
-// No more at a time than a pipe that is ready takes without waiting.
+/// No more at a time than a pipe that is ready takes without waiting.
 void OutputFile::send(int descriptor, std::string_view bytes) const
 {
     const WithoutPipeSignal ignored;
     while (!bytes.empty()) {
-        _wait(descriptor, POLLOUT);
+        m_wait(descriptor, POLLOUT);
         const auto count = ::write(descriptor, bytes.data(), std::min<std::size_t>(bytes.size(), PIPE_BUF));
         if (count > 0)
             bytes.remove_prefix(static_cast<std::size_t>(count));
@@ -159,13 +159,13 @@ bool OutputFile::isStandardOutput() const
 {
     struct stat own {};
     struct stat standard {};
-    return _descriptor && fstat(_descriptor.number(), &own) == 0 && fstat(STDOUT_FILENO, &standard) == 0
+    return m_descriptor && fstat(m_descriptor.number(), &own) == 0 && fstat(STDOUT_FILENO, &standard) == 0
         && own.st_dev == standard.st_dev && own.st_ino == standard.st_ino;
 }
 
 void OutputFile::refuse(const std::string& why) const
 {
-    throw std::runtime_error(_given + ": cannot be written: " + why);
+    throw std::runtime_error(m_given + ": cannot be written: " + why);
 }
 
 void OutputFile::refuseWithError() const

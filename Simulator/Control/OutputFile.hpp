@@ -15,17 +15,17 @@ namespace Simulator::Control {
 
 class OutputFile {
 public:
-    // What /dev/stdout and the like are to the process: the user's, or streams that are spoken for.
-    enum class OwnStreams { Taken, Refused };
+    /// What /dev/stdout and the like are to the process: the user's, or streams that are spoken for.
+    enum class OwnStreams { taken, refused };
 
-    // Links are followed. What can be wrong with the path is told before there is anything to write: throws a
-    // std::runtime_error, one line with the path. `wait` is for a pipe whose reader takes its time.
-    explicit OutputFile(const std::string& path, OwnStreams = OwnStreams::Taken, Wait wait = waitForever);
+    /// Links are followed. What can be wrong with the path is told before there is anything to write: throws a
+    /// std::runtime_error, one line with the path. `wait` is for a pipe whose reader takes its time.
+    explicit OutputFile(const std::string& path, OwnStreams = OwnStreams::taken, Wait wait = waitForever);
 
-    // To be called once. Throws likewise, and leaves a regular file as it was.
+    /// To be called once. Throws likewise, and leaves a regular file as it was.
     void write(std::string_view bytes) const;
 
-    // What is written comes out where the process's own words do.
+    /// What is written comes out where the process's own words do.
     bool isStandardOutput() const;
 
 private:
@@ -37,11 +37,11 @@ private:
     [[noreturn]] void refuse(const std::string& why) const;
     [[noreturn]] void refuseWithError() const;
 
-    std::string _given; // as messages name it
-    Wait _wait;
-    std::filesystem::path _path; // where the links lead
-    Descriptor _descriptor; // of what is written to; none for a file that is replaced
-    std::optional<struct stat> _replaced; // whose owner and mode the new file gets
+    std::string m_given; // as messages name it
+    Wait m_wait;
+    std::filesystem::path m_path; // where the links lead
+    Descriptor m_descriptor; // of what is written to; none for a file that is replaced
+    std::optional<struct stat> m_replaced; // whose owner and mode the new file gets
 };
 
 }

@@ -9,10 +9,10 @@ namespace {
 
 [[noreturn]] void refuse(const std::string& message)
 {
-    throw ProtocolError(ErrorCode::BadParameters, message);
+    throw ProtocolError(ErrorCode::badParameters, message);
 }
 
-// Checks one method's parameters; `owner` is the method or, further in, the parameter that holds others.
+/// Checks one method's parameters; `owner` is the method or, further in, the parameter that holds others.
 class Checker {
 public:
     void members(const std::string& owner, const std::string& prefix, const Schema& schema, const Json& object)
@@ -26,7 +26,7 @@ public:
             check(prefix + name, parameter->type, value);
         }
         for (const Parameter& parameter : schema) {
-            if (parameter.presence == Presence::Required && !object.contains(parameter.name))
+            if (parameter.presence == Presence::required && !object.contains(parameter.name))
                 refuse("missing parameter \"" + prefix + parameter.name + "\": it takes " + parameter.type.takes);
         }
     }

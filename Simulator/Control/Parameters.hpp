@@ -11,7 +11,7 @@ namespace Simulator::Control {
 struct Parameter;
 using Schema = std::vector<Parameter>;
 
-// What a value must be: the words that say it, the check, and the rules for what the value holds.
+/// What a value must be: the words that say it, the check, and the rules for what the value holds.
 struct Type {
     std::string takes;
     std::function<bool(const Json&)> accepts;
@@ -21,16 +21,16 @@ struct Type {
     bool orNull = false;
 };
 
-enum class Presence { Optional, Required };
+enum class Presence { optional, required };
 
 struct Parameter {
     std::string name;
     Type type;
-    Presence presence = Presence::Optional;
+    Presence presence = Presence::optional;
     std::string meaning = {}; // for the documentation
 };
 
-// A row of a table of methods, its documentation with it, in Markdown.
+/// A row of a table of methods, its documentation with it, in Markdown.
 struct Method {
     std::string name;
     Schema parameters = {};
@@ -38,13 +38,13 @@ struct Method {
     std::string does = {};
 };
 
-// "level, state, lowPower"
+/// "level, state, lowPower"
 std::string namesIn(const Schema&);
 
-// Throws a ProtocolError that names the parameter and says what it takes.
+/// Throws a ProtocolError that names the parameter and says what it takes.
 void checkParameters(const Method&, const Json& parameters);
 
-// What is wrong with a single value, or nothing.
+/// What is wrong with a single value, or nothing.
 std::optional<std::string> complaint(const std::string& name, const Type&, const Json& value);
 
 }

@@ -37,7 +37,7 @@ PropertyList listOf(const Json& value)
     case Json::value_t::number_float:
         return {value.get<double>()};
     default:
-        throw ProtocolError(ErrorCode::BadParameters, "a property list cannot hold " + quote(value));
+        throw ProtocolError(ErrorCode::badParameters, "a property list cannot hold " + quote(value));
     }
 }
 

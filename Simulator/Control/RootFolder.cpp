@@ -24,12 +24,12 @@ std::string bytesOf(const fs::path& path)
 
 RootFolder::RootFolder()
 {
-    _files.setRoot(_temporary.emplace("lyr-phone").path());
+    m_files.setRoot(m_temporary.emplace("lyr-phone").path());
 }
 
 RootFolder::RootFolder(const std::string& given)
 {
-    _files.setRoot(given);
+    m_files.setRoot(given);
 }
 
 void RootFolder::fill(const Json& parameters)
@@ -43,7 +43,7 @@ void RootFolder::fill(const Json& parameters)
         put(coloursPath, propertyListXml(*colours));
     if (const auto wallpaper = parameters.find("wallpaper"); wallpaper != parameters.end()) {
         if (wallpaper->is_null())
-            _files.remove(wallpaperPath);
+            m_files.remove(wallpaperPath);
         else
             copy(wallpaper->get<std::string>(), std::string(wallpaperPath));
     }
@@ -55,7 +55,7 @@ void RootFolder::fill(const Json& parameters)
 
 void RootFolder::put(std::string_view phonePath, const std::string& bytes)
 {
-    if (const int error = _files.put(phonePath, bytes))
+    if (const int error = m_files.put(phonePath, bytes))
         throw std::system_error(error, std::generic_category(), "cannot write the phone's " + std::string(phonePath));
 }
 
@@ -65,7 +65,7 @@ void RootFolder::copy(const fs::path& from, const std::string& phonePath)
         put(phonePath, bytesOf(from));
         return;
     }
-    if (const int error = _files.createFolder(phonePath, true); error && !_files.isFolder(phonePath))
+    if (const int error = m_files.createFolder(phonePath, true); error && !m_files.isFolder(phonePath))
         throw std::system_error(error, std::generic_category(), "cannot make the phone's folder " + phonePath);
     for (const auto& entry : fs::directory_iterator(from))
         copy(entry.path(), phonePath + "/" + entry.path().filename().string());

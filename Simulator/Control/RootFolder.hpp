@@ -11,7 +11,7 @@
 
 namespace Simulator::Control {
 
-// Where the phone keeps what `phone.start` puts there.
+/// Where the phone keeps what `phone.start` puts there.
 inline constexpr std::string_view settingsPath = LYR_SETTINGS_FILE;
 inline constexpr std::string_view coloursPath = LYR_COLOUR_FILE;
 inline constexpr std::string_view wallpaperPath = LYR_WALLPAPER;
@@ -19,21 +19,21 @@ inline constexpr std::string_view userFontFolder = LYR_FONTS "/";
 
 class RootFolder {
 public:
-    // Makes a temporary folder.
+    /// Makes a temporary folder.
     RootFolder();
     explicit RootFolder(const std::string& given);
 
-    const std::string& path() const { return _files.root(); }
+    const std::string& path() const { return m_files.root(); }
 
-    // Puts the files, settings, colours, wallpaper and fonts of `phone.start` into the folder.
+    /// Puts the files, settings, colours, wallpaper and fonts of `phone.start` into the folder.
     void fill(const Json& startParameters);
 
 private:
     void put(std::string_view phonePath, const std::string& bytes);
     void copy(const std::filesystem::path& from, const std::string& phonePath);
 
-    std::optional<TemporaryFolder> _temporary;
-    PhoneFiles _files;
+    std::optional<TemporaryFolder> m_temporary;
+    PhoneFiles m_files;
 };
 
 }

@@ -26,18 +26,18 @@ std::size_t byteCount(int width, int height)
 }
 
 SharedFrame::SharedFrame()
-    : _file(memfd_create("lyr-frame", MFD_CLOEXEC))
+    : m_file(memfd_create("lyr-frame", MFD_CLOEXEC))
 {
-    if (!_file)
+    if (!m_file)
         fail("cannot make memory for the picture of the screen");
-    _path = "/proc/" + std::to_string(getpid()) + "/fd/" + std::to_string(_file.number());
+    m_path = "/proc/" + std::to_string(getpid()) + "/fd/" + std::to_string(m_file.number());
 }
 
 SharedFrame::SharedFrame(const std::string& path)
-    : _path(path)
-    , _file(open(path.c_str(), O_RDWR | O_CLOEXEC))
+    : m_path(path)
+    , m_file(open(path.c_str(), O_RDWR | O_CLOEXEC))
 {
-    if (!_file)
+    if (!m_file)
         fail("cannot open the shared frame " + path);
 }
 
@@ -48,27 +48,27 @@ SharedFrame::~SharedFrame()
 
 void SharedFrame::unmap()
 {
-    if (_pixels)
-        munmap(_pixels, byteCount(_width, _height));
-    _pixels = nullptr;
+    if (m_pixels)
+        munmap(m_pixels, byteCount(m_width, m_height));
+    m_pixels = nullptr;
 }
 
 bool SharedFrame::resize(int width, int height)
 {
-    if (_pixels && width == _width && height == _height)
+    if (m_pixels && width == m_width && height == m_height)
         return false;
     unmap();
     struct stat status { };
     const auto wanted = static_cast<off_t>(byteCount(width, height));
     // It only grows: a mapping of the other process stays good until that learns of the new size.
-    if (fstat(_file.number(), &status) != 0 || (status.st_size < wanted && ftruncate(_file.number(), wanted) != 0))
+    if (fstat(m_file.number(), &status) != 0 || (status.st_size < wanted && ftruncate(m_file.number(), wanted) != 0))
         fail("cannot make the shared frame larger");
-    void* memory = mmap(nullptr, byteCount(width, height), PROT_READ | PROT_WRITE, MAP_SHARED, _file.number(), 0);
+    void* memory = mmap(nullptr, byteCount(width, height), PROT_READ | PROT_WRITE, MAP_SHARED, m_file.number(), 0);
     if (memory == MAP_FAILED)
         fail("cannot map the shared frame");
-    _pixels = static_cast<std::uint8_t*>(memory);
-    _width = width;
-    _height = height;
+    m_pixels = static_cast<std::uint8_t*>(memory);
+    m_width = width;
+    m_height = height;
     return true;
 }
 
@@ -77,7 +77,7 @@ SharedFrame::Part SharedFrame::tile(std::size_t index) const
     const int across = tilesAcross();
     const int x = static_cast<int>(index) % across * tileSide;
     const int y = static_cast<int>(index) / across * tileSide;
-    return {x, y, std::min(tileSide, _width - x), std::min(tileSide, _height - y)};
+    return {x, y, std::min(tileSide, m_width - x), std::min(tileSide, m_height - y)};
 }
 
 }

@@ -18,26 +18,26 @@ public:
         int x, y, width, height;
     };
 
-    // Makes the memory; the other process opens it by its path.
+    /// Makes the memory; the other process opens it by its path.
     SharedFrame();
     explicit SharedFrame(const std::string& path);
     ~SharedFrame();
     SharedFrame(const SharedFrame&) = delete;
     SharedFrame& operator=(const SharedFrame&) = delete;
 
-    const std::string& path() const { return _path; }
+    const std::string& path() const { return m_path; }
 
-    // Maps as many pixels; the content stays where the size does. False when it was that size already.
+    /// Maps as many pixels; the content stays where the size does. False when it was that size already.
     bool resize(int width, int height);
-    int width() const { return _width; }
-    int height() const { return _height; }
+    int width() const { return m_width; }
+    int height() const { return m_height; }
     std::uint8_t* row(int y) const
     {
-        return _pixels + static_cast<std::size_t>(y) * static_cast<std::size_t>(_width) * 4;
+        return m_pixels + static_cast<std::size_t>(y) * static_cast<std::size_t>(m_width) * 4;
     }
 
-    int tilesAcross() const { return (_width + tileSide - 1) / tileSide; }
-    int tilesDown() const { return (_height + tileSide - 1) / tileSide; }
+    int tilesAcross() const { return (m_width + tileSide - 1) / tileSide; }
+    int tilesDown() const { return (m_height + tileSide - 1) / tileSide; }
     std::size_t tileCount() const
     {
         return static_cast<std::size_t>(tilesAcross()) * static_cast<std::size_t>(tilesDown());
@@ -47,11 +47,11 @@ public:
 private:
     void unmap();
 
-    std::string _path;
-    Descriptor _file;
-    std::uint8_t* _pixels = nullptr;
-    int _width = 0;
-    int _height = 0;
+    std::string m_path;
+    Descriptor m_file;
+    std::uint8_t* m_pixels = nullptr;
+    int m_width = 0;
+    int m_height = 0;
 };
 
 }

@@ -5,7 +5,7 @@
 
 namespace Simulator::Control {
 
-// What a shell process is told when it starts.
+/// What a shell process is told when it starts.
 struct ShellStart {
     Json parameters; // of `phone.start`; "clock" is always there
     std::string root; // host folder that is the phone's `/`, filled with what the parameters put there
@@ -17,33 +17,33 @@ struct ShellStart {
 Json toJson(const ShellStart&);
 ShellStart shellStartFrom(const Json&);
 
-// A simulated phone in its own process.
+/// A simulated phone in its own process.
 class Shell {
 public:
     virtual ~Shell() = default;
 
-    // Adds every method but `phone.start` and `phone.stop`; `phone.info` answers "time" and "screen".
+    /// Adds every method but `phone.start` and `phone.stop`; `phone.info` answers "time" and "screen".
     virtual void addMethods(Dispatcher&) = 0;
-    // Brings up the lock screen. Throws to say why it cannot.
+    /// Brings up the lock screen. Throws to say why it cannot.
     virtual void start(const ShellStart&) = 0;
-    // What the process after this one has to know: time, device, records of the log that nobody took.
+    /// What the process after this one has to know: time, device, records of the log that nobody took.
     virtual Json state() const = 0;
-    // Something asked for a restart of the shell: the process ends after the request that it is at.
+    /// Something asked for a restart of the shell: the process ends after the request that it is at.
     virtual bool wantsRelaunch() const = 0;
-    // Seconds until work is due under the real clock; nothing under the virtual one, which moves when told.
+    /// Seconds until work is due under the real clock; nothing under the virtual one, which moves when told.
     virtual std::optional<double> nextDue() const = 0;
     virtual void runDue() = 0;
 };
 
-// The exit status of a shell process that wants to be started again.
+/// The exit status of a shell process that wants to be started again.
 inline constexpr int relaunchStatus = 75;
 
-// Supervisor to shell process, first of all: its ShellStart.
+/// Supervisor to shell process, first of all: its ShellStart.
 inline constexpr std::string_view startMessage = "shell.start";
-// Supervisor to shell process: draws the screen into the shared frame at "path". {"screen", "tiles", "seconds"}.
+/// Supervisor to shell process: draws the screen into the shared frame at "path". {"screen", "tiles", "seconds"}.
 inline constexpr std::string_view drawMessage = "shell.draw";
-// Shell process to supervisor, before every reply and before a relaunch: {"state", "relaunch"}. Once the screen was
-// drawn, also after work that ran of its own accord: once, until it is drawn again.
+/// Shell process to supervisor, before every reply and before a relaunch: {"state", "relaunch"}. Once the screen was
+/// drawn, also after work that ran of its own accord: once, until it is drawn again.
 inline constexpr std::string_view stateMessage = "shell.state";
 
 }

@@ -26,34 +26,34 @@ ShellStart shellStartFrom(const Json& json)
 }
 
 ShellProcess::ShellProcess(Shell& shell, Descriptor socket)
-    : _shell(shell)
-    , _channel(std::move(socket))
+    : m_shell(shell)
+    , m_channel(std::move(socket))
 {
     const Method start{std::string(startMessage),
         {{"parameters", anything()}, {"root", text()}, {"isFirst", boolean()}, {"isSafeMode", boolean()},
             {"state", anything()}}};
-    _dispatcher.add(start, [this](const Json& parameters) {
-        _shell.start(shellStartFrom(parameters));
-        _isStarted = true;
+    m_dispatcher.add(start, [this](const Json& parameters) {
+        m_shell.start(shellStartFrom(parameters));
+        m_isStarted = true;
         return Json::object();
     });
-    _shell.addMethods(_dispatcher);
+    m_shell.addMethods(m_dispatcher);
 }
 
 int ShellProcess::run()
 {
     for (;;) {
-        while (const auto document = _channel.receiveArrived()) {
+        while (const auto document = m_channel.receiveArrived()) {
             serve(*document);
-            if (_shell.wantsRelaunch() || !runDue())
+            if (m_shell.wantsRelaunch() || !runDue())
                 return relaunchStatus;
         }
-        if (!_channel.isOpen())
+        if (!m_channel.isOpen())
             return 0;
         waitForWork();
         if (!runDue())
             return relaunchStatus;
-        if (std::exchange(_isLookedAt, false))
+        if (std::exchange(m_isLookedAt, false))
             sayState();
     }
 }
@@ -62,34 +62,34 @@ int ShellProcess::run()
 bool ShellProcess::runDue()
 {
     // A long start message arrives piece by piece.
-    if (_isStarted)
-        _shell.runDue();
-    if (_shell.wantsRelaunch())
+    if (m_isStarted)
+        m_shell.runDue();
+    if (m_shell.wantsRelaunch())
         sayState();
-    return !_shell.wantsRelaunch();
+    return !m_shell.wantsRelaunch();
 }
 
 void ShellProcess::serve(const Json& document)
 {
     const auto reply = answerDocument(document,
-        [this](const std::string& method, const Json& parameters) { return _dispatcher.call(method, parameters); });
+        [this](const std::string& method, const Json& parameters) { return m_dispatcher.call(method, parameters); });
     sayState();
     if (reply)
-        _channel.send(*reply);
-    _isLookedAt = _isLookedAt || document.value("method", "") == drawMessage;
+        m_channel.send(*reply);
+    m_isLookedAt = m_isLookedAt || document.value("method", "") == drawMessage;
 }
 
 void ShellProcess::sayState()
 {
-    _channel.send({{"jsonrpc", "2.0"}, {"method", stateMessage},
-        {"params", {{"state", _shell.state()}, {"relaunch", _shell.wantsRelaunch()}}}});
+    m_channel.send({{"jsonrpc", "2.0"}, {"method", stateMessage},
+        {"params", {{"state", m_shell.state()}, {"relaunch", m_shell.wantsRelaunch()}}}});
 }
 
 void ShellProcess::waitForWork()
 {
     constexpr double longestWait = 3600;
-    const auto due = _shell.nextDue();
-    pollfd entry{_channel.descriptor(), POLLIN, 0};
+    const auto due = m_shell.nextDue();
+    pollfd entry{m_channel.descriptor(), POLLIN, 0};
     poll(&entry, 1, due ? static_cast<int>(std::ceil(std::clamp(*due, 0.0, longestWait) * 1000)) : -1);
 }
 

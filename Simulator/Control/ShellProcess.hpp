@@ -10,7 +10,7 @@ class ShellProcess {
 public:
     ShellProcess(Shell&, Descriptor socket);
 
-    // Until the supervisor goes or the shell wants a relaunch. Answers the exit status.
+    /// Until the supervisor goes or the shell wants a relaunch. Answers the exit status.
     int run();
 
 private:
@@ -20,11 +20,11 @@ private:
     void sayState();
     void waitForWork();
 
-    Shell& _shell;
-    Channel _channel;
-    Dispatcher _dispatcher;
-    bool _isStarted = false;
-    bool _isLookedAt = false; // the screen was drawn, and nothing ran since that was not asked for
+    Shell& m_shell;
+    Channel m_channel;
+    Dispatcher m_dispatcher;
+    bool m_isStarted = false;
+    bool m_isLookedAt = false; // the screen was drawn, and nothing ran since that was not asked for
 };
 
 }

@@ -5,14 +5,14 @@ namespace Simulator::Control {
 
 namespace {
 
-// A crash brings the phone back in safe mode; one more before it served anything ends it.
+/// A crash brings the phone back in safe mode; one more before it served anything ends it.
 constexpr int mostFailures = 2;
-// Without a request in between: a phone that asks for a relaunch at every start would never come up.
+/// Without a request in between: a phone that asks for a relaunch at every start would never come up.
 constexpr int mostRelaunches = 5;
 
 ProtocolError shellEnded(const std::string& during, const std::string& how)
 {
-    return ProtocolError(ErrorCode::ShellEnded,
+    return ProtocolError(ErrorCode::shellEnded,
         "the shell process ended during " + during + ": " + how + "; the phone is back in safe mode");
 }
 
@@ -32,46 +32,46 @@ Json resultIn(const Json& reply)
 }
 
 Supervisor::Supervisor(Options options)
-    : _options(std::move(options))
+    : m_options(std::move(options))
 {
-    for (const Method& method : _options.methods) {
+    for (const Method& method : m_options.methods) {
         if (method.name == "phone.start")
-            _dispatcher.add(method, [this](const Json& parameters) { return start(parameters); });
+            m_dispatcher.add(method, [this](const Json& parameters) { return start(parameters); });
         else if (method.name == "phone.info")
-            _dispatcher.add(method, [this](const Json&) { return info(); });
+            m_dispatcher.add(method, [this](const Json&) { return info(); });
         else if (method.name == "phone.stop")
-            _dispatcher.add(method, [this](const Json&) {
+            m_dispatcher.add(method, [this](const Json&) {
                 stop();
                 return Json::object();
             });
         else
-            _dispatcher.add(
+            m_dispatcher.add(
                 method, [this, name = method.name](const Json& parameters) { return forward(name, parameters); });
     }
 }
 
 Json Supervisor::call(const std::string& method, const Json& parameters)
 {
-    return _dispatcher.call(method, parameters);
+    return m_dispatcher.call(method, parameters);
 }
 
 int Supervisor::descriptor() const
 {
-    return _phone ? _phone->process->channel().descriptor() : -1;
+    return m_phone ? m_phone->process->channel().descriptor() : -1;
 }
 
 void Supervisor::notice()
 {
     try {
-        while (_phone) {
+        while (m_phone) {
             while (const auto document = receive(&Channel::receiveArrived))
                 noteState(*document);
-            if (_phone->process->channel().isOpen() && !_phone->wantsRelaunch)
+            if (m_phone->process->channel().isOpen() && !m_phone->wantsRelaunch)
                 return;
             bringBack();
         }
     } catch (const ProtocolError& error) {
-        _options.log(error.what());
+        m_options.log(error.what());
     }
 }
 
@@ -79,38 +79,38 @@ Json Supervisor::draw(const std::string& framePath)
 {
     // Whatever changes while the process comes back, it draws afterwards.
     const Json drawn = forward(std::string(drawMessage), {{"path", framePath}});
-    _mayLookOther = false;
+    m_mayLookOther = false;
     return drawn;
 }
 
 Json Supervisor::standing() const
 {
-    return {{"running", _phone != nullptr}, {"safeMode", _phone && _phone->isSafeMode}, {"starts", _starts},
-        {"restarts", _restarts}};
+    return {{"running", m_phone != nullptr}, {"safeMode", m_phone && m_phone->isSafeMode}, {"starts", m_starts},
+        {"restarts", m_restarts}};
 }
 
 void Supervisor::stop()
 {
-    if (_phone && _phone->process && _phone->process->pid() > 0)
-        _phone->process->end();
-    _phone.reset();
+    if (m_phone && m_phone->process && m_phone->process->pid() > 0)
+        m_phone->process->end();
+    m_phone.reset();
 }
 
 Json Supervisor::start(const Json& parameters)
 {
     stop();
-    _whyNone = "no phone started";
-    _starts = _restarts = 0;
+    m_whyNone = "no phone started";
+    m_starts = m_restarts = 0;
 
     auto phone = std::make_unique<Phone>();
     phone->parameters = parameters;
-    phone->parameters.emplace("clock", _options.clock);
+    phone->parameters.emplace("clock", m_options.clock);
     if (parameters.contains("root"))
         phone->root = std::make_unique<RootFolder>(parameters["root"].get<std::string>());
     else
         phone->root = std::make_unique<RootFolder>();
     phone->root->fill(parameters);
-    _phone = std::move(phone);
+    m_phone = std::move(phone);
 
     if (!startProcess()) {
         if (const std::string crash = bringBack(); !crash.empty())
@@ -124,21 +124,21 @@ Json Supervisor::info()
     notice();
     Json known{{"pid", nullptr}, {"time", nullptr}, {"screen", nullptr}};
     known.update(standing());
-    if (!_phone)
+    if (!m_phone)
         return known;
 
     try {
         known = forward("phone.info", Json::object());
     } catch (const ProtocolError& error) {
         // A process that was killed just before: the one that came back knows as well.
-        if (error.code() != ErrorCode::ShellEnded)
+        if (error.code() != ErrorCode::shellEnded)
             throw;
-        if (!_phone)
+        if (!m_phone)
             return info();
         known = forward("phone.info", Json::object());
     }
     known.update(standing());
-    known["pid"] = _phone->process->pid();
+    known["pid"] = m_phone->process->pid();
     return known;
 }
 
@@ -146,13 +146,13 @@ Json Supervisor::forward(const std::string& method, const Json& parameters)
 {
     notice();
     for (;;) {
-        if (!_phone)
-            throw ProtocolError(ErrorCode::NoPhone, _whyNone);
+        if (!m_phone)
+            throw ProtocolError(ErrorCode::noPhone, m_whyNone);
         const auto reply = exchange(method, parameters);
-        _phone->failures = 0;
+        m_phone->failures = 0;
         if (reply)
-            _phone->relaunches = 0;
-        if (!reply || _phone->wantsRelaunch) {
+            m_phone->relaunches = 0;
+        if (!reply || m_phone->wantsRelaunch) {
             if (const std::string crash = bringBack(); !crash.empty())
                 throw shellEnded(method, crash);
         }
@@ -164,9 +164,9 @@ Json Supervisor::forward(const std::string& method, const Json& parameters)
 
 std::optional<Json> Supervisor::exchange(const std::string& method, const Json& parameters)
 {
-    const std::uint64_t id = ++_lastId;
+    const std::uint64_t id = ++m_lastId;
     // What a process said before it went is read below, even if it takes nothing any more.
-    _phone->process->channel().send(requestDocument(id, method, parameters));
+    m_phone->process->channel().send(requestDocument(id, method, parameters));
     while (auto document = receive(&Channel::receive)) {
         if (document->value("id", Json()) == id)
             return document;
@@ -177,12 +177,12 @@ std::optional<Json> Supervisor::exchange(const std::string& method, const Json& 
 
 std::optional<Json> Supervisor::receive(std::optional<Json> (Channel::*how)())
 {
-    Channel& channel = _phone->process->channel();
+    Channel& channel = m_phone->process->channel();
     try {
         return (channel.*how)();
     } catch (const ProtocolError& error) {
-        _options.log(std::string("the shell process does not make sense: ") + error.what());
-        _phone->process->kill();
+        m_options.log(std::string("the shell process does not make sense: ") + error.what());
+        m_phone->process->kill();
         return std::nullopt;
     }
 }
@@ -191,9 +191,9 @@ void Supervisor::noteState(const Json& document)
 {
     if (document.value("method", "") != stateMessage)
         return;
-    _phone->state = document.at("params").at("state");
-    _phone->wantsRelaunch = document.at("params").at("relaunch");
-    _mayLookOther = true;
+    m_phone->state = document.at("params").at("state");
+    m_phone->wantsRelaunch = document.at("params").at("relaunch");
+    m_mayLookOther = true;
 }
 
 std::string Supervisor::bringBack()
@@ -208,44 +208,44 @@ std::string Supervisor::bringBack()
 
 bool Supervisor::startProcess()
 {
-    ++_starts;
-    _phone->wantsRelaunch = false;
-    _phone->process = std::make_unique<ChildProcess>(_options.shellCommand, _options.wait);
+    ++m_starts;
+    m_phone->wantsRelaunch = false;
+    m_phone->process = std::make_unique<ChildProcess>(m_options.shellCommand, m_options.wait);
     const auto reply = exchange(std::string(startMessage),
-        toJson({.parameters = _phone->parameters,
-            .root = _phone->root->path(),
-            .isFirst = !_phone->hasStood,
-            .isSafeMode = _phone->isSafeMode,
-            .state = _phone->state}));
+        toJson({.parameters = m_phone->parameters,
+            .root = m_phone->root->path(),
+            .isFirst = !m_phone->hasStood,
+            .isSafeMode = m_phone->isSafeMode,
+            .state = m_phone->state}));
     if (!reply)
         return false;
     if (reply->contains("error"))
         giveUp(errorIn(*reply));
-    _phone->hasStood = true;
-    return !_phone->wantsRelaunch;
+    m_phone->hasStood = true;
+    return !m_phone->wantsRelaunch;
 }
 
 std::string Supervisor::endProcess()
 {
-    const Ending ending = _phone->process->end();
-    const bool isRelaunch = _phone->wantsRelaunch && ending.isExitWith(relaunchStatus);
-    if (isRelaunch && ++_phone->relaunches <= mostRelaunches) {
-        ++_restarts;
-        _phone->isSafeMode = false;
+    const Ending ending = m_phone->process->end();
+    const bool isRelaunch = m_phone->wantsRelaunch && ending.isExitWith(relaunchStatus);
+    if (isRelaunch && ++m_phone->relaunches <= mostRelaunches) {
+        ++m_restarts;
+        m_phone->isSafeMode = false;
         return {};
     }
     const std::string how = isRelaunch ? "a relaunch wanted again and again" : ending.text();
-    _options.log("the shell process ended: " + how);
-    _phone->isSafeMode = true;
-    if (++_phone->failures >= mostFailures)
+    m_options.log("the shell process ended: " + how);
+    m_phone->isSafeMode = true;
+    if (++m_phone->failures >= mostFailures)
         giveUp(
-            ProtocolError(ErrorCode::ShellEnded, "no phone runs: the shell process ended again in safe mode: " + how));
+            ProtocolError(ErrorCode::shellEnded, "no phone runs: the shell process ended again in safe mode: " + how));
     return how;
 }
 
 void Supervisor::giveUp(const ProtocolError& error)
 {
-    _whyNone = error.what();
+    m_whyNone = error.what();
     stop();
     throw error;
 }

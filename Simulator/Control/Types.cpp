@@ -24,7 +24,7 @@ bool isWithoutNul(const std::string& text)
     return text.find('\0') == std::string::npos;
 }
 
-// A string that passes a check of its text.
+/// A string that passes a check of its text.
 Type textThat(std::string takes, std::function<bool(const std::string&)> accepts)
 {
     return {.takes = std::move(takes), .accepts = [accepts = std::move(accepts)](const Json& value) {
@@ -103,7 +103,7 @@ bool isTimeZone(const std::string& name)
     return U_SUCCESS(status);
 }
 
-// "en", "en_US", "zh-Hans-CN", "ar_SA@calendar=gregorian".
+/// "en", "en_US", "zh-Hans-CN", "ar_SA@calendar=gregorian".
 bool isLocale(const std::string& name)
 {
     constexpr std::size_t longest = 120;
@@ -116,7 +116,7 @@ bool isLocale(const std::string& name)
     return form.matches(status) && U_SUCCESS(status);
 }
 
-// A property list has no null, and its texts end at a NUL.
+/// A property list has no null, and its texts end at a NUL.
 bool isPropertyList(const Json& value)
 {
     if (value.is_string())

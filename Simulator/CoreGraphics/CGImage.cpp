@@ -27,7 +27,7 @@ static const StandInClass cgImage("CGImage", "NSObject", [](Binder<CGImageObject
 
 extern "C" {
 
-// The rows as they are stored; only the picture made of them knows how the camera was held.
+/// The rows as they are stored; only the picture made of them knows how the camera was held.
 [[gnu::visibility("default")]] std::size_t CGImageGetWidth(CGImageRef image)
 {
     const auto pixels = Simulator::imageOf(image);

@@ -32,10 +32,10 @@ struct ErrorText {
 };
 
 constexpr std::array errorTexts = {
-    ErrorText{RegistrationError::FileNotFound, 101, "The file does not exist"},
-    ErrorText{RegistrationError::Invalid, 104, "The data is not valid font data"},
-    ErrorText{RegistrationError::AlreadyRegistered, 105, "The font is already registered"},
-    ErrorText{RegistrationError::NotRegistered, 201, "The font is not registered"},
+    ErrorText{RegistrationError::fileNotFound, 101, "The file does not exist"},
+    ErrorText{RegistrationError::invalid, 104, "The data is not valid font data"},
+    ErrorText{RegistrationError::alreadyRegistered, 105, "The font is already registered"},
+    ErrorText{RegistrationError::notRegistered, 201, "The font is not registered"},
 };
 
 /// True for success; otherwise the error goes to the caller, if it wants to know.
@@ -58,7 +58,7 @@ bool concluded(const Graphics::RegistrationResult& result, const std::string& su
 /// Every attempt counts, since each is work for the text system.
 void recordRegistration(const char* key, const std::string& subject, const Graphics::RegistrationResult& result)
 {
-    ExtensionCounts::shared().add(Count::FontRegistrations);
+    ExtensionCounts::shared().add(Count::fontRegistrations);
     ActivityLog::shared().record("registerFont", {{key, subject}, {"ok", static_cast<bool>(result)}});
 }
 
@@ -74,7 +74,7 @@ std::string pathOf(id url)
 std::filesystem::path hostFile(const std::string& path)
 {
     const PhoneFiles& files = PhoneFiles::shared();
-    if (path.empty() || files.fault(path, FileOperation::Read))
+    if (path.empty() || files.fault(path, FileOperation::read))
         return {};
     return files.isPhonePath(path) ? files.hostPath(path) : path;
 }
@@ -124,9 +124,9 @@ extern "C" {
 {
     const auto* object = fontObjectOf(font);
     const std::string name = object ? object->names.postScriptName : std::string();
-    Graphics::RegistrationResult result{RegistrationError::Invalid, {}};
+    Graphics::RegistrationResult result{RegistrationError::invalid, {}};
     if (object && fontCatalogue().find(name))
-        result.error = RegistrationError::AlreadyRegistered;
+        result.error = RegistrationError::alreadyRegistered;
     else if (object)
         result = fontCatalogue().registerData(object->bytes());
     recordRegistration("name", name, result);

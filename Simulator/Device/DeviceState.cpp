@@ -19,9 +19,9 @@ double startOfDayAfter(double moment, long days)
 {
     const CalendarStyle style = calendarOfPhone();
     const std::vector<CalendarField> day
-        = {{CalendarUnit::Year, calendarField(moment, CalendarUnit::Year, style).value_or(2001)},
-            {CalendarUnit::Month, calendarField(moment, CalendarUnit::Month, style).value_or(1)},
-            {CalendarUnit::Day, calendarField(moment, CalendarUnit::Day, style).value_or(1) + days}};
+        = {{CalendarUnit::year, calendarField(moment, CalendarUnit::year, style).value_or(2001)},
+            {CalendarUnit::month, calendarField(moment, CalendarUnit::month, style).value_or(1)},
+            {CalendarUnit::day, calendarField(moment, CalendarUnit::day, style).value_or(1) + days}};
     return dateFromFields(day, style).value_or(moment);
 }
 

@@ -13,14 +13,14 @@
 
 namespace Simulator {
 
-// The numbers are the platform's.
-enum class BatteryState { Unknown = 0, Unplugged = 1, Charging = 2, Full = 3 };
-enum class InterfaceStyle { Light = 1, Dark = 2 };
+/// The numbers are the platform's.
+enum class BatteryState { unknown = 0, unplugged = 1, charging = 2, full = 3 };
+enum class InterfaceStyle { light = 1, dark = 2 };
 
 struct Battery {
     /// From 0 to 1; below 0 while it is not known, and not a number where the gauge is broken.
     double level = 1;
-    BatteryState state = BatteryState::Unplugged;
+    BatteryState state = BatteryState::unplugged;
     bool lowPower = false;
 };
 
@@ -65,7 +65,7 @@ struct DeviceState {
     std::optional<std::string> alarm;
     std::vector<CalendarEvent> events;
     /// Views are told of a change by `changeInterfaceStyle`.
-    InterfaceStyle style = InterfaceStyle::Light;
+    InterfaceStyle style = InterfaceStyle::light;
     /// Other extensions: "AFont", "LastLook", "Axon", "Filza".
     std::set<std::string> installed;
 };

@@ -21,7 +21,7 @@ public:
     /// Bytes that have no file.
     explicit FileContent(std::string_view bytes);
 
-    std::size_t size() const { return _size; }
+    std::size_t size() const { return m_size; }
     /// All of it. The place in memory stays the same.
     std::string_view bytes() const;
     /// Fills the part with the bytes from an offset on; answers how many there were.
@@ -34,11 +34,11 @@ private:
     void readBlocks(std::size_t first, std::size_t end) const;
     void readRange(std::size_t from, std::size_t to) const;
 
-    mutable Descriptor _file;
-    std::size_t _size;
-    std::unique_ptr<char, Free> _bytes;
-    mutable std::vector<bool> _isRead;
-    mutable bool _isComplete = false;
+    mutable Descriptor m_file;
+    std::size_t m_size;
+    std::unique_ptr<char, Free> m_bytes;
+    mutable std::vector<bool> m_isRead;
+    mutable bool m_isComplete = false;
 };
 
 }

@@ -33,7 +33,7 @@ int writeAll(int descriptor, std::string_view bytes)
     return 0;
 }
 
-// A full or broken disk is noticed while writing; everything else already at opening.
+/// A full or broken disk is noticed while writing; everything else already at opening.
 bool failsWhileWriting(int fault)
 {
     return fault == ENOSPC || fault == EIO;
@@ -48,7 +48,7 @@ PhoneFiles& PhoneFiles::shared()
 
 FileResult<std::string> PhoneFiles::plainHostPath(std::string_view phonePath) const
 {
-    if (_root.empty())
+    if (m_root.empty())
         return {{}, ENODEV};
     if (phonePath.empty() || phonePath.find('\0') != std::string_view::npos)
         return {{}, phonePath.empty() ? ENOENT : EINVAL};
@@ -57,9 +57,9 @@ FileResult<std::string> PhoneFiles::plainHostPath(std::string_view phonePath) co
 
 Descriptor PhoneFiles::openInside(const std::string& hostPath, int flags) const
 {
-    if (!_rootFolder)
-        _rootFolder = Descriptor(::open(_root.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
-    return openBelow(_rootFolder, hostPath.size() > _root.size() ? hostPath.c_str() + _root.size() + 1 : ".", flags);
+    if (!m_rootFolder)
+        m_rootFolder = Descriptor(::open(m_root.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+    return openBelow(m_rootFolder, hostPath.size() > m_root.size() ? hostPath.c_str() + m_root.size() + 1 : ".", flags);
 }
 
 FileResult<std::string> PhoneFiles::safeHostPath(std::string_view phonePath) const
@@ -71,7 +71,7 @@ FileResult<std::string> PhoneFiles::safeHostPath(std::string_view phonePath) con
     const fs::path resolved = fs::weakly_canonical(path.value, error);
     if (error)
         return {{}, error.value()};
-    if (!(resolved.string() + '/').starts_with(_root + '/'))
+    if (!(resolved.string() + '/').starts_with(m_root + '/'))
         return {{}, EACCES};
     // A link to nothing would be followed when the file is made.
     if (fs::is_symlink(path.value, error) && !fs::exists(path.value, error))
@@ -83,7 +83,7 @@ int PhoneFiles::writeDirectly(const std::string& hostPath, std::string_view byte
 {
     if (fault && !failsWhileWriting(fault))
         return fault;
-    _recent.readAll();
+    m_recent.readAll();
     const Descriptor file(::open(hostPath.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_NONBLOCK | O_CLOEXEC, 0644));
     if (!file)
         return errno;
@@ -109,14 +109,14 @@ int PhoneFiles::writeAtomically(
 int PhoneFiles::write(std::string_view phonePath, std::string_view bytes, WriteMode mode)
 {
     const auto host = safeHostPath(phonePath);
-    const int writeFault = fault(phonePath, FileOperation::Write);
+    const int writeFault = fault(phonePath, FileOperation::write);
     int error = host.error;
-    if (!error && mode == WriteMode::Direct)
+    if (!error && mode == WriteMode::direct)
         error = writeDirectly(host.value, bytes, writeFault);
     else if (!error)
-        error = writeAtomically(host.value, bytes, writeFault, fault(phonePath, FileOperation::Rename));
-    if (_observer)
-        _observer(std::string(phonePath), error);
+        error = writeAtomically(host.value, bytes, writeFault, fault(phonePath, FileOperation::rename));
+    if (m_observer)
+        m_observer(std::string(phonePath), error);
     return error;
 }
 
@@ -132,7 +132,7 @@ int PhoneFiles::put(std::string_view phonePath, std::string_view bytes)
 
 FileResult<std::vector<std::string>> PhoneFiles::list(std::string_view phonePath) const
 {
-    if (const int error = fault(phonePath, FileOperation::Read))
+    if (const int error = fault(phonePath, FileOperation::read))
         return {{}, error};
     const auto host = safeHostPath(phonePath);
     if (!host)
@@ -151,7 +151,7 @@ int PhoneFiles::remove(std::string_view phonePath)
 {
     if (canonicalPath(phonePath) == "/")
         return EBUSY;
-    if (const int error = fault(phonePath, FileOperation::Write))
+    if (const int error = fault(phonePath, FileOperation::write))
         return error;
     // A link itself may go wherever it leads, so only the folder it lies in has to be inside.
     const auto folder = safeHostPath(canonicalPath(phonePath) + "/..");
@@ -167,7 +167,7 @@ int PhoneFiles::remove(std::string_view phonePath)
 int PhoneFiles::rename(std::string_view from, std::string_view to)
 {
     for (const auto path : {from, to}) {
-        if (const int error = fault(path, FileOperation::Rename))
+        if (const int error = fault(path, FileOperation::rename))
             return error;
     }
     const auto source = safeHostPath(from);
@@ -179,7 +179,7 @@ int PhoneFiles::rename(std::string_view from, std::string_view to)
 
 int PhoneFiles::createFolder(std::string_view phonePath, bool withParents)
 {
-    if (const int error = fault(phonePath, FileOperation::Write))
+    if (const int error = fault(phonePath, FileOperation::write))
         return error;
     const auto host = safeHostPath(phonePath);
     if (!host)
@@ -198,34 +198,34 @@ PhoneFiles::Presence PhoneFiles::presence(std::string_view phonePath) const
     struct stat status;
     if (plain) {
         if (const Descriptor file = openInside(plain.value, O_PATH))
-            return ::fstat(file.number(), &status) == 0 && S_ISDIR(status.st_mode) ? Presence::Folder : Presence::File;
+            return ::fstat(file.number(), &status) == 0 && S_ISDIR(status.st_mode) ? Presence::folder : Presence::file;
     }
     const auto host = safeHostPath(phonePath);
     if (!host || ::stat(host.value.c_str(), &status) != 0)
-        return Presence::None;
-    return S_ISDIR(status.st_mode) ? Presence::Folder : Presence::File;
+        return Presence::none;
+    return S_ISDIR(status.st_mode) ? Presence::folder : Presence::file;
 }
 
 void PhoneFiles::setFault(std::string_view phonePath, FileOperation operation, int error)
 {
     auto key = std::pair(canonicalPath(phonePath), operation);
     if (error)
-        _faults[std::move(key)] = error;
+        m_faults[std::move(key)] = error;
     else
-        _faults.erase(key);
+        m_faults.erase(key);
 }
 
 int PhoneFiles::fault(std::string_view phonePath, FileOperation operation) const
 {
-    if (_faults.empty())
+    if (m_faults.empty())
         return 0;
     for (std::string path = canonicalPath(phonePath); !path.empty(); path.erase(path.rfind('/'))) {
-        const auto found = _faults.find({path, operation});
-        if (found != _faults.end())
+        const auto found = m_faults.find({path, operation});
+        if (found != m_faults.end())
             return found->second;
     }
-    const auto top = _faults.find({"/", operation});
-    return top == _faults.end() ? 0 : top->second;
+    const auto top = m_faults.find({"/", operation});
+    return top == m_faults.end() ? 0 : top->second;
 }
 
 }

@@ -14,8 +14,8 @@
 
 namespace Simulator {
 
-enum class FileOperation { Read, Write, Rename };
-enum class WriteMode { Direct, Atomic };
+enum class FileOperation { read, write, rename };
+enum class WriteMode { direct, atomic };
 
 class PhoneFiles {
 public:
@@ -26,7 +26,7 @@ public:
 
     /// The host folder that is the phone's "/". Its links are resolved once, here.
     void setRoot(const std::string& hostPath);
-    const std::string& root() const { return _root; }
+    const std::string& root() const { return m_root; }
 
     /// True for a path in one of the phone's top-level folders; false for what is the host's own (/usr, /etc, /tmp …).
     bool isPhonePath(std::string_view path) const;
@@ -50,10 +50,10 @@ public:
     int rename(std::string_view from, std::string_view to);
     int createFolder(std::string_view phonePath, bool withParents);
     /// What there is at the path, links followed.
-    enum class Presence { None, File, Folder };
+    enum class Presence { none, file, folder };
     Presence presence(std::string_view phonePath) const;
-    bool exists(std::string_view phonePath) const { return presence(phonePath) != Presence::None; }
-    bool isFolder(std::string_view phonePath) const { return presence(phonePath) == Presence::Folder; }
+    bool exists(std::string_view phonePath) const { return presence(phonePath) != Presence::none; }
+    bool isFolder(std::string_view phonePath) const { return presence(phonePath) == Presence::folder; }
 
     /// As a tester's hand does it: no faults, no record, parent folders are made.
     FileResult<std::string> fetch(std::string_view phonePath) const;
@@ -61,11 +61,11 @@ public:
 
     /// The operation fails with `error` at the path and below it; 0 takes the fault away.
     void setFault(std::string_view phonePath, FileOperation, int error);
-    void clearFaults() { _faults.clear(); }
+    void clearFaults() { m_faults.clear(); }
     int fault(std::string_view phonePath, FileOperation) const;
-    void setWriteObserver(WriteObserver observer) { _observer = std::move(observer); }
+    void setWriteObserver(WriteObserver observer) { m_observer = std::move(observer); }
     /// Called for every file that the shell opens to read it.
-    void setOpenObserver(std::function<void()> observer) { _openObserver = std::move(observer); }
+    void setOpenObserver(std::function<void()> observer) { m_openObserver = std::move(observer); }
 
 private:
     /// The host path by the text alone.
@@ -78,13 +78,13 @@ private:
     int writeDirectly(const std::string& hostPath, std::string_view bytes, int fault) const;
     int writeAtomically(const std::string& hostPath, std::string_view bytes, int writeFault, int renameFault) const;
 
-    std::string _root;
+    std::string m_root;
     /// Opened when first needed. Should the folder go, nothing is found here, and safeHostPath asks by name.
-    mutable Descriptor _rootFolder{-1};
-    std::map<std::pair<std::string, FileOperation>, int> _faults;
-    WriteObserver _observer;
-    std::function<void()> _openObserver = [] {};
-    mutable RecentContents _recent;
+    mutable Descriptor m_rootFolder{-1};
+    std::map<std::pair<std::string, FileOperation>, int> m_faults;
+    WriteObserver m_observer;
+    std::function<void()> m_openObserver = [] {};
+    mutable RecentContents m_recent;
 };
 
 }

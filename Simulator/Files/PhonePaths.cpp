@@ -10,15 +10,15 @@ namespace Simulator {
 
 namespace {
 
-// The phone's top-level folders. What Linux and its libraries read for themselves (/usr, /etc, /tmp, /root …) is not
-// here.
+/// The phone's top-level folders. What Linux and its libraries read for themselves (/usr, /etc, /tmp, /root …) is not
+/// here.
 constexpr std::array phoneFolders
     = {"/Applications", "/Developer", "/Library", "/System", "/User", "/bootstrap", "/private", "/var"};
 
-// Folders of the jailbreak below folders that are otherwise the host's.
+/// Folders of the jailbreak below folders that are otherwise the host's.
 constexpr std::array phoneSubfolders = {"/usr/lib/TweakInject", "/usr/lib/substrate", "/usr/lib/tweaks"};
 
-// Links of the phone's system; the longest come first.
+/// Links of the phone's system; the longest come first.
 struct SystemLink {
     std::string_view from;
     std::string_view to;
@@ -35,7 +35,7 @@ bool isAtOrBelow(std::string_view path, std::string_view folder)
     return path.starts_with(folder) && (path.size() == folder.size() || path[folder.size()] == '/');
 }
 
-// "/a//b/./../c" becomes "/a/c"; ".." at the top stays at the top. A relative path counts from the top.
+/// "/a//b/./../c" becomes "/a/c"; ".." at the top stays at the top. A relative path counts from the top.
 std::string plainPath(std::string_view path)
 {
     std::string plain;
@@ -66,7 +66,7 @@ std::string PhoneFiles::canonicalPath(std::string_view phonePath)
 
 bool PhoneFiles::isPhonePath(std::string_view path) const
 {
-    if (!path.starts_with('/') || (!_root.empty() && isAtOrBelow(path, _root)))
+    if (!path.starts_with('/') || (!m_root.empty() && isAtOrBelow(path, m_root)))
         return false;
     const std::string plain = plainPath(path);
     const auto holds = [&](const char* folder) { return isAtOrBelow(path, folder) || isAtOrBelow(plain, folder); };
@@ -76,22 +76,22 @@ bool PhoneFiles::isPhonePath(std::string_view path) const
 std::string PhoneFiles::hostPath(std::string_view phonePath) const
 {
     const std::string path = canonicalPath(phonePath);
-    return path == "/" ? _root : _root + path;
+    return path == "/" ? m_root : m_root + path;
 }
 
 std::string PhoneFiles::phonePath(std::string_view hostPath) const
 {
-    if (_root.empty() || !isAtOrBelow(hostPath, _root))
+    if (m_root.empty() || !isAtOrBelow(hostPath, m_root))
         return std::string(hostPath);
-    return plainPath(hostPath.substr(_root.size()));
+    return plainPath(hostPath.substr(m_root.size()));
 }
 
 void PhoneFiles::setRoot(const std::string& hostPath)
 {
     std::error_code error;
     const std::filesystem::path resolved = std::filesystem::weakly_canonical(hostPath, error);
-    _root = plainPath(error ? hostPath : resolved.string());
-    _rootFolder.close();
+    m_root = plainPath(error ? hostPath : resolved.string());
+    m_rootFolder.close();
 }
 
 }

@@ -19,7 +19,7 @@ struct OpenFile {
     std::size_t size() const { return static_cast<std::size_t>(status.st_size); }
 };
 
-// A plain file; nothing else can be read.
+/// A plain file; nothing else can be read.
 FileResult<OpenFile> plainFile(Descriptor descriptor)
 {
     OpenFile file;
@@ -52,11 +52,11 @@ FileResult<Descriptor> PhoneFiles::openToRead(std::string_view phonePath) const
 
 FileResult<std::string> PhoneFiles::read(std::string_view phonePath) const
 {
-    if (const int error = fault(phonePath, FileOperation::Read))
+    if (const int error = fault(phonePath, FileOperation::read))
         return {{}, error};
     auto file = fetch(phonePath);
     if (file)
-        _openObserver();
+        m_openObserver();
     return file;
 }
 
@@ -69,22 +69,22 @@ FileResult<std::string> PhoneFiles::fetch(std::string_view phonePath) const
 
 FileResult<PhoneFiles::Content> PhoneFiles::load(std::string_view phonePath) const
 {
-    if (const int error = fault(phonePath, FileOperation::Read))
+    if (const int error = fault(phonePath, FileOperation::read))
         return {{}, error};
     auto opened = openToRead(phonePath);
     auto file = opened ? plainFile(std::move(opened.value)) : FileResult<OpenFile>{{}, opened.error};
     if (!file)
         return {{}, file.error};
-    _openObserver();
+    m_openObserver();
     const struct stat& status = file.value.status;
     if (!RecentContents::suits(status)) {
         const auto bytes = readAll(file.value.descriptor.number());
         return {bytes ? std::make_shared<const FileContent>(bytes.value) : nullptr, bytes.error};
     }
-    auto content = _recent.find(status);
+    auto content = m_recent.find(status);
     if (!content) {
         content = std::make_shared<const FileContent>(std::move(file.value.descriptor), file.value.size());
-        _recent.add(status, content);
+        m_recent.add(status, content);
     }
     return {std::move(content), 0};
 }

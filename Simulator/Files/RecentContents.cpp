@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::size_t mostEntries = 8;
 constexpr off_t largestFile = 1 << 20;
-// File systems count time in steps of some milliseconds.
+/// File systems count time in steps of some milliseconds.
 constexpr double settlingSeconds = 0.1;
 
 double secondsOf(const timespec& time)
@@ -23,7 +23,7 @@ bool isSame(const timespec& one, const timespec& other)
     return one.tv_sec == other.tv_sec && one.tv_nsec == other.tv_nsec;
 }
 
-// Nobody can set the time of a change back, unlike that of the content.
+/// Nobody can set the time of a change back, unlike that of the content.
 bool isSame(const struct stat& one, const struct stat& other)
 {
     return one.st_dev == other.st_dev && one.st_ino == other.st_ino && one.st_size == other.st_size
@@ -41,11 +41,12 @@ bool hasSettled(const struct stat& status)
 
 RecentContents::Content RecentContents::find(const struct stat& status)
 {
-    const auto found = std::ranges::find_if(_entries, [&](const Entry& entry) { return isSame(entry.status, status); });
-    if (found == _entries.end())
+    const auto found
+        = std::ranges::find_if(m_entries, [&](const Entry& entry) { return isSame(entry.status, status); });
+    if (found == m_entries.end())
         return nullptr;
-    std::rotate(found, found + 1, _entries.end());
-    return _entries.back().content;
+    std::rotate(found, found + 1, m_entries.end());
+    return m_entries.back().content;
 }
 
 bool RecentContents::suits(const struct stat& status)
@@ -55,17 +56,17 @@ bool RecentContents::suits(const struct stat& status)
 
 void RecentContents::add(const struct stat& status, const Content& content)
 {
-    if (_entries.size() >= mostEntries) {
-        if (_entries.front().content.use_count() > 1)
-            _entries.front().content->bytes();
-        _entries.erase(_entries.begin());
+    if (m_entries.size() >= mostEntries) {
+        if (m_entries.front().content.use_count() > 1)
+            m_entries.front().content->bytes();
+        m_entries.erase(m_entries.begin());
     }
-    _entries.push_back({status, content});
+    m_entries.push_back({status, content});
 }
 
 void RecentContents::readAll() const
 {
-    for (const Entry& entry : _entries)
+    for (const Entry& entry : m_entries)
         entry.content->bytes();
 }
 

@@ -30,7 +30,7 @@ private:
         Content content;
     };
     /// The one used last comes last.
-    std::vector<Entry> _entries;
+    std::vector<Entry> m_entries;
 };
 
 }

@@ -15,7 +15,7 @@ constexpr dispatch_time_t now = 0;
 constexpr dispatch_time_t forever = ~dispatch_time_t{0};
 constexpr double nanosecondsPerSecond = 1e9;
 
-// The phone has been up for a while when the shell starts, so there are times before now.
+/// The phone has been up for a while when the shell starts, so there are times before now.
 constexpr double uptimeAtStart = 60;
 
 dispatch_time_t currentTime()
@@ -57,7 +57,7 @@ void dispatch_async_f(dispatch_queue_t, void* context, void (*work)(void*))
 {
     if (work)
         Simulator::Loop::shared().schedule(
-            0, [=] { work(context); }, Simulator::WorkKind::MainQueue);
+            0, [=] { work(context); }, Simulator::WorkKind::mainQueue);
 }
 
 void dispatch_once_f(long* token, void* context, void (*work)(void*))

@@ -19,7 +19,7 @@ namespace Simulator {
 
 namespace {
 
-// The phone's error codes; the last row stands for every other errno.
+/// The phone's error codes; the last row stands for every other errno.
 struct ErrorCodes {
     int number;
     long reading;

@@ -15,7 +15,7 @@ static const Phone::AtStart connectsLibraries([](Phone&) {
     PhoneFiles::shared().setWriteObserver([](const std::string& path, int) {
         ActivityLog::shared().record("fileWrite", {{"path", path}});
     });
-    PhoneFiles::shared().setOpenObserver([] { ExtensionCounts::shared().add(Count::FileOpens); });
+    PhoneFiles::shared().setOpenObserver([] { ExtensionCounts::shared().add(Count::fileOpens); });
 });
 
 }

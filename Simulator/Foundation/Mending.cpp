@@ -36,7 +36,7 @@ bool isDerivedFrom(Class type, Class root)
     return type != nullptr;
 }
 
-// Those of a class, or the metaclasses of those of a metaclass.
+/// Those of a class, or the metaclasses of those of a metaclass.
 std::vector<Class> derivedClasses(Class root)
 {
     std::vector<Class> classes(static_cast<std::size_t>(objc_getClassList(nullptr, 0)));

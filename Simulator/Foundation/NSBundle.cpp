@@ -13,7 +13,7 @@ namespace Simulator {
 
 namespace {
 
-// "de-AT" is looked for as "de-AT", "de_AT" and "de".
+/// "de-AT" is looked for as "de-AT", "de_AT" and "de".
 std::vector<std::string> folderNamesOf(const std::string& language)
 {
     std::string underscored = language;
@@ -48,16 +48,16 @@ public:
         const auto phonePath = phonePathToRead(textOf(path));
         if (!phonePath || !PhoneFiles::shared().isFolder(*phonePath))
             return false;
-        _path = phonePath->ends_with('/') ? phonePath->substr(0, phonePath->size() - 1) : *phonePath;
+        m_path = phonePath->ends_with('/') ? phonePath->substr(0, phonePath->size() - 1) : *phonePath;
         return true;
     }
     bool initWithUrl(const ObjC::Object& url) { return initWithPath(pathOfFileUrl(url)); }
 
-    NS::String bundlePath() const { return stringOf(_path); }
+    NS::String bundlePath() const { return stringOf(m_path); }
     NS::String resourcePath() const
     {
-        const std::string resources = _path + "/Resources";
-        return stringOf(PhoneFiles::shared().isFolder(resources) ? resources : _path);
+        const std::string resources = m_path + "/Resources";
+        return stringOf(PhoneFiles::shared().isFolder(resources) ? resources : m_path);
     }
     NS::URL bundleUrl() const { return urlOf(bundlePath()); }
     NS::URL resourceUrl() const { return urlOf(resourcePath()); }
@@ -81,7 +81,7 @@ public:
 
     NS::Dictionary infoDictionary() const
     {
-        const auto info = NS::Dictionary::dictionaryWithContentsOfFile(stringOf(_path + "/Info.plist"));
+        const auto info = NS::Dictionary::dictionaryWithContentsOfFile(stringOf(m_path + "/Info.plist"));
         return info ? info : NS::Dictionary::make();
     }
     ObjC::Object objectForInfoDictionaryKey(const NS::String& key) const
@@ -93,7 +93,7 @@ public:
         return NS::Object(objectForInfoDictionaryKey("CFBundleIdentifier"_ns)).as<NS::String>();
     }
 
-    // A text that the table lacks is the given value, or the key itself if there is none.
+    /// A text that the table lacks is the given value, or the key itself if there is none.
     NS::String localizedString(const NS::String& key, const NS::String& value, const NS::String& table) const
     {
         const NS::String tableName = table && table.length() > 0 ? table : "Localizable"_ns;
@@ -115,7 +115,7 @@ private:
         const std::string within = folder && folder.length() > 0 ? textOf(folder) + "/" : std::string();
         for (const char* resources : {"/", "/Resources/"}) {
             for (const auto& language : languageFolders()) {
-                const std::string path = _path + resources + within + language + file;
+                const std::string path = m_path + resources + within + language + file;
                 if (PhoneFiles::shared().exists(path))
                     return stringOf(path);
             }
@@ -123,7 +123,7 @@ private:
         return nullptr;
     }
 
-    std::string _path;
+    std::string m_path;
 };
 
 NS::Object newBundle(const NS::String& path)
@@ -135,7 +135,7 @@ NS::Object newBundle(const NS::String& path)
 IMP stockInit = nullptr;
 IMP stockBundle = nullptr;
 
-// GNUstep's own bundles are the host's.
+/// GNUstep's own bundles are the host's.
 id NSBundle_initWithPath(id self, SEL command, NS::String path)
 {
     if (!phonePathToRead(textOf(path)))

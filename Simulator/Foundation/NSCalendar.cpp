@@ -21,7 +21,7 @@ public:
     using Class_::Class_;
 };
 
-// A unit's flag in a set of units, and its accessors in NSDateComponents.
+/// A unit's flag in a set of units, and its accessors in NSDateComponents.
 struct UnitRow {
     unsigned long flag;
     CalendarUnit unit;
@@ -29,19 +29,19 @@ struct UnitRow {
     const char* setter;
 };
 constexpr std::array unitRows = {
-    UnitRow{1UL << 1, CalendarUnit::Era, "era", "setEra:"},
-    UnitRow{1UL << 2, CalendarUnit::Year, "year", "setYear:"},
-    UnitRow{1UL << 3, CalendarUnit::Month, "month", "setMonth:"},
-    UnitRow{1UL << 4, CalendarUnit::Day, "day", "setDay:"},
-    UnitRow{1UL << 5, CalendarUnit::Hour, "hour", "setHour:"},
-    UnitRow{1UL << 6, CalendarUnit::Minute, "minute", "setMinute:"},
-    UnitRow{1UL << 7, CalendarUnit::Second, "second", "setSecond:"},
-    UnitRow{1UL << 9, CalendarUnit::Weekday, "weekday", "setWeekday:"},
-    UnitRow{1UL << 10, CalendarUnit::WeekdayOrdinal, "weekdayOrdinal", "setWeekdayOrdinal:"},
-    UnitRow{1UL << 12, CalendarUnit::WeekOfMonth, "weekOfMonth", "setWeekOfMonth:"},
-    UnitRow{1UL << 13, CalendarUnit::WeekOfYear, "weekOfYear", "setWeekOfYear:"},
-    UnitRow{1UL << 14, CalendarUnit::YearForWeekOfYear, "yearForWeekOfYear", "setYearForWeekOfYear:"},
-    UnitRow{1UL << 15, CalendarUnit::Nanosecond, "nanosecond", "setNanosecond:"},
+    UnitRow{1UL << 1, CalendarUnit::era, "era", "setEra:"},
+    UnitRow{1UL << 2, CalendarUnit::year, "year", "setYear:"},
+    UnitRow{1UL << 3, CalendarUnit::month, "month", "setMonth:"},
+    UnitRow{1UL << 4, CalendarUnit::day, "day", "setDay:"},
+    UnitRow{1UL << 5, CalendarUnit::hour, "hour", "setHour:"},
+    UnitRow{1UL << 6, CalendarUnit::minute, "minute", "setMinute:"},
+    UnitRow{1UL << 7, CalendarUnit::second, "second", "setSecond:"},
+    UnitRow{1UL << 9, CalendarUnit::weekday, "weekday", "setWeekday:"},
+    UnitRow{1UL << 10, CalendarUnit::weekdayOrdinal, "weekdayOrdinal", "setWeekdayOrdinal:"},
+    UnitRow{1UL << 12, CalendarUnit::weekOfMonth, "weekOfMonth", "setWeekOfMonth:"},
+    UnitRow{1UL << 13, CalendarUnit::weekOfYear, "weekOfYear", "setWeekOfYear:"},
+    UnitRow{1UL << 14, CalendarUnit::yearForWeekOfYear, "yearForWeekOfYear", "setYearForWeekOfYear:"},
+    UnitRow{1UL << 15, CalendarUnit::nanosecond, "nanosecond", "setNanosecond:"},
 };
 
 constexpr long undefinedComponent = std::numeric_limits<long>::max();
@@ -75,39 +75,39 @@ class PhoneCalendar : public StandIn {
 public:
     using Root = PhoneCalendar;
 
-    void init() { _identifier = calendarOfLocale(PhoneLocale::shared().locale); }
+    void init() { m_identifier = calendarOfLocale(PhoneLocale::shared().locale); }
     bool initWithCalendarIdentifier(const NS::String& identifier)
     {
-        _identifier = textOf(identifier);
-        return isKnownCalendar(_identifier);
+        m_identifier = textOf(identifier);
+        return isKnownCalendar(m_identifier);
     }
 
-    NS::String calendarIdentifier() const { return stringOf(_identifier); }
+    NS::String calendarIdentifier() const { return stringOf(m_identifier); }
 
-    NS::Locale locale() const { return _locale ? _locale : NS::Locale::currentLocale(); }
+    NS::Locale locale() const { return m_locale ? m_locale : NS::Locale::currentLocale(); }
     void setLocale(const NS::Locale& locale)
     {
-        _locale = locale;
-        _localeIdentifier = locale ? textOf(locale.localeIdentifier()) : std::string();
+        m_locale = locale;
+        m_localeIdentifier = locale ? textOf(locale.localeIdentifier()) : std::string();
     }
 
     ObjC::Object timeZone() const
     {
-        return _timeZone ? _timeZone : classNamed("NSTimeZone").send<ObjC::Object, "localTimeZone">();
+        return m_timeZone ? m_timeZone : classNamed("NSTimeZone").send<ObjC::Object, "localTimeZone">();
     }
     void setTimeZone(const ObjC::Object& timeZone)
     {
-        _timeZone = timeZone;
-        _timeZoneName = timeZone ? textOf(timeZone.send<NS::String, "name">()) : std::string();
+        m_timeZone = timeZone;
+        m_timeZoneName = timeZone ? textOf(timeZone.send<NS::String, "name">()) : std::string();
     }
 
     unsigned long firstWeekdayNumber() const
     {
-        return _firstWeekday ? _firstWeekday : static_cast<unsigned long>(firstWeekday(style()));
+        return m_firstWeekday ? m_firstWeekday : static_cast<unsigned long>(firstWeekday(style()));
     }
-    void setFirstWeekday(unsigned long weekday) { _firstWeekday = weekday; }
+    void setFirstWeekday(unsigned long weekday) { m_firstWeekday = weekday; }
 
-    // A unit that the calendar has no field for is undefined.
+    /// A unit that the calendar has no field for is undefined.
     long component(unsigned long flag, const NS::Date& date) const
     {
         for (const auto& row : unitRows) {
@@ -158,7 +158,7 @@ public:
         return moved(date, fieldsOf(components), options);
     }
 
-    // What is not given is the calendar's first: year 1, month 1, day 1, midnight.
+    /// What is not given is the calendar's first: year 1, month 1, day 1, midnight.
     NS::Date dateFromComponents(const DateComponents& components) const
     {
         const auto given = fieldsOf(components);
@@ -166,9 +166,9 @@ public:
             return std::ranges::any_of(given, [unit](const CalendarField& field) { return field.unit == unit; });
         };
         std::vector<CalendarField> fields;
-        const bool byWeeks = has(CalendarUnit::WeekOfYear) || has(CalendarUnit::WeekOfMonth)
-            || has(CalendarUnit::YearForWeekOfYear) || has(CalendarUnit::Weekday);
-        for (const auto unit : {CalendarUnit::Year, CalendarUnit::Month, CalendarUnit::Day}) {
+        const bool byWeeks = has(CalendarUnit::weekOfYear) || has(CalendarUnit::weekOfMonth)
+            || has(CalendarUnit::yearForWeekOfYear) || has(CalendarUnit::weekday);
+        for (const auto unit : {CalendarUnit::year, CalendarUnit::month, CalendarUnit::day}) {
             if (!byWeeks && !has(unit))
                 fields.push_back({unit, 1});
         }
@@ -181,7 +181,7 @@ public:
         if (!date)
             return nullptr;
         std::vector<CalendarField> fields;
-        for (const auto unit : {CalendarUnit::Era, CalendarUnit::Year, CalendarUnit::Month, CalendarUnit::Day}) {
+        for (const auto unit : {CalendarUnit::era, CalendarUnit::year, CalendarUnit::month, CalendarUnit::day}) {
             if (const auto value = calendarField(date.timeIntervalSinceReferenceDate(), unit, style()))
                 fields.push_back({unit, *value});
         }
@@ -196,24 +196,24 @@ public:
     bool isDateInToday(const NS::Date& date) const { return isSameDay(date, NS::Date::date()); }
     bool isDateInTomorrow(const NS::Date& date) const
     {
-        return isSameDay(date, moved(NS::Date::date(), {{CalendarUnit::Day, 1}}, 0));
+        return isSameDay(date, moved(NS::Date::date(), {{CalendarUnit::day, 1}}, 0));
     }
 
     bool isEqual(const ObjC::Object& other) const
     {
         const auto* calendar = standInOrNull<PhoneCalendar>(other);
-        return calendar && calendar->_identifier == _identifier && calendar->_localeIdentifier == _localeIdentifier
-            && calendar->_timeZoneName == _timeZoneName;
+        return calendar && calendar->m_identifier == m_identifier && calendar->m_localeIdentifier == m_localeIdentifier
+            && calendar->m_timeZoneName == m_timeZoneName;
     }
-    unsigned long hash() const { return std::hash<std::string>{}(_identifier); }
+    unsigned long hash() const { return std::hash<std::string>{}(m_identifier); }
 
     NS::Calendar copyWithZone(void*) const
     {
         const auto copy = NS::Calendar::withIdentifier(calendarIdentifier());
         auto& calendar = standIn<PhoneCalendar>(copy.raw());
-        calendar.setLocale(_locale);
-        calendar.setTimeZone(_timeZone);
-        calendar._firstWeekday = _firstWeekday;
+        calendar.setLocale(m_locale);
+        calendar.setTimeZone(m_timeZone);
+        calendar.m_firstWeekday = m_firstWeekday;
         return copy;
     }
 
@@ -221,7 +221,8 @@ private:
     CalendarStyle style() const
     {
         const PhoneLocale& phone = PhoneLocale::shared();
-        return {_identifier, _locale ? _localeIdentifier : phone.locale, _timeZone ? _timeZoneName : phone.timeZone};
+        return {
+            m_identifier, m_locale ? m_localeIdentifier : phone.locale, m_timeZone ? m_timeZoneName : phone.timeZone};
     }
 
     NS::Date moved(const NS::Date& date, const std::vector<CalendarField>& fields, unsigned long options) const
@@ -231,12 +232,12 @@ private:
         return dateOf(addToDate(date.timeIntervalSinceReferenceDate(), fields, style(), options & wrapComponents));
     }
 
-    std::string _identifier;
-    NS::Locale _locale;
-    std::string _localeIdentifier;
-    ObjC::Object _timeZone;
-    std::string _timeZoneName;
-    unsigned long _firstWeekday = 0;
+    std::string m_identifier;
+    NS::Locale m_locale;
+    std::string m_localeIdentifier;
+    ObjC::Object m_timeZone;
+    std::string m_timeZoneName;
+    unsigned long m_firstWeekday = 0;
 };
 
 NS::Calendar NSCalendar_calendarWithIdentifier(Class, SEL, NS::String identifier)

@@ -16,7 +16,7 @@ id alloc(Class self)
     return ObjC::sendMessage<id>(reinterpret_cast<id>(self), ObjC::selector<"alloc">());
 }
 
-// An object with the file's bytes, or nil and the reason. Those of mutable data are its own.
+/// An object with the file's bytes, or nil and the reason. Those of mutable data are its own.
 id initWithFile(id self, const NS::String& path, id* error)
 {
     static const Class mutableData = objc_getClass("NSMutableData");
@@ -45,7 +45,7 @@ id initWithContentsOfFileOptions(id self, SEL, NS::String path, unsigned long, i
     return initWithFile(self, path, error);
 }
 
-// The phone is offline: only files have contents.
+/// The phone is offline: only files have contents.
 id initWithContentsOfUrl(id self, SEL, ObjC::Object url)
 {
     return initWithFile(self, pathOfFileUrl(url), nullptr);
@@ -79,7 +79,7 @@ NS::Data dataWithContentsOfUrlOptions(Class self, SEL, ObjC::Object url, unsigne
 bool write(const NS::Data& data, const NS::String& path, bool atomically, id* error)
 {
     const int number = writeFile(path, {static_cast<const char*>(data.bytes()), data.length()},
-        atomically ? WriteMode::Atomic : WriteMode::Direct);
+        atomically ? WriteMode::atomic : WriteMode::direct);
     if (number)
         reportFileError(error, number, path, true);
     return number == 0;

@@ -69,7 +69,7 @@ NS::Date NSDate_dateWithTimeIntervalSinceNow(Class self, SEL, double seconds)
     return dateAt(self, Loop::shared().now() + seconds);
 }
 
-// GNUstep raises for a date that is no number.
+/// GNUstep raises for a date that is no number.
 NS::String NSDate_description(NS::Date self, SEL)
 {
     const double seconds = self.timeIntervalSinceReferenceDate();

@@ -18,46 +18,46 @@ public:
 
     void init() { }
 
-    // A pattern counts until a style other than none is set.
+    /// A pattern counts until a style other than none is set.
     NS::String dateFormat() const { return stringOf(pattern()); }
     void setDateFormat(const NS::String& pattern)
     {
-        _pattern = utf16Of(pattern);
-        _dateStyle = _timeStyle = 0;
+        m_pattern = utf16Of(pattern);
+        m_dateStyle = m_timeStyle = 0;
     }
     void setTemplate(const NS::String& skeleton)
     {
-        _pattern = patternForSkeleton(utf16Of(skeleton), style().locale);
-        _dateStyle = _timeStyle = 0;
+        m_pattern = patternForSkeleton(utf16Of(skeleton), style().locale);
+        m_dateStyle = m_timeStyle = 0;
     }
-    unsigned long dateStyle() const { return _dateStyle; }
-    void setDateStyle(unsigned long style) { _dateStyle = style; }
-    unsigned long timeStyle() const { return _timeStyle; }
-    void setTimeStyle(unsigned long style) { _timeStyle = style; }
+    unsigned long dateStyle() const { return m_dateStyle; }
+    void setDateStyle(unsigned long style) { m_dateStyle = style; }
+    unsigned long timeStyle() const { return m_timeStyle; }
+    void setTimeStyle(unsigned long style) { m_timeStyle = style; }
 
     NS::Calendar calendar() const
     {
-        return _calendar ? _calendar : NS::Calendar::withIdentifier(stringOf(calendarOfLocale(style().locale)));
+        return m_calendar ? m_calendar : NS::Calendar::withIdentifier(stringOf(calendarOfLocale(style().locale)));
     }
     void setCalendar(const NS::Calendar& calendar)
     {
-        _calendar = calendar;
-        _calendarIdentifier = calendar ? textOf(calendar.send<NS::String, "calendarIdentifier">()) : std::string();
+        m_calendar = calendar;
+        m_calendarIdentifier = calendar ? textOf(calendar.send<NS::String, "calendarIdentifier">()) : std::string();
     }
-    NS::Locale locale() const { return _locale ? _locale : NS::Locale::currentLocale(); }
+    NS::Locale locale() const { return m_locale ? m_locale : NS::Locale::currentLocale(); }
     void setLocale(const NS::Locale& locale)
     {
-        _locale = locale;
-        _localeIdentifier = locale ? textOf(locale.localeIdentifier()) : std::string();
+        m_locale = locale;
+        m_localeIdentifier = locale ? textOf(locale.localeIdentifier()) : std::string();
     }
     ObjC::Object timeZone() const
     {
-        return _timeZone ? _timeZone : classNamed("NSTimeZone").send<ObjC::Object, "localTimeZone">();
+        return m_timeZone ? m_timeZone : classNamed("NSTimeZone").send<ObjC::Object, "localTimeZone">();
     }
     void setTimeZone(const ObjC::Object& timeZone)
     {
-        _timeZone = timeZone;
-        _timeZoneName = timeZone ? textOf(timeZone.send<NS::String, "name">()) : std::string();
+        m_timeZone = timeZone;
+        m_timeZoneName = timeZone ? textOf(timeZone.send<NS::String, "name">()) : std::string();
     }
     bool isLenient() const { return false; }
     void setLenient(bool) { }
@@ -67,7 +67,7 @@ public:
         if (!date.is<NS::Date>())
             return nullptr;
         const double seconds = date.as<NS::Date>().timeIntervalSinceReferenceDate();
-        if (_dateStyle == 0 && _timeStyle == 0)
+        if (m_dateStyle == 0 && m_timeStyle == 0)
             return stringOf(formatDate(seconds, style()));
         const std::u16string stylePattern = pattern();
         DateStyle style = this->style();
@@ -95,19 +95,19 @@ public:
     template <int half>
     NS::String halfOfDay() const
     {
-        return names<DateSymbols::HalvesOfDay, SymbolWidth::Wide, false>().template at<NS::String>(half);
+        return names<DateSymbols::halvesOfDay, SymbolWidth::wide, false>().template at<NS::String>(half);
     }
 
     NS::DateFormatter copyWithZone(void*) const
     {
         const auto copy = NS::DateFormatter::make();
         auto& formatter = standIn<PhoneDateFormatter>(copy.raw());
-        formatter._pattern = _pattern;
-        formatter._dateStyle = _dateStyle;
-        formatter._timeStyle = _timeStyle;
-        formatter.setCalendar(_calendar);
-        formatter.setLocale(_locale);
-        formatter.setTimeZone(_timeZone);
+        formatter.m_pattern = m_pattern;
+        formatter.m_dateStyle = m_dateStyle;
+        formatter.m_timeStyle = m_timeStyle;
+        formatter.setCalendar(m_calendar);
+        formatter.setLocale(m_locale);
+        formatter.setTimeZone(m_timeZone);
         return copy;
     }
 
@@ -115,27 +115,27 @@ private:
     DateStyle style() const
     {
         const PhoneLocale& phone = PhoneLocale::shared();
-        return {_pattern, _locale ? std::string_view(_localeIdentifier) : phone.locale, _calendarIdentifier,
-            _timeZone ? std::string_view(_timeZoneName) : phone.timeZone};
+        return {m_pattern, m_locale ? std::string_view(m_localeIdentifier) : phone.locale, m_calendarIdentifier,
+            m_timeZone ? std::string_view(m_timeZoneName) : phone.timeZone};
     }
 
     std::u16string pattern() const
     {
-        if (_dateStyle == 0 && _timeStyle == 0)
-            return _pattern;
+        if (m_dateStyle == 0 && m_timeStyle == 0)
+            return m_pattern;
         return patternForStyles(
-            static_cast<int>(_dateStyle), static_cast<int>(_timeStyle), style().locale, style().calendar);
+            static_cast<int>(m_dateStyle), static_cast<int>(m_timeStyle), style().locale, style().calendar);
     }
 
-    std::u16string _pattern;
-    unsigned long _dateStyle = 0;
-    unsigned long _timeStyle = 0;
-    NS::Calendar _calendar;
-    std::string _calendarIdentifier;
-    NS::Locale _locale;
-    std::string _localeIdentifier;
-    ObjC::Object _timeZone;
-    std::string _timeZoneName;
+    std::u16string m_pattern;
+    unsigned long m_dateStyle = 0;
+    unsigned long m_timeStyle = 0;
+    NS::Calendar m_calendar;
+    std::string m_calendarIdentifier;
+    NS::Locale m_locale;
+    std::string m_localeIdentifier;
+    ObjC::Object m_timeZone;
+    std::string m_timeZoneName;
 };
 
 NS::String NSDateFormatter_localizedString(
@@ -156,25 +156,25 @@ NS::String NSDateFormatter_formatFromTemplate(Class, SEL, NS::String skeleton, u
 template <DateSymbols symbols, SymbolWidth width, bool standalone>
 constexpr auto names = &PhoneDateFormatter::names<symbols, width, standalone>;
 
-// The names of days and months, each selector with its length and position.
+/// The names of days and months, each selector with its length and position.
 void bindNames(Binder<PhoneDateFormatter>& binder)
 {
     using enum DateSymbols;
     using enum SymbolWidth;
-    binder.def<"weekdaySymbols", names<Weekdays, Wide, false>>()
-        .def<"shortWeekdaySymbols", names<Weekdays, Short, false>>()
-        .def<"veryShortWeekdaySymbols", names<Weekdays, Narrow, false>>()
-        .def<"standaloneWeekdaySymbols", names<Weekdays, Wide, true>>()
-        .def<"shortStandaloneWeekdaySymbols", names<Weekdays, Short, true>>()
-        .def<"veryShortStandaloneWeekdaySymbols", names<Weekdays, Narrow, true>>()
-        .def<"monthSymbols", names<Months, Wide, false>>()
-        .def<"shortMonthSymbols", names<Months, Short, false>>()
-        .def<"veryShortMonthSymbols", names<Months, Narrow, false>>()
-        .def<"standaloneMonthSymbols", names<Months, Wide, true>>()
-        .def<"shortStandaloneMonthSymbols", names<Months, Short, true>>()
-        .def<"veryShortStandaloneMonthSymbols", names<Months, Narrow, true>>()
-        .def<"eraSymbols", names<Eras, Short, false>>()
-        .def<"longEraSymbols", names<Eras, Wide, false>>()
+    binder.def<"weekdaySymbols", names<weekdays, wide, false>>()
+        .def<"shortWeekdaySymbols", names<weekdays, abbreviated, false>>()
+        .def<"veryShortWeekdaySymbols", names<weekdays, narrow, false>>()
+        .def<"standaloneWeekdaySymbols", names<weekdays, wide, true>>()
+        .def<"shortStandaloneWeekdaySymbols", names<weekdays, abbreviated, true>>()
+        .def<"veryShortStandaloneWeekdaySymbols", names<weekdays, narrow, true>>()
+        .def<"monthSymbols", names<months, wide, false>>()
+        .def<"shortMonthSymbols", names<months, abbreviated, false>>()
+        .def<"veryShortMonthSymbols", names<months, narrow, false>>()
+        .def<"standaloneMonthSymbols", names<months, wide, true>>()
+        .def<"shortStandaloneMonthSymbols", names<months, abbreviated, true>>()
+        .def<"veryShortStandaloneMonthSymbols", names<months, narrow, true>>()
+        .def<"eraSymbols", names<eras, abbreviated, false>>()
+        .def<"longEraSymbols", names<eras, wide, false>>()
         .def<"AMSymbol", &PhoneDateFormatter::halfOfDay<0>>()
         .def<"PMSymbol", &PhoneDateFormatter::halfOfDay<1>>();
 }

@@ -42,8 +42,8 @@ bool fileExistsIsDirectory(id self, SEL command, NS::String path, unsigned char*
         return ObjC::callImplementation<bool>(stockExists, self, command, path, isDirectory);
     const auto presence = PhoneFiles::shared().presence(*phonePath);
     if (isDirectory)
-        *isDirectory = presence == PhoneFiles::Presence::Folder;
-    return presence != PhoneFiles::Presence::None;
+        *isDirectory = presence == PhoneFiles::Presence::folder;
+    return presence != PhoneFiles::Presence::none;
 }
 
 bool fileExists(NS::FileManager self, SEL, NS::String path)
@@ -68,7 +68,7 @@ NS::Array contentsOfDirectory(id self, SEL command, NS::String path, id* error)
     return names;
 }
 
-// GNUstep's own contentsOfDirectoryAtPath:error: comes here for a folder of the host.
+/// GNUstep's own contentsOfDirectoryAtPath:error: comes here for a folder of the host.
 NS::Array directoryContents(NS::FileManager self, SEL command, NS::String path)
 {
     if (phonePathToRead(textOf(path)))
@@ -99,10 +99,10 @@ NS::Data contentsAtPath(id, SEL, NS::String path)
 
 bool createFile(id, SEL, NS::String path, NS::Data contents, ObjC::Object)
 {
-    return writeFile(path, {static_cast<const char*>(contents.bytes()), contents.length()}, WriteMode::Atomic) == 0;
+    return writeFile(path, {static_cast<const char*>(contents.bytes()), contents.length()}, WriteMode::atomic) == 0;
 }
 
-// Answers whether it worked, and hands out the reason if not.
+/// Answers whether it worked, and hands out the reason if not.
 bool finished(int number, const NS::String& path, id* error)
 {
     if (number)
@@ -137,7 +137,7 @@ int copyTree(const std::string& from, const std::string& to)
     PhoneFiles& files = PhoneFiles::shared();
     if (!files.isFolder(from)) {
         const auto file = files.read(from);
-        return file ? files.write(to, file.value, WriteMode::Atomic) : file.error;
+        return file ? files.write(to, file.value, WriteMode::atomic) : file.error;
     }
     const auto names = files.list(from);
     int number = names ? files.createFolder(to, false) : names.error;

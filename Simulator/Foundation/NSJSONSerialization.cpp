@@ -13,7 +13,7 @@ constexpr int deepestJson = 512;
 
 IMP stockObjectWithData = nullptr;
 
-// Whether the brackets outside of strings match, are not too deep, and nothing follows the outermost pair.
+/// Whether the brackets outside of strings match, are not too deep, and nothing follows the outermost pair.
 bool hasSoundBrackets(std::string_view text)
 {
     std::string open;
@@ -44,7 +44,7 @@ bool hasSoundBrackets(std::string_view text)
     return open.empty() && !inString;
 }
 
-// GNUstep tells the encoding by itself; other than UTF-8 it is looked at as UTF-8 here, too.
+/// GNUstep tells the encoding by itself; other than UTF-8 it is looked at as UTF-8 here, too.
 std::string asUtf8(const NS::Data& data)
 {
     std::string_view bytes(static_cast<const char*>(data.bytes()), data.length());

@@ -34,7 +34,7 @@ IMP stockIdentifier = nullptr;
 IMP stockLocaleIdentifier = nullptr;
 IMP stockObjectForKey = nullptr;
 
-// Asked for at every refresh of the clock, so the object is kept as long as the user keeps the locale.
+/// Asked for at every refresh of the clock, so the object is kept as long as the user keeps the locale.
 struct CurrentLocale {
     std::string identifier;
     NS::Locale object;
@@ -50,13 +50,13 @@ NS::Locale NSLocale_currentLocale(Class, SEL)
     return current.object;
 }
 
-// Every locale is made of its canonical identifier; GNUstep's own raises for a hyphen before the region.
+/// Every locale is made of its canonical identifier; GNUstep's own raises for a hyphen before the region.
 NS::String NSLocale_canonicalIdentifier(Class, SEL, NS::String identifier)
 {
     return identifier ? stringOf(localeName(textOf(identifier))) : NS::String();
 }
 
-// GNUstep writes an underscore before a script.
+/// GNUstep writes an underscore before a script.
 NS::String NSLocale_localeIdentifier(id self, SEL command)
 {
     return stringOf(localeName(textOf(ObjC::callImplementation<NS::String>(stockLocaleIdentifier, self, command))));
@@ -101,7 +101,7 @@ NS::String NSLocale_localeIdentifierFromComponents(id self, SEL command, NS::Dic
     return ObjC::callImplementation<NS::String>(stockIdentifier, self, command, stock);
 }
 
-// A locale keeps its parts under the keys of componentsFromLocaleIdentifier:, and all else under GNUstep's own.
+/// A locale keeps its parts under the keys of componentsFromLocaleIdentifier:, and all else under GNUstep's own.
 ObjC::Object NSLocale_objectForKey(id self, SEL command, NS::String key)
 {
     const auto stock = [&](const NS::String& name) {

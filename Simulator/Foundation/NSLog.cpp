@@ -16,7 +16,7 @@ namespace Simulator {
 
 namespace {
 
-// GNUstep reports its own troubles through the same function; they are none of the phone's.
+/// GNUstep reports its own troubles through the same function; they are none of the phone's.
 bool isFoundationItself(void* caller)
 {
     dl_find_object library;

@@ -5,7 +5,7 @@ namespace Simulator {
 
 namespace {
 
-// The phone's truth values are signed characters.
+/// The phone's truth values are signed characters.
 const char* NSBoolNumber_objCType(id, SEL)
 {
     return "c";

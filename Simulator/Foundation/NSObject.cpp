@@ -74,16 +74,16 @@ void NSObject_cancelPreviousOf(id, SEL, ObjC::Object receiver, SEL selector, Obj
     });
 }
 
-// The shell's thread is the main one, so waiting means doing it at once.
+/// The shell's thread is the main one, so waiting means doing it at once.
 void NSObject_performOnMainThread(ObjC::Object self, SEL, SEL selector, ObjC::Object argument, bool wait)
 {
     if (wait)
         return ObjC::sendMessage<void>(self.raw(), selector, argument);
     Loop::shared().schedule(
-        0, [=] { ObjC::sendMessage<void>(self.raw(), selector, argument); }, WorkKind::MainQueue);
+        0, [=] { ObjC::sendMessage<void>(self.raw(), selector, argument); }, WorkKind::mainQueue);
 }
 
-// The shell's own form answers nil where valueForKey: raises.
+/// The shell's own form answers nil where valueForKey: raises.
 ObjC::Object NSObject_safeValueForKey(NS::Object self, SEL, NS::String key)
 {
     try {

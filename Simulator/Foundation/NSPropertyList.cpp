@@ -14,7 +14,7 @@ constexpr unsigned long oldStyleFormat = 1;
 constexpr unsigned long xmlFormat = 100;
 constexpr unsigned long binaryFormat = 200;
 
-// What the two kinds of container call their methods.
+/// What the two kinds of container call their methods.
 struct DictionaryFile {
     using Container = NS::Dictionary;
     using Content = PropertyListDictionary;
@@ -73,7 +73,7 @@ bool writeContainer(const ObjC::Object& container, const NS::String& path, bool 
 {
     const auto list = propertyListOf(container);
     return list
-        && writeFile(path, writeXmlPropertyList(*list), atomically ? WriteMode::Atomic : WriteMode::Direct) == 0;
+        && writeFile(path, writeXmlPropertyList(*list), atomically ? WriteMode::atomic : WriteMode::direct) == 0;
 }
 
 bool writeToFile(ObjC::Object self, SEL, NS::String path, bool atomically)

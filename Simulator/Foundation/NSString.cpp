@@ -13,7 +13,7 @@ namespace {
 
 using CaseMapping = std::u16string (*)(std::u16string_view, std::string_view);
 
-// Without a locale the mapping is the same in every language.
+/// Without a locale the mapping is the same in every language.
 template <CaseMapping map>
 NS::String mapped(NS::String self, SEL)
 {
@@ -42,14 +42,14 @@ long compareForUser(NS::String self, SEL, NS::String other)
     return order < 0 ? -1 : order > 0;
 }
 
-// The phone holds a number that is too large at the largest.
+/// The phone holds a number that is too large at the largest.
 int intValue(NS::String self, SEL)
 {
     const long value = self.send<long, "integerValue">();
     return static_cast<int>(std::clamp<long>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
-// Nothing contains the empty text.
+/// Nothing contains the empty text.
 bool containsString(NS::String self, SEL, NS::String other)
 {
     struct Range {

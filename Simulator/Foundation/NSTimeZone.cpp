@@ -12,7 +12,7 @@ namespace {
 
 IMP stockTimeZoneWithName = nullptr;
 
-// A host without zone files still knows the zone's present difference from UTC.
+/// A host without zone files still knows the zone's present difference from UTC.
 ObjC::Object NSTimeZone_local(Class self, SEL)
 {
     const std::string& name = PhoneLocale::shared().timeZone;
@@ -23,7 +23,7 @@ ObjC::Object NSTimeZone_local(Class self, SEL)
     return receiver.send<ObjC::Object, "timeZoneForSecondsFromGMT:">(offset);
 }
 
-// GNUstep complains in the log about an empty name.
+/// GNUstep complains in the log about an empty name.
 ObjC::Object NSTimeZone_timeZoneWithName(id self, SEL command, NS::String name)
 {
     if (!name || name.length() == 0)

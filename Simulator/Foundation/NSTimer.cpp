@@ -11,7 +11,7 @@ namespace Simulator {
 
 namespace {
 
-// What the phone takes for a non-positive interval.
+/// What the phone takes for a non-positive interval.
 double effectiveInterval(double interval)
 {
     constexpr double shortestInterval = 0.0001;
@@ -25,88 +25,88 @@ public:
     void initWithFireDate(const NS::Date& date, double interval, const ObjC::Object& target, SEL action,
         const ObjC::Object& userInfo, bool repeats)
     {
-        _fireDate = date ? date.timeIntervalSinceReferenceDate() : Loop::shared().now();
-        _interval = repeats ? effectiveInterval(interval) : 0;
-        _target = target;
-        _action = action;
-        _userInfo = userInfo;
+        m_fireDate = date ? date.timeIntervalSinceReferenceDate() : Loop::shared().now();
+        m_interval = repeats ? effectiveInterval(interval) : 0;
+        m_target = target;
+        m_action = action;
+        m_userInfo = userInfo;
     }
 
-    void schedule() { scheduleAfter(_fireDate - Loop::shared().now()); }
-    // The loop holds the timer, and the timer its target, until it is invalidated.
+    void schedule() { scheduleAfter(m_fireDate - Loop::shared().now()); }
+    /// The loop holds the timer, and the timer its target, until it is invalidated.
     void scheduleAfter(double delay)
     {
-        if (!_valid || _work)
+        if (!m_valid || m_work)
             return;
         const auto run = [timer = self()] { standIn<PhoneTimer>(timer.raw()).fireDue(); };
-        _work = _interval > 0 ? Loop::shared().scheduleRepeating(delay, _interval, run)
-                              : Loop::shared().schedule(delay, run, WorkKind::Timer);
+        m_work = m_interval > 0 ? Loop::shared().scheduleRepeating(delay, m_interval, run)
+                              : Loop::shared().schedule(delay, run, WorkKind::timer);
     }
 
     void fire()
     {
-        if (!_valid || _firing)
+        if (!m_valid || m_firing)
             return;
         const ObjC::Object keep = self();
-        const ObjC::Object target = _target;
-        _firing = true;
-        if (_action)
-            ObjC::sendMessage<void>(target.raw(), _action, keep);
+        const ObjC::Object target = m_target;
+        m_firing = true;
+        if (m_action)
+            ObjC::sendMessage<void>(target.raw(), m_action, keep);
         else if (target)
             target.send<void, "invoke">(); // an invocation
-        _firing = false;
-        if (_interval == 0)
+        m_firing = false;
+        if (m_interval == 0)
             invalidate();
     }
 
     void invalidate()
     {
         const ObjC::Object keep = self();
-        _valid = false;
-        Loop::shared().cancel(std::exchange(_work, 0));
-        _target = nullptr;
-        _userInfo = nullptr;
+        m_valid = false;
+        Loop::shared().cancel(std::exchange(m_work, 0));
+        m_target = nullptr;
+        m_userInfo = nullptr;
     }
 
-    bool isValid() const { return _valid; }
-    double timeInterval() const { return _interval; }
-    ObjC::Object userInfo() const { return _userInfo; }
+    bool isValid() const { return m_valid; }
+    double timeInterval() const { return m_interval; }
+    ObjC::Object userInfo() const { return m_userInfo; }
 
     NS::Date fireDate() const
     {
-        const auto due = Loop::shared().dueIn(_work);
-        return NS::Date::dateWithTimeIntervalSinceReferenceDate(due ? Loop::shared().now() + *due : _fireDate);
+        const auto due = Loop::shared().dueIn(m_work);
+        return NS::Date::dateWithTimeIntervalSinceReferenceDate(due ? Loop::shared().now() + *due : m_fireDate);
     }
 
     void setFireDate(const NS::Date& date)
     {
-        if (!date || !_valid)
+        if (!date || !m_valid)
             return;
-        _fireDate = date.timeIntervalSinceReferenceDate();
-        if (Loop::shared().cancel(std::exchange(_work, 0)))
+        m_fireDate = date.timeIntervalSinceReferenceDate();
+        if (Loop::shared().cancel(std::exchange(m_work, 0)))
             schedule();
     }
 
-    double tolerance() const { return _tolerance; }
-    void setTolerance(double tolerance) { _tolerance = tolerance; }
+    double tolerance() const { return m_tolerance; }
+    void setTolerance(double tolerance) { m_tolerance = tolerance; }
 
 private:
     void fireDue()
     {
-        if (_interval == 0)
-            _work = 0;
+        if (m_interval == 0)
+            m_work = 0;
         fire();
     }
 
-    double _fireDate = 0;
-    double _interval = 0; // 0 for a timer that fires once
-    double _tolerance = 0;
-    ObjC::Object _target;
-    SEL _action = nullptr;
-    ObjC::Object _userInfo;
-    TimerId _work = 0;
-    bool _valid = true;
-    bool _firing = false;
+    double m_fireDate = 0;
+    double m_interval = 0; // 0 for a timer that fires once
+    double m_tolerance = 0;
+    ObjC::Object m_target;
+    SEL m_action = nullptr;
+    ObjC::Object m_userInfo;
+    TimerId m_work = 0;
+    bool m_valid = true;
+    bool m_firing = false;
 };
 
 NS::Timer NSTimer_timer(
@@ -129,7 +129,7 @@ NS::Timer NSTimer_scheduledTimer(
     return timer;
 }
 
-// The phone has one run loop, and all its modes are one.
+/// The phone has one run loop, and all its modes are one.
 void NSRunLoop_addTimer(id, SEL, ObjC::Object timer, ObjC::Object)
 {
     if (auto* phoneTimer = standInOrNull<PhoneTimer>(timer))

@@ -7,7 +7,7 @@ namespace Simulator::Graphics {
 
 namespace {
 
-// For bitmaps that are not on the screen at present.
+/// For bitmaps that are not on the screen at present.
 constexpr std::size_t spareBytes = 64u << 20;
 constexpr std::size_t spareCount = 256;
 

@@ -10,24 +10,24 @@
 
 namespace Simulator::Graphics {
 
-// Lies on the screen's pixels one to one.
+/// Lies on the screen's pixels one to one.
 struct Bitmap {
     SurfacePointer surface;
     PixelRect place;
     bool isOpaque = false;
 
-    // Blank; a null surface if there is no memory for it.
+    /// Blank; a null surface if there is no memory for it.
     static Bitmap blank(cairo_format_t format, const PixelRect& place);
-    // Draws in the screen's pixel coordinates.
+    /// Draws in the screen's pixel coordinates.
     CanvasPointer canvas() const;
     std::size_t byteCount() const;
 };
 
 class BitmapCache {
 public:
-    // A failure to make it is remembered, too: its surface is null.
+    /// A failure to make it is remembered, too: its surface is null.
     const Bitmap& find(std::uint64_t key, const std::function<Bitmap()>& make);
-    // Keeps what the list shows, and of the rest what was shown last.
+    /// Keeps what the list shows, and of the rest what was shown last.
     void endFrame(const DisplayList& list);
 
 private:

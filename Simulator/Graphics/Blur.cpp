@@ -19,7 +19,7 @@ double usableSigma(double sigma)
     return std::isfinite(sigma) ? std::clamp(sigma, 0.0, largestSigma) : 0;
 }
 
-// Odd widths of the three averages whose sequence comes closest to the Gaussian; their radii.
+/// Odd widths of the three averages whose sequence comes closest to the Gaussian; their radii.
 std::array<int, passes> averageRadii(double sigma)
 {
     sigma = usableSigma(sigma);
@@ -40,7 +40,7 @@ std::uint8_t divided(int sum, float reciprocal)
     return static_cast<std::uint8_t>(static_cast<float>(sum) * reciprocal + 0.5f);
 }
 
-// The row with its edge pixels repeated to either side.
+/// The row with its edge pixels repeated to either side.
 template <int channels>
 void pad(const std::uint8_t* row, int count, int before, int after, std::vector<std::uint8_t>& padded)
 {
@@ -67,7 +67,7 @@ void averageRow(const std::uint8_t* padded, std::uint8_t* to, int count, int rad
     }
 }
 
-// A column is as quick as a row if all columns advance together.
+/// A column is as quick as a row if all columns advance together.
 void averageColumns(
     const std::vector<std::uint8_t>& from, std::uint8_t* to, int length, int height, int stride, int radius)
 {
@@ -108,7 +108,7 @@ void average(std::uint8_t* pixels, int width, int height, int stride, double sig
     }
 }
 
-// How the blur is split between reducing, averaging the reduced picture and enlarging it again.
+/// How the blur is split between reducing, averaging the reduced picture and enlarging it again.
 struct Plan {
     int factor = 1;
     double reducedSigma = 0;
@@ -157,7 +157,7 @@ std::vector<std::uint8_t> reduced(const std::uint8_t* pixels, int width, int hei
     return small;
 }
 
-// Where a pixel lies between the centres of two reduced ones; the weight is in parts of twice the factor.
+/// Where a pixel lies between the centres of two reduced ones; the weight is in parts of twice the factor.
 struct Between {
     int first = 0;
     int second = 0;
@@ -233,7 +233,7 @@ void blur(std::uint8_t* pixels, int width, int height, int stride, BlurKind kind
 {
     if (width <= 0 || height <= 0)
         return;
-    if (kind == BlurKind::Alpha)
+    if (kind == BlurKind::alpha)
         blurChannels<1>(pixels, width, height, stride, sigma);
     else
         blurChannels<4>(pixels, width, height, stride, sigma);

@@ -42,7 +42,7 @@ struct Compositor::State {
     {
     }
 
-    bool isOpaque() const { return backing == Backing::OpaqueBlack; }
+    bool isOpaque() const { return backing == Backing::opaqueBlack; }
 
     double scale;
     Backing backing;
@@ -135,7 +135,7 @@ Image::Pointer rasterize(FontCatalogue& catalogue, const Layer& layer, Size poin
 {
     if (!(points.width > 0 && points.height > 0))
         return nullptr;
-    Compositor compositor(catalogue, points, scale, Backing::Transparent);
+    Compositor compositor(catalogue, points, scale, Backing::transparent);
     compositor.render(layer);
     return compositor.image();
 }

@@ -14,7 +14,7 @@ namespace Simulator::Graphics {
 
 class FontCatalogue;
 
-// Premultiplied pixels, bytes in the order blue, green, red, alpha. Valid until the next frame.
+/// Premultiplied pixels, bytes in the order blue, green, red, alpha. Valid until the next frame.
 struct FrameView {
     const std::uint8_t* pixels = nullptr;
     int width = 0;
@@ -22,25 +22,25 @@ struct FrameView {
     int stride = 0;
 };
 
-enum class Backing { OpaqueBlack, Transparent };
+enum class Backing { opaqueBlack, transparent };
 
 class Compositor {
 public:
-    // The size is held within 1 and 16384 pixels a side.
-    Compositor(FontCatalogue& catalogue, Size points, double scale, Backing backing = Backing::OpaqueBlack);
+    /// The size is held within 1 and 16384 pixels a side.
+    Compositor(FontCatalogue& catalogue, Size points, double scale, Backing backing = Backing::opaqueBlack);
     ~Compositor();
     Compositor(const Compositor&) = delete;
     Compositor& operator=(const Compositor&) = delete;
 
-    // The layer's parent coordinates are the screen's points. Returns what was redrawn: disjoint, in pixels.
+    /// The layer's parent coordinates are the screen's points. Returns what was redrawn: disjoint, in pixels.
     std::vector<PixelRect> render(const Layer& root);
-    // The next frame is drawn in full.
+    /// The next frame is drawn in full.
     void invalidate();
 
     FrameView pixels() const;
     std::vector<std::byte> encodePng() const;
     std::vector<std::byte> encodePng(const PixelRect& part) const;
-    // A copy of the frame.
+    /// A copy of the frame.
     Image::Pointer image() const;
 
 private:
@@ -48,7 +48,7 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-// A layer on a transparent ground of the given size, for pictures drawn off the screen. Null for an empty size.
+/// A layer on a transparent ground of the given size, for pictures drawn off the screen. Null for an empty size.
 Image::Pointer rasterize(FontCatalogue& catalogue, const Layer& layer, Size points, double scale);
 
 }

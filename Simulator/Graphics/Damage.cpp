@@ -8,10 +8,10 @@ namespace Simulator::Graphics {
 
 namespace {
 
-// More rectangles than this cost more than they save.
+/// More rectangles than this cost more than they save.
 constexpr std::size_t rectLimit = 12;
 
-// Groups that differ in their items only are the same group.
+/// Groups that differ in their items only are the same group.
 std::uint64_t keyOf(const DisplayItem& item)
 {
     const auto* group = std::get_if<Group>(&item.content);
@@ -23,7 +23,7 @@ struct Pair {
     std::size_t after = 0;
 };
 
-// The first of equal items goes with the first, the second with the second.
+/// The first of equal items goes with the first, the second with the second.
 std::vector<Pair> equalItems(const DisplayList& before, const DisplayList& after)
 {
     std::unordered_map<std::uint64_t, std::vector<std::size_t>> places;
@@ -40,7 +40,7 @@ std::vector<Pair> equalItems(const DisplayList& before, const DisplayList& after
     return pairs;
 }
 
-// The longest sequence of pairs that stand in the same order in both lists.
+/// The longest sequence of pairs that stand in the same order in both lists.
 std::vector<Pair> inSameOrder(const std::vector<Pair>& pairs)
 {
     constexpr auto none = static_cast<std::size_t>(-1);
@@ -99,7 +99,7 @@ void collect(
     }
 }
 
-// Adds the rectangle to disjoint ones; those that it touches become one with it.
+/// Adds the rectangle to disjoint ones; those that it touches become one with it.
 void addDisjoint(std::vector<PixelRect>& rects, PixelRect added)
 {
     if (added.isEmpty())

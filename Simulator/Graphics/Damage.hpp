@@ -7,7 +7,7 @@
 
 namespace Simulator::Graphics {
 
-// Disjoint rectangles within the screen.
+/// Disjoint rectangles within the screen.
 std::vector<PixelRect> damageBetween(const DisplayList& before, const DisplayList& after, const PixelRect& screen);
 
 }

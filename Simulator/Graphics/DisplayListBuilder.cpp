@@ -13,7 +13,7 @@ namespace Simulator::Graphics {
 namespace {
 
 constexpr int depthLimit = 200;
-// Drawing far outside the screen is cut to this margin, within the numbers that the rasteriser can hold.
+/// Drawing far outside the screen is cut to this margin, within the numbers that the rasteriser can hold.
 constexpr int outerMargin = 8'192;
 
 Rect toRect(const PixelRect& rect)
@@ -28,7 +28,7 @@ Rect intersection(const Rect& one, const Rect& other)
     return {x, y, std::min(one.right(), other.right()) - x, std::min(one.bottom(), other.bottom()) - y};
 }
 
-// The part of a shape that can matter; a shape of ordinary size is kept as it is.
+/// The part of a shape that can matter; a shape of ordinary size is kept as it is.
 Rect cutToReach(const Rect& rect, const AffineTransform& transform, const PixelRect& clip)
 {
     const PixelRect reach = clip.grownBy(outerMargin);
@@ -51,7 +51,7 @@ RoundedRect shapeOf(const Layer& layer, const AffineTransform& transform, const 
     return {cutToReach(layer.bounds, transform, clip), usableRadius(layer.cornerRadius, layer.bounds)};
 }
 
-// Adds the item unless nothing of it can be seen.
+/// Adds the item unless nothing of it can be seen.
 bool finish(DisplayItem& item, const PixelRect& extents, const PixelRect& clip, DisplayList& out)
 {
     item.bounds = extents.intersectionWith(clip);
@@ -68,15 +68,15 @@ Rect contentRect(ContentMode mode, Size size, const Rect& bounds)
     const double vertical = bounds.height / size.height;
     double factor = 1;
     switch (mode) {
-    case ContentMode::ScaleToFill:
+    case ContentMode::scaleToFill:
         return bounds;
-    case ContentMode::AspectFit:
+    case ContentMode::aspectFit:
         factor = std::min(horizontal, vertical);
         break;
-    case ContentMode::AspectFill:
+    case ContentMode::aspectFill:
         factor = std::max(horizontal, vertical);
         break;
-    case ContentMode::Center:
+    case ContentMode::center:
         break;
     }
     const Size shown = {size.width * factor, size.height * factor};
@@ -131,7 +131,7 @@ void DisplayListBuilder::add(const Layer& layer, const Place& parent, int depth,
     }
 }
 
-// Background, content and children, border: content and children are what a clipping layer cuts.
+/// Background, content and children, border: content and children are what a clipping layer cuts.
 void DisplayListBuilder::addBody(const Layer& layer, const Place& place, int depth, DisplayList& out)
 {
     const RoundedRect shape = shapeOf(layer, place.transform, place.clip);
@@ -205,7 +205,7 @@ void DisplayListBuilder::addText(const Text& text, const Rect& bounds, const Pla
         return;
     Place place = outer;
     place.transform = AffineTransform::translation(bounds.x, bounds.y).concat(outer.transform);
-    if (text.lineBreakMode == LineBreakMode::Clip && outer.transform.isScaleAndTranslation())
+    if (text.lineBreakMode == LineBreakMode::clip && outer.transform.isScaleAndTranslation())
         place.clip = place.clip.intersectionWith(PixelRect::around(outer.transform.apply(bounds)));
     DisplayItem item;
     item.transform = place.transform;
@@ -280,7 +280,7 @@ void DisplayListBuilder::addGradient(
     out.back().bitmapKey = out.back().hash = hasher.result();
 }
 
-// What is behind belongs to its looks, too; that is added when the list is complete.
+/// What is behind belongs to its looks, too; that is added when the list is complete.
 void DisplayListBuilder::addBackdrop(
     const BackdropBlur& blur, const RoundedRect& shape, const Place& place, DisplayList& out)
 {

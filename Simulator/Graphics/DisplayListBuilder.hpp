@@ -12,7 +12,7 @@ public:
     DisplayList build(const Layer& root);
 
 private:
-    // Where a layer is drawn: its transform to pixels and what can be seen there.
+    /// Where a layer is drawn: its transform to pixels and what can be seen there.
     struct Place {
         AffineTransform transform;
         PixelRect clip;

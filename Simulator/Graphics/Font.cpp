@@ -15,7 +15,7 @@ std::uint64_t nextIdentity()
     return ++last;
 }
 
-// The height of a capital H, in font units; 70 % of the em for a font without one.
+/// The height of a capital H, in font units; 70 % of the em for a font without one.
 double measureCapital(const FontFile& file, long faceIndex, double unitsPerEm)
 {
     const FacePointer face = openFace(file, faceIndex);

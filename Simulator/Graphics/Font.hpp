@@ -17,20 +17,20 @@ struct FaceNames {
 };
 
 enum class FontWeight {
-    UltraLight = 100,
-    Thin = 200,
-    Light = 300,
-    Regular = 400,
-    Medium = 500,
-    Semibold = 600,
-    Bold = 700,
-    Heavy = 800,
-    Black = 900
+    ultraLight = 100,
+    thin = 200,
+    light = 300,
+    regular = 400,
+    medium = 500,
+    semibold = 600,
+    bold = 700,
+    heavy = 800,
+    black = 900
 };
 
 class Font {
 public:
-    // What the catalogue reads from a face, in font units.
+    /// What the catalogue reads from a face, in font units.
     struct Description {
         FaceNames names;
         long faceIndex = 0;
@@ -51,14 +51,14 @@ public:
     bool isItalic() const { return m_description.isItalic; }
     bool isSystemFont() const;
 
-    // Points at a font size. The descender is negative, as the phone gives it.
+    /// Points at a font size. The descender is negative, as the phone gives it.
     double ascender(double size) const { return toPoints(m_description.ascender, size); }
     double descender(double size) const { return toPoints(m_description.descender, size); }
     double leading(double size) const { return toPoints(m_description.lineGap, size); }
     double lineHeight(double size) const { return ascender(size) - descender(size); }
     double capHeight(double size) const;
 
-    // Unique in the process; tells faces apart after one was replaced under the same name.
+    /// Unique in the process; tells faces apart after one was replaced under the same name.
     std::uint64_t identity() const { return m_identity; }
     long faceIndex() const { return m_description.faceIndex; }
     const FontFile& file() const { return *m_file; }

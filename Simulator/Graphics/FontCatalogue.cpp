@@ -13,7 +13,7 @@ namespace Simulator::Graphics {
 
 namespace {
 
-// A collection of more faces than this is no font.
+/// A collection of more faces than this is no font.
 constexpr long collectionLimit = 256;
 
 std::string fileKey(const std::filesystem::path& path)
@@ -57,7 +57,7 @@ struct FontCatalogue::State {
     std::vector<std::shared_ptr<const Font>> systemFonts;
     std::unique_ptr<Typesetter> typesetter;
 
-    // The names that were new.
+    /// The names that were new.
     std::vector<std::string> add(const std::vector<std::shared_ptr<const Font>>& fonts)
     {
         std::vector<std::string> added;
@@ -73,19 +73,19 @@ struct FontCatalogue::State {
     RegistrationResult registerFaces(const std::vector<std::shared_ptr<const Font>>& fonts)
     {
         if (fonts.empty())
-            return {RegistrationError::Invalid, {}};
+            return {RegistrationError::invalid, {}};
         auto added = add(fonts);
         if (added.empty())
-            return {RegistrationError::AlreadyRegistered, {}};
-        return {RegistrationError::None, std::move(added)};
+            return {RegistrationError::alreadyRegistered, {}};
+        return {RegistrationError::none, std::move(added)};
     }
 
     RegistrationResult registerFile(const std::filesystem::path& path, const FaceOpener& open)
     {
         const std::string key = fileKey(path);
         if (namesByFile.contains(key))
-            return {RegistrationError::AlreadyRegistered, {}};
-        auto result = registerFaces(facesOf(std::make_shared<const FontFile>(path, FontFile::Origin::User), open));
+            return {RegistrationError::alreadyRegistered, {}};
+        auto result = registerFaces(facesOf(std::make_shared<const FontFile>(path, FontFile::Origin::user), open));
         if (result)
             namesByFile.emplace(key, result.postScriptNames);
         return result;
@@ -109,7 +109,7 @@ FontCatalogue::FontCatalogue(std::span<const std::filesystem::path> systemFontFi
     : m_state(std::make_unique<State>())
 {
     for (const auto& path : systemFontFiles) {
-        const auto fonts = facesOf(std::make_shared<const FontFile>(path, FontFile::Origin::System));
+        const auto fonts = facesOf(std::make_shared<const FontFile>(path, FontFile::Origin::system));
         for (const auto& font : fonts) {
             if (!m_state->add({font}).empty())
                 m_state->systemFonts.push_back(font);
@@ -124,7 +124,7 @@ RegistrationResult FontCatalogue::registerFile(const std::filesystem::path& path
 {
     std::error_code error;
     if (!std::filesystem::is_regular_file(path, error))
-        return {RegistrationError::FileNotFound, {}};
+        return {RegistrationError::fileNotFound, {}};
     return m_state->registerFile(path, [](const FontFile& file, long index) { return openFace(file, index); });
 }
 
@@ -144,7 +144,7 @@ RegistrationResult FontCatalogue::unregisterFile(const std::filesystem::path& pa
 {
     const auto found = m_state->namesByFile.find(fileKey(path));
     if (found == m_state->namesByFile.end())
-        return {RegistrationError::NotRegistered, {}};
+        return {RegistrationError::notRegistered, {}};
     RegistrationResult result;
     for (auto& name : found->second) {
         if (m_state->remove(name))
@@ -158,7 +158,7 @@ RegistrationResult FontCatalogue::unregisterFont(std::string_view postScriptName
 {
     std::string name(postScriptName);
     if (!m_state->remove(name))
-        return {RegistrationError::NotRegistered, {}};
+        return {RegistrationError::notRegistered, {}};
     // A file whose last face goes may be registered anew.
     for (auto entry = m_state->namesByFile.begin(); entry != m_state->namesByFile.end(); ++entry) {
         if (std::erase(entry->second, name) > 0) {
@@ -167,7 +167,7 @@ RegistrationResult FontCatalogue::unregisterFont(std::string_view postScriptName
             break;
         }
     }
-    return {RegistrationError::None, {std::move(name)}};
+    return {RegistrationError::none, {std::move(name)}};
 }
 
 std::optional<FaceNames> FontCatalogue::namesOf(std::span<const std::byte> bytes)

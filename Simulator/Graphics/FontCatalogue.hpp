@@ -18,44 +18,44 @@ namespace Simulator::Graphics {
 
 class Typesetter;
 
-enum class RegistrationError { None, FileNotFound, Invalid, AlreadyRegistered, NotRegistered };
+enum class RegistrationError { none, fileNotFound, invalid, alreadyRegistered, notRegistered };
 
 struct RegistrationResult {
-    RegistrationError error = RegistrationError::None;
-    // The faces that the call registered or unregistered.
+    RegistrationError error = RegistrationError::none;
+    /// The faces that the call registered or unregistered.
     std::vector<std::string> postScriptNames;
-    explicit operator bool() const { return error == RegistrationError::None; }
+    explicit operator bool() const { return error == RegistrationError::none; }
 };
 
 class FontCatalogue {
 public:
-    // The family of the first file is the system's interface font; glyphs that a face lacks are taken from the
-    // files in their order. Files that are no fonts are left out.
+    /// The family of the first file is the system's interface font; glyphs that a face lacks are taken from the
+    /// files in their order. Files that are no fonts are left out.
     explicit FontCatalogue(std::span<const std::filesystem::path> systemFontFiles);
     ~FontCatalogue();
     FontCatalogue(const FontCatalogue&) = delete;
     FontCatalogue& operator=(const FontCatalogue&) = delete;
 
-    // The parts are the file's if the caller has it open: a file that has to be mapped takes longer.
+    /// The parts are the file's if the caller has it open: a file that has to be mapped takes longer.
     RegistrationResult registerFile(const std::filesystem::path& path);
     RegistrationResult registerFile(const std::filesystem::path& path, const FontParts& parts);
     RegistrationResult registerData(std::span<const std::byte> bytes);
     RegistrationResult unregisterFile(const std::filesystem::path& path);
     RegistrationResult unregisterFont(std::string_view postScriptName);
 
-    // Of the first face; nothing for bytes that are no font.
+    /// Of the first face; nothing for bytes that are no font.
     static std::optional<FaceNames> namesOf(std::span<const std::byte> bytes);
 
-    // Sorted, system fonts included.
+    /// Sorted, system fonts included.
     std::vector<std::string> familyNames() const;
     std::vector<std::string> fontNamesForFamily(std::string_view family) const;
 
-    // Null for an unknown name.
+    /// Null for an unknown name.
     std::shared_ptr<const Font> find(std::string_view postScriptName) const;
-    // The nearest upright weight of the interface font; null only if no system font could be read.
-    std::shared_ptr<const Font> systemFont(FontWeight weight = FontWeight::Regular) const;
+    /// The nearest upright weight of the interface font; null only if no system font could be read.
+    std::shared_ptr<const Font> systemFont(FontWeight weight = FontWeight::regular) const;
 
-    // What lays text out with these fonts; for this library's own use.
+    /// What lays text out with these fonts; for this library's own use.
     Typesetter& typesetter() const;
 
 private:
@@ -63,7 +63,7 @@ private:
     std::unique_ptr<State> m_state;
 };
 
-// The fonts of the simulated system as installed under a fonts folder: interface font first, then the scripts.
+/// The fonts of the simulated system as installed under a fonts folder: interface font first, then the scripts.
 std::vector<std::filesystem::path> installedSystemFonts(const std::filesystem::path& folder = "/usr/share/fonts");
 
 }

@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::size_t fontFileLimit = 256u << 20;
 
-// Lives as long as the process: fonts may be drawn until its very end.
+/// Lives as long as the process: fonts may be drawn until its very end.
 FT_Library library()
 {
     static const FT_Library instance = [] {
@@ -34,7 +34,7 @@ FacePointer accepted(FacePointer face)
     return face;
 }
 
-// Names are stored as big-endian UTF-16; those of fonts keep to the basic plane.
+/// Names are stored as big-endian UTF-16; those of fonts keep to the basic plane.
 std::string fromUtf16(const FT_SfntName& name)
 {
     constexpr char16_t replacement = 0xFFFD;
@@ -47,7 +47,7 @@ std::string fromUtf16(const FT_SfntName& name)
     return toUtf8(text);
 }
 
-// FreeType reduces names to ASCII; a family named in another script is read from the table itself.
+/// FreeType reduces names to ASCII; a family named in another script is read from the table itself.
 std::string unicodeFamilyName(FT_Face face)
 {
     for (const FT_UShort wanted : {TT_NAME_ID_TYPOGRAPHIC_FAMILY, TT_NAME_ID_FONT_FAMILY}) {

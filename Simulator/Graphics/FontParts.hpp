@@ -9,7 +9,7 @@ namespace Simulator::Graphics {
 
 struct FontParts {
     std::size_t size = 0;
-    // Fills the part with the bytes from an offset on; answers how many there were.
+    /// Fills the part with the bytes from an offset on; answers how many there were.
     std::function<std::size_t(std::size_t offset, std::span<std::byte> part)> copy;
 };
 

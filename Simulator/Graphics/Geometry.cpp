@@ -8,7 +8,7 @@ namespace Simulator::Graphics {
 
 namespace {
 
-// Far beyond every screen, and still far from the overflow of sums.
+/// Far beyond every screen, and still far from the overflow of sums.
 constexpr double pixelLimit = 1 << 26;
 
 int toPixel(double value)

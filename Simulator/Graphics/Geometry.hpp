@@ -44,7 +44,7 @@ struct EdgeInsets {
     bool operator==(const EdgeInsets&) const = default;
 };
 
-// x' = a x + c y + tx, y' = b x + d y + ty.
+/// x' = a x + c y + tx, y' = b x + d y + ty.
 struct AffineTransform {
     double a = 1;
     double b = 0;
@@ -57,14 +57,14 @@ struct AffineTransform {
     static AffineTransform scale(double x, double y) { return {x, 0, 0, y, 0, 0}; }
     static AffineTransform rotation(double radians);
 
-    // First this transform, then `next`: the order of the phone's concatenation.
+    /// First this transform, then `next`: the order of the phone's concatenation.
     AffineTransform concat(const AffineTransform& next) const;
     std::optional<AffineTransform> inverted() const;
     Point apply(Point point) const;
-    // The smallest upright rectangle around the transformed one.
+    /// The smallest upright rectangle around the transformed one.
     Rect apply(const Rect& rect) const;
     bool isIdentity() const { return *this == AffineTransform{}; }
-    // Upright rectangles stay upright and unmirrored.
+    /// Upright rectangles stay upright and unmirrored.
     bool isScaleAndTranslation() const { return b == 0 && c == 0 && a > 0 && d > 0; }
     bool isFinite() const;
     bool operator==(const AffineTransform&) const = default;
@@ -76,7 +76,7 @@ struct Color {
     double b = 0;
     double a = 1;
     Color withAlpha(double alpha) const { return {r, g, b, alpha}; }
-    // Components within 0 and 1; what is no number is 0.
+    /// Components within 0 and 1; what is no number is 0.
     Color clamped() const;
     bool operator==(const Color&) const = default;
 };
@@ -87,9 +87,9 @@ struct PixelRect {
     int width = 0;
     int height = 0;
 
-    // The whole pixels that the rectangle touches.
+    /// The whole pixels that the rectangle touches.
     static PixelRect around(const Rect& rect);
-    // The whole pixels nearest to the rectangle's edges.
+    /// The whole pixels nearest to the rectangle's edges.
     static PixelRect nearest(const Rect& rect);
 
     int right() const { return x + width; }

@@ -40,10 +40,10 @@ private:
 
 bool swapsSides(Orientation orientation)
 {
-    return orientation >= Orientation::LeftMirrored;
+    return orientation >= Orientation::leftMirrored;
 }
 
-// Which stored pixel an upright one comes from: x and y from the left or right, top or bottom edge, maybe exchanged.
+/// Which stored pixel an upright one comes from: x and y from the left or right, top or bottom edge, maybe exchanged.
 struct Turn {
     bool swaps = false;
     bool flipsX = false;
@@ -53,27 +53,27 @@ struct Turn {
 Turn turnFor(Orientation orientation)
 {
     switch (orientation) {
-    case Orientation::Up:
+    case Orientation::up:
         return {};
-    case Orientation::UpMirrored:
+    case Orientation::upMirrored:
         return {false, true, false};
-    case Orientation::Down:
+    case Orientation::down:
         return {false, true, true};
-    case Orientation::DownMirrored:
+    case Orientation::downMirrored:
         return {false, false, true};
-    case Orientation::LeftMirrored:
+    case Orientation::leftMirrored:
         return {true, false, false};
-    case Orientation::Right:
+    case Orientation::right:
         return {true, false, true};
-    case Orientation::RightMirrored:
+    case Orientation::rightMirrored:
         return {true, true, true};
-    case Orientation::Left:
+    case Orientation::left:
         return {true, true, false};
     }
     return {};
 }
 
-// The stored window that holds an upright window's pixels. Sizes are those of the upright picture.
+/// The stored window that holds an upright window's pixels. Sizes are those of the upright picture.
 PixelRect storedWindow(const Turn& turn, PixelSize full, const PixelRect& window)
 {
     PixelRect stored = window;
@@ -132,7 +132,7 @@ Pixels scaledPixels(const ImageSource& source, PixelSize full, const PixelRect& 
 {
     if (!isWithinLimit(window) || !PixelRect{0, 0, full.width, full.height}.contains(window))
         return {};
-    const Orientation orientation = upright ? source.orientation() : Orientation::Up;
+    const Orientation orientation = upright ? source.orientation() : Orientation::up;
     const Turn turn = turnFor(orientation);
     const PixelRect stored = storedWindow(turn, full, window);
     if (turn.swaps)
@@ -141,7 +141,7 @@ Pixels scaledPixels(const ImageSource& source, PixelSize full, const PixelRect& 
     Resampler resampler(full, stored, pixels);
     if (!source.decode(full, resampler))
         return {};
-    return orientation == Orientation::Up ? std::move(pixels) : turned(pixels, turn);
+    return orientation == Orientation::up ? std::move(pixels) : turned(pixels, turn);
 }
 
 std::shared_ptr<const ImageSource> copyPixels(const std::uint8_t* pixels, int width, int height, int stride)

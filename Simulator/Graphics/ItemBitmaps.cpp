@@ -12,7 +12,7 @@ namespace Simulator::Graphics {
 
 namespace {
 
-// Turned pictures are scaled to about their size on the screen first, up to this.
+/// Turned pictures are scaled to about their size on the screen first, up to this.
 constexpr double largestTurnedSide = 4'096;
 
 Bitmap bitmapOf(Pixels pixels, const PixelRect& place, bool isOpaque)

@@ -14,7 +14,7 @@ namespace Simulator::Graphics {
 
 namespace {
 
-// Many-scan files take as long as they like for a few bytes; none of this size is a photo.
+/// Many-scan files take as long as they like for a few bytes; none of this size is a photo.
 constexpr double pixelLimit = 1 << 28;
 constexpr int scanLimit = 128;
 constexpr double scannedPixelLimit = 4.0 * pixelLimit;
@@ -29,7 +29,7 @@ struct ErrorManager {
     std::longjmp(reinterpret_cast<ErrorManager*>(codec->err)->escape, 1);
 }
 
-// Data that end early count as broken; other warnings are left to the decoder, as cameras write odd files.
+/// Data that end early count as broken; other warnings are left to the decoder, as cameras write odd files.
 void onMessage(j_common_ptr codec, int level)
 {
     if (level < 0 && codec->err->msg_code == JWRN_HIT_MARKER)
@@ -44,7 +44,7 @@ void onProgress(j_common_ptr codec)
         leave(codec);
 }
 
-// Holds nothing that a jump out of the decoder would leak.
+/// Holds nothing that a jump out of the decoder would leak.
 struct Decoder {
     jpeg_decompress_struct state{};
     ErrorManager errors{};
@@ -62,7 +62,7 @@ struct Decoder {
     Decoder(const Decoder&) = delete;
     Decoder& operator=(const Decoder&) = delete;
 
-    // To be called after the return point is set.
+    /// To be called after the return point is set.
     void readHeader()
     {
         jpeg_create_decompress(&state);
@@ -76,7 +76,7 @@ private:
     std::span<const std::byte> m_bytes;
 };
 
-// The camera's tag in the Exif block, which is a little TIFF file.
+/// The camera's tag in the Exif block, which is a little TIFF file.
 class ExifBlock {
 public:
     explicit ExifBlock(std::span<const std::uint8_t> bytes)
@@ -97,13 +97,13 @@ public:
             if (number(entry, 2) != orientationTag)
                 continue;
             const std::size_t value = number(entry + 8, 2);
-            return value >= 1 && value <= 8 ? static_cast<Orientation>(value) : Orientation::Up;
+            return value >= 1 && value <= 8 ? static_cast<Orientation>(value) : Orientation::up;
         }
-        return Orientation::Up;
+        return Orientation::up;
     }
 
 private:
-    // 0 beyond the end.
+    /// 0 beyond the end.
     std::size_t number(std::size_t offset, std::size_t length) const
     {
         if (offset > m_bytes.size() || m_bytes.size() - offset < length)
@@ -125,10 +125,10 @@ Orientation orientationOf(const jpeg_decompress_struct& state)
         if (marker->data_length > 14 && std::memcmp(marker->data, signature, 6) == 0)
             return ExifBlock({marker->data + 6, marker->data_length - 6}).orientation();
     }
-    return Orientation::Up;
+    return Orientation::up;
 }
 
-// Progressive files are held as coefficients of the full size, whatever the reduction.
+/// Progressive files are held as coefficients of the full size, whatever the reduction.
 bool isAbsurd(jpeg_decompress_struct& state)
 {
     const double pixels = double(state.image_width) * state.image_height;
@@ -138,7 +138,7 @@ bool isAbsurd(jpeg_decompress_struct& state)
         && pixels * state.num_components * sizeof(JCOEF) > static_cast<double>(decodedLimit);
 }
 
-// In eighths. Only powers of two are fast, and quick to skip what a smaller picture does not need.
+/// In eighths. Only powers of two are fast, and quick to skip what a smaller picture does not need.
 unsigned reductionFor(PixelSize stored, PixelSize wanted)
 {
     for (unsigned eighths = 1; eighths < 8; eighths *= 2) {
@@ -148,7 +148,7 @@ unsigned reductionFor(PixelSize stored, PixelSize wanted)
     return 8;
 }
 
-// Files of four inks are stored inverted.
+/// Files of four inks are stored inverted.
 void convertInks(std::uint8_t* pixels, int width)
 {
     for (int x = 0; x < width; ++x, pixels += 4) {
@@ -220,7 +220,7 @@ public:
 private:
     std::vector<std::byte> m_bytes;
     PixelSize m_size;
-    Orientation m_orientation = Orientation::Up;
+    Orientation m_orientation = Orientation::up;
 };
 
 }

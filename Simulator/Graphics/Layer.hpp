@@ -11,51 +11,51 @@
 
 namespace Simulator::Graphics {
 
-enum class ContentMode { ScaleToFill, AspectFit, AspectFill, Center };
+enum class ContentMode { scaleToFill, aspectFit, aspectFill, center };
 
 struct ImageContent {
     Image::Pointer image;
-    ContentMode mode = ContentMode::ScaleToFill;
-    // Image pixels per point; matters to the modes that keep the image's own size.
+    ContentMode mode = ContentMode::scaleToFill;
+    /// Image pixels per point; matters to the modes that keep the image's own size.
     double scale = 1;
-    // Set for a template: only the image's shape counts, filled with this colour.
+    /// Set for a template: only the image's shape counts, filled with this colour.
     std::optional<Color> tint;
 };
 
 struct Gradient {
     std::vector<Color> colors;
-    // One for each colour, rising from 0 to 1; evenly spread if their number differs.
+    /// One for each colour, rising from 0 to 1; evenly spread if their number differs.
     std::vector<double> locations;
-    // In units of the bounds.
+    /// In units of the bounds.
     Point start = {0.5, 0};
     Point end = {0.5, 1};
 };
 
-// Shows what is behind the layer, blurred and tinted; follows the corner radius.
+/// Shows what is behind the layer, blurred and tinted; follows the corner radius.
 struct BackdropBlur {
     double radius = 20;
     Color tint = {1, 1, 1, 0.3};
 };
 
-// Cast by whatever the layer and its children draw: for a label by its glyphs. A layer that clips casts none.
+/// Cast by whatever the layer and its children draw: for a label by its glyphs. A layer that clips casts none.
 struct Shadow {
     double opacity = 0;
     Color color;
-    // Standard deviation of the blur, in points.
+    /// Standard deviation of the blur, in points.
     double radius = 3;
     Size offset = {0, -3};
 };
 
 using LayerContent = std::variant<std::monostate, Text, ImageContent, Gradient, BackdropBlur>;
 
-// Painted in this order: shadow, background, content, children, border. The children live in the coordinates of the
-// bounds. Hidden layers are simply not in the tree.
+/// Painted in this order: shadow, background, content, children, border. The children live in the coordinates of the
+/// bounds. Hidden layers are simply not in the tree.
 struct Layer {
-    // Where the centre of the bounds lies in the parent; the transform applies about it.
+    /// Where the centre of the bounds lies in the parent; the transform applies about it.
     Point position;
     Rect bounds;
     AffineTransform transform;
-    // Of the layer and its children as one.
+    /// Of the layer and its children as one.
     double opacity = 1;
     bool clipsToBounds = false;
     std::optional<Color> backgroundColor;

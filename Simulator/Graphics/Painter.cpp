@@ -54,7 +54,7 @@ void blit(cairo_t* canvas, const Bitmap& bitmap, double opacity)
     cairo_paint_with_alpha(canvas, opacity);
 }
 
-// Paints the source where the bitmap is covered.
+/// Paints the source where the bitmap is covered.
 void mask(cairo_t* canvas, const Bitmap& bitmap, int dx = 0, int dy = 0)
 {
     if (bitmap.surface)
@@ -109,7 +109,7 @@ void Painter::paint(cairo_surface_t* surface, const PixelRect& region)
     }
 }
 
-// Nothing behind the item shows in the region.
+/// Nothing behind the item shows in the region.
 bool Painter::hides(const DisplayItem& item, const PixelRect& region)
 {
     if (item.opacity < 1 || !item.bounds.contains(region))
@@ -192,7 +192,7 @@ void Painter::paintShadow(cairo_t* canvas, const DisplayItem& item, const Group&
         Bitmap made = Bitmap::blank(CAIRO_FORMAT_A8, place);
         if (made.surface) {
             paintList(made.canvas().get(), group.items, group.contentBounds);
-            blurSurface(made.surface.get(), place, BlurKind::Alpha, shadow.sigma);
+            blurSurface(made.surface.get(), place, BlurKind::alpha, shadow.sigma);
         }
         return made;
     });
@@ -222,7 +222,7 @@ void Painter::paintGroup(cairo_t* canvas, const DisplayItem& item, const Group& 
         cairo_paint_with_alpha(canvas, item.opacity);
 }
 
-// What is drawn before the item; inside its groups as if they were no groups.
+/// What is drawn before the item; inside its groups as if they were no groups.
 bool Painter::paintUntil(cairo_t* canvas, const DisplayList& list, const DisplayItem& stop, const PixelRect& region)
 {
     for (const auto& item : list) {
@@ -239,7 +239,7 @@ bool Painter::paintUntil(cairo_t* canvas, const DisplayList& list, const Display
     return false;
 }
 
-// The screen behind is drawn once more for the purpose: what the screen shows there may already be covered.
+/// The screen behind is drawn once more for the purpose: what the screen shows there may already be covered.
 Bitmap Painter::backdropBitmap(const DisplayItem& item, const Backdrop& backdrop)
 {
     const Bitmap behind = Bitmap::blank(CAIRO_FORMAT_ARGB32, backdrop.input);
@@ -251,7 +251,7 @@ Bitmap Painter::backdropBitmap(const DisplayItem& item, const Backdrop& backdrop
         clear(canvas.get(), m_ground);
         paintUntil(canvas.get(), m_list, item, backdrop.input);
     }
-    blurSurface(behind.surface.get(), backdrop.input, BlurKind::Color, backdrop.sigma);
+    blurSurface(behind.surface.get(), backdrop.input, BlurKind::color, backdrop.sigma);
     const CanvasPointer canvas = bitmap.canvas();
     addPath(canvas.get(), backdrop.shape, item.transform);
     cairo_clip(canvas.get());

@@ -9,10 +9,10 @@ namespace Simulator::Graphics {
 
 class Painter {
 public:
-    // The list is the whole screen's: a backdrop blurs what of it lies behind. `ground` lies behind all.
+    /// The list is the whole screen's: a backdrop blurs what of it lies behind. `ground` lies behind all.
     Painter(BitmapCache& bitmaps, const DisplayList& list, Color ground);
 
-    // Draws what of the screen lies in the region.
+    /// Draws what of the screen lies in the region.
     void paint(cairo_surface_t* surface, const PixelRect& region);
 
 private:

@@ -43,7 +43,7 @@ struct Reader {
     Reader(const Reader&) = delete;
     Reader& operator=(const Reader&) = delete;
 
-    // To be called after the return point is set.
+    /// To be called after the return point is set.
     void readHeader()
     {
         png_set_read_fn(png, &rest, read);
@@ -53,7 +53,7 @@ struct Reader {
         png_read_info(png, info);
     }
 
-    // Every kind of PNG as four channels of eight bits, blue first.
+    /// Every kind of PNG as four channels of eight bits, blue first.
     void convertToPixels()
     {
         png_set_expand(png);

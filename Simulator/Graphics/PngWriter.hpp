@@ -8,7 +8,7 @@
 
 namespace Simulator::Graphics {
 
-// Without an alpha channel if opaque; empty if it cannot be encoded.
+/// Without an alpha channel if opaque; empty if it cannot be encoded.
 std::vector<std::byte> encodePng(const FrameView& pixels, bool isOpaque);
 
 }

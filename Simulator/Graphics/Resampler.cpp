@@ -7,7 +7,7 @@
 
 namespace Simulator::Graphics {
 
-// The channels of a pixel, reckoned together.
+/// The channels of a pixel, reckoned together.
 using FourBytes [[gnu::vector_size(4)]] = std::uint8_t;
 using FourInts [[gnu::vector_size(16)]] = std::int32_t;
 using FourFloats [[gnu::vector_size(16)]] = float;

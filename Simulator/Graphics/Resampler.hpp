@@ -10,14 +10,14 @@ namespace Simulator::Graphics {
 
 class Resampler : public RowReceiver {
 public:
-    // Produces the window of the full size into the pixels, which have the window's size.
+    /// Produces the window of the full size into the pixels, which have the window's size.
     Resampler(PixelSize full, const PixelRect& window, Pixels& out);
 
     bool begin(PixelSize size, Size exact) override;
     void row(const std::uint8_t* pixels) override;
 
 private:
-    // The source pixels that make up one pixel of the result.
+    /// The source pixels that make up one pixel of the result.
     struct Contribution {
         int first = 0;
         std::vector<float> weights;
@@ -36,7 +36,7 @@ private:
     PixelSize m_source;
     bool m_isCopy = false;
     int m_sourceRow = 0;
-    // The first row of the result that is not finished, and the sums of those begun.
+    /// The first row of the result that is not finished, and the sums of those begun.
     int m_outRow = 0;
     std::deque<std::vector<float>> m_sums;
     Contributions m_columns;

@@ -13,7 +13,7 @@ namespace {
 
 using DrawingPointer = Handle<RsvgHandle, g_object_unref>;
 
-// Sharper than any screen; larger sizes are enlarged from here.
+/// Sharper than any screen; larger sizes are enlarged from here.
 constexpr int sideLimit = 4'096;
 
 class SvgSource : public ImageSource {

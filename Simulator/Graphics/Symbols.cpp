@@ -15,7 +15,7 @@ constexpr double largestPointSize = 1'000;
 constexpr std::size_t fileLimit = 1u << 20;
 constexpr std::size_t rememberedLimit = 512;
 
-// Names have no folders in them.
+/// Names have no folders in them.
 bool isName(std::string_view name)
 {
     return !name.empty() && name.front() != '.' && name.find('/') == name.npos && name.find('\0') == name.npos;

@@ -15,8 +15,8 @@ class SymbolSet {
 public:
     explicit SymbolSet(std::filesystem::path folder);
 
-    // A drawing whose size is in points, to be used as a template. Null for a name without a drawing. The files are
-    // drawn for a font size of 17 points; an odd size counts as that.
+    /// A drawing whose size is in points, to be used as a template. Null for a name without a drawing. The files are
+    /// drawn for a font size of 17 points; an odd size counts as that.
     Image::Pointer symbol(std::string_view name, double pointSize = 17) const;
     bool contains(std::string_view name) const;
     std::vector<std::string> names() const;

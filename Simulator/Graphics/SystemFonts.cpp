@@ -5,7 +5,7 @@ namespace Simulator::Graphics {
 
 namespace {
 
-// The interface font first, then one family for each script, in the order in which they are asked for a glyph.
+/// The interface font first, then one family for each script, in the order in which they are asked for a glyph.
 constexpr const char* files[] = {
     "opentype/inter/Inter-Regular.otf",
     "opentype/inter/Inter-ExtraLight.otf",

@@ -14,12 +14,12 @@ public:
     TextCache(Typesetter& typesetter, double scale);
 
     struct Entry {
-        // Null for a text that shows nothing.
+        /// Null for a text that shows nothing.
         std::shared_ptr<const TextLayout> layout;
         std::uint64_t hash = 0;
     };
     Entry find(const Text& text, Size bounds);
-    // Forgets what the last frames did not ask for.
+    /// Forgets what the last frames did not ask for.
     void endFrame();
 
 private:

@@ -13,7 +13,7 @@ namespace {
 constexpr char32_t replacement = 0xFFFD;
 constexpr char32_t attachmentCharacter = 0xFFFC;
 constexpr char32_t ellipsis = 0x2026;
-// No label reads further than this, whatever it shows.
+/// No label reads further than this, whatever it shows.
 constexpr std::size_t decodedLimit = 200'000;
 constexpr double lineLimit = 4'096;
 constexpr double blockLimit = 8'192;
@@ -48,10 +48,10 @@ bool endsParagraph(char32_t code)
 
 bool truncates(LineBreakMode mode)
 {
-    return mode >= LineBreakMode::TruncateHead;
+    return mode >= LineBreakMode::truncateHead;
 }
 
-// A label of one line shows the first paragraph only.
+/// A label of one line shows the first paragraph only.
 void keepFirstParagraph(Characters& characters, LineBreakMode mode)
 {
     const auto end = std::find_if(
@@ -64,7 +64,7 @@ void keepFirstParagraph(Characters& characters, LineBreakMode mode)
         characters.push_back({ellipsis, run});
 }
 
-// Generous: a fifth of the font size a character, four fifths of it a line.
+/// Generous: a fifth of the font size a character, four fifths of it a line.
 std::size_t visibleLimit(const Text& text, Size bounds)
 {
     double smallest = 1000;
@@ -85,9 +85,9 @@ void cut(Characters& characters, std::size_t limit, LineBreakMode mode)
         return;
     const auto excess = static_cast<std::ptrdiff_t>(characters.size() - limit);
     std::ptrdiff_t from = static_cast<std::ptrdiff_t>(limit);
-    if (mode == LineBreakMode::TruncateHead)
+    if (mode == LineBreakMode::truncateHead)
         from = 0;
-    else if (mode == LineBreakMode::TruncateMiddle)
+    else if (mode == LineBreakMode::truncateMiddle)
         from = static_cast<std::ptrdiff_t>(limit / 2);
     characters.erase(characters.begin() + from, characters.begin() + from + excess);
 }

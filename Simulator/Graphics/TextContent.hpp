@@ -9,7 +9,7 @@
 namespace Simulator::Graphics {
 
 struct TextContent {
-    // A run's part of the string, in bytes.
+    /// A run's part of the string, in bytes.
     struct Range {
         int start = 0;
         int end = 0;
@@ -20,14 +20,14 @@ struct TextContent {
     std::string string;
     std::vector<Range> ranges;
 
-    // The range of the character at a byte offset; null beyond the end.
+    /// The range of the character at a byte offset; null beyond the end.
     const Range* at(int byteOffset) const;
 };
 
-// Sides of 0 or less are unlimited. The content refers to the text's runs.
+/// Sides of 0 or less are unlimited. The content refers to the text's runs.
 TextContent contentOf(const Text& text, Size bounds);
 
-// A font size that can be drawn.
+/// A font size that can be drawn.
 double usableFontSize(double size);
 
 }

@@ -12,7 +12,7 @@ namespace Simulator::Graphics {
 
 namespace {
 
-// Pango counts in 1/1024 of a point in 32 bits.
+/// Pango counts in 1/1024 of a point in 32 bits.
 constexpr double lengthLimit = 1'000'000;
 constexpr double smallestScale = 0.05;
 
@@ -31,7 +31,7 @@ Rect fromPango(const PangoRectangle& rect)
     return {fromPango(rect.x), fromPango(rect.y), fromPango(rect.width), fromPango(rect.height)};
 }
 
-// What a text may ask of an attachment's bounds.
+/// What a text may ask of an attachment's bounds.
 Rect usableBounds(const Rect& bounds)
 {
     constexpr double limit = 10'000;
@@ -65,7 +65,7 @@ PangoAttribute* fontAttribute(const std::string& families, double size)
     return attribute;
 }
 
-// The engine does not draw by it; it keeps runs of different colours apart.
+/// The engine does not draw by it; it keeps runs of different colours apart.
 PangoAttribute* colorAttribute(const Color& color)
 {
     const Color shown = color.clamped();
@@ -81,11 +81,11 @@ bool isEllipsis(const PangoItem* item)
 std::optional<PangoEllipsizeMode> ellipsizing(LineBreakMode mode)
 {
     switch (mode) {
-    case LineBreakMode::TruncateHead:
+    case LineBreakMode::truncateHead:
         return PANGO_ELLIPSIZE_START;
-    case LineBreakMode::TruncateMiddle:
+    case LineBreakMode::truncateMiddle:
         return PANGO_ELLIPSIZE_MIDDLE;
-    case LineBreakMode::TruncateTail:
+    case LineBreakMode::truncateTail:
         return PANGO_ELLIPSIZE_END;
     default:
         return std::nullopt;
@@ -155,7 +155,7 @@ void TextLayout::applyAttributes(double fontScale)
     pango_attr_list_unref(list);
 }
 
-// Widths follow font sizes almost linearly, but pictures in line keep theirs: a few rounds settle it.
+/// Widths follow font sizes almost linearly, but pictures in line keep theirs: a few rounds settle it.
 void TextLayout::shrinkToFit()
 {
     const double lowest = std::clamp(std::isfinite(m_text.minimumScale) ? m_text.minimumScale : 0, smallestScale, 1.0);
@@ -173,12 +173,12 @@ void TextLayout::shrinkToFit()
 void TextLayout::wrapAndTruncate()
 {
     PangoLayout* layout = m_layout.get();
-    if (m_bounds.width <= 0 || m_text.lineBreakMode == LineBreakMode::Clip)
+    if (m_bounds.width <= 0 || m_text.lineBreakMode == LineBreakMode::clip)
         return;
     pango_layout_set_width(layout, toPango(m_bounds.width));
-    const bool byCharacter = m_text.lineBreakMode == LineBreakMode::CharacterWrap;
+    const bool byCharacter = m_text.lineBreakMode == LineBreakMode::characterWrap;
     pango_layout_set_wrap(layout, byCharacter ? PANGO_WRAP_CHAR : PANGO_WRAP_WORD_CHAR);
-    pango_layout_set_justify(layout, m_text.alignment == TextAlignment::Justified);
+    pango_layout_set_justify(layout, m_text.alignment == TextAlignment::justified);
     const auto ellipsize = ellipsizing(m_text.lineBreakMode);
     if (!ellipsize)
         return;
@@ -196,20 +196,20 @@ double TextLayout::horizontalOffset(PangoLayoutLine* line, double lineWidth) con
 {
     const double space = m_bounds.width > 0 ? m_bounds.width - lineWidth : 0;
     switch (m_text.alignment) {
-    case TextAlignment::Left:
+    case TextAlignment::left:
         return 0;
-    case TextAlignment::Center:
+    case TextAlignment::center:
         return space / 2;
-    case TextAlignment::Right:
+    case TextAlignment::right:
         return space;
-    case TextAlignment::Justified:
-    case TextAlignment::Natural:
+    case TextAlignment::justified:
+    case TextAlignment::natural:
         break;
     }
     return pango_layout_line_get_resolved_direction(line) == PANGO_DIRECTION_RTL ? space : 0;
 }
 
-// The lines that fit, at least one, centred as a block from top to bottom.
+/// The lines that fit, at least one, centred as a block from top to bottom.
 void TextLayout::placeLines()
 {
     const LineIteratorPointer iterator(pango_layout_get_iter(m_layout.get()));

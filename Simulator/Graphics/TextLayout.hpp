@@ -21,13 +21,13 @@ public:
         std::optional<Color> tint;
     };
 
-    // Sides of 0 or less are unlimited. Null if there is nothing to show.
+    /// Sides of 0 or less are unlimited. Null if there is nothing to show.
     static std::shared_ptr<const TextLayout> make(Typesetter& typesetter, const Text& text, Size bounds, double scale);
 
     Size usedSize() const { return m_usedSize; }
-    // Every line is there, to its end, and within the bounds.
+    /// Every line is there, to its end, and within the bounds.
     bool isWhole() const;
-    // Of the glyphs alone.
+    /// Of the glyphs alone.
     const Rect& inkBounds() const { return m_inkBounds; }
     const std::vector<PlacedAttachment>& attachments() const { return m_attachments; }
     void draw(cairo_t* canvas, double opacity) const;

@@ -28,8 +28,8 @@ int copyIntoMemory(std::span<const std::byte> bytes)
     return descriptor;
 }
 
-// The engine remembers faces by path even after they were closed, while descriptors are given out again. Redundant
-// separators spell the face's identity, so that no two faces ever share a path.
+/// The engine remembers faces by path even after they were closed, while descriptors are given out again. Redundant
+/// separators spell the face's identity, so that no two faces ever share a path.
 std::string pathOf(int descriptor, std::uint64_t identity)
 {
     std::string path = "/proc/self/fd/";
@@ -77,7 +77,7 @@ std::shared_ptr<Typeface> Typeface::open(std::shared_ptr<const Font> font)
             return nullptr;
         typeface->m_path = pathOf(typeface->m_descriptor, typeface->m_font->identity());
     }
-    const FontFile opened(typeface->m_path, FontFile::Origin::System);
+    const FontFile opened(typeface->m_path, FontFile::Origin::system);
     typeface->m_face = openFace(opened, typeface->m_font->faceIndex());
     return typeface->m_face ? typeface : nullptr;
 }

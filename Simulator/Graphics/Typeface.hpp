@@ -12,7 +12,7 @@ namespace Simulator::Graphics {
 
 class Typeface {
 public:
-    // Null if the face's data is gone or broken by now.
+    /// Null if the face's data is gone or broken by now.
     static std::shared_ptr<Typeface> open(std::shared_ptr<const Font> font);
     ~Typeface();
     Typeface(const Typeface&) = delete;
@@ -20,9 +20,9 @@ public:
 
     const Font& font() const { return *m_font; }
     bool covers(char32_t character) const;
-    // The family name that selects exactly this face.
+    /// The family name that selects exactly this face.
     const std::string& alias() const { return m_alias; }
-    // Made on first use: it lists every character of the face.
+    /// Made on first use: it lists every character of the face.
     FcPattern* pattern();
 
 private:

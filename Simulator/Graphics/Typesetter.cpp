@@ -14,10 +14,10 @@ namespace Simulator::Graphics {
 namespace {
 
 constexpr std::size_t contextLimit = 64;
-// Characters remembered with the face that has them.
+/// Characters remembered with the face that has them.
 constexpr std::size_t fallbackLimit = 4096;
 
-// The engine initialises the process's default configuration in any case; an empty one spares it the machine's.
+/// The engine initialises the process's default configuration in any case; an empty one spares it the machine's.
 void avoidMachineConfiguration()
 {
     static const bool done = [] {
@@ -50,7 +50,7 @@ FontConfigurationPointer configurationWith(std::span<const std::shared_ptr<Typef
     return fonts && fonts->nfont > 0 ? std::move(configuration) : nullptr;
 }
 
-// The same on every machine: no hinting, grey edges, positions as exact as the outlines.
+/// The same on every machine: no hinting, grey edges, positions as exact as the outlines.
 PangoContextPointer pangoContext(PangoFontMap* fontMap, double scale)
 {
     PangoContextPointer context(pango_font_map_create_context(fontMap));
@@ -70,7 +70,7 @@ PangoContextPointer pangoContext(PangoFontMap* fontMap, double scale)
 
 }
 
-// The font map keeps its configuration for ever unless it is taken away.
+/// The font map keeps its configuration for ever unless it is taken away.
 TypesettingContext::~TypesettingContext()
 {
     pango = nullptr;
@@ -120,7 +120,7 @@ std::shared_ptr<Typeface> Typesetter::requested(const FaceRequest& request)
     return font ? typeface(font) : nullptr;
 }
 
-// Null if no system face has the character.
+/// Null if no system face has the character.
 std::shared_ptr<const Font> Typesetter::fallbackFor(char32_t character, int weight)
 {
     if (m_fallbacks.size() > fallbackLimit)
@@ -193,7 +193,7 @@ std::shared_ptr<TypesettingContext> Typesetter::contextWith(
     return chosen->pango ? chosen : nullptr;
 }
 
-// Keeps the number of open user fonts within bounds however many of them are shown one after the other.
+/// Keeps the number of open user fonts within bounds however many of them are shown one after the other.
 void Typesetter::forgetOldContexts()
 {
     if (m_contexts.size() <= contextLimit)

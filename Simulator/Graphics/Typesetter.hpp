@@ -17,13 +17,13 @@
 
 namespace Simulator::Graphics {
 
-// A run of characters and the face that it asks for.
+/// A run of characters and the face that it asks for.
 struct FaceRequest {
     std::shared_ptr<const Font> font;
     std::u32string_view characters;
 };
 
-// The engine set up with a few faces. What a text is set from never depends on which other texts were drawn.
+/// The engine set up with a few faces. What a text is set from never depends on which other texts were drawn.
 struct TypesettingContext {
     TypesettingContext() = default;
     ~TypesettingContext();
@@ -37,7 +37,7 @@ struct TypesettingContext {
     std::uint64_t lastUse = 0;
 };
 
-// How a text is to be set: the context, and for each request the list of families to ask for in turn.
+/// How a text is to be set: the context, and for each request the list of families to ask for in turn.
 struct Typesetting {
     std::shared_ptr<TypesettingContext> context;
     std::vector<std::string> families;
@@ -47,7 +47,7 @@ class Typesetter {
 public:
     explicit Typesetter(std::vector<std::shared_ptr<const Font>> systemFonts);
 
-    // No context if there is not a single usable face.
+    /// No context if there is not a single usable face.
     Typesetting prepare(std::span<const FaceRequest> requests, double scale);
     std::shared_ptr<const Font> systemFont(int weight) const;
 

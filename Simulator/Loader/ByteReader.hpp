@@ -14,18 +14,18 @@ class ByteReader {
 public:
     /// `what` names the bytes in errors: "the bind table".
     ByteReader(std::string_view bytes, std::string what)
-        : _bytes(bytes)
-        , _what(std::move(what))
+        : m_bytes(bytes)
+        , m_what(std::move(what))
     {
     }
 
-    std::size_t size() const { return _bytes.size(); }
-    bool isAtEnd() const { return _position == _bytes.size(); }
+    std::size_t size() const { return m_bytes.size(); }
+    bool isAtEnd() const { return m_position == m_bytes.size(); }
     void seek(std::uint64_t position)
     {
-        if (position > _bytes.size())
+        if (position > m_bytes.size())
             fail();
-        _position = position;
+        m_position = position;
     }
     void skip(std::uint64_t count) { take(count); }
 
@@ -47,7 +47,7 @@ public:
             const auto byte = number<std::uint8_t>();
             const std::uint64_t bits = byte & 0x7f;
             if (shift > 63 || bits << shift >> shift != bits)
-                throw LoadError(_what + " holds a number that is too large");
+                throw LoadError(m_what + " holds a number that is too large");
             value |= bits << shift;
             if (!(byte & 0x80))
                 return value;
@@ -65,17 +65,17 @@ public:
                 value |= ~std::uint64_t(0) << (shift + 7);
             return static_cast<std::int64_t>(value);
         }
-        throw LoadError(_what + " holds a number that is too large");
+        throw LoadError(m_what + " holds a number that is too large");
     }
 
     /// Text up to a zero byte.
     std::string_view text()
     {
-        const auto end = _bytes.find('\0', _position);
-        if (end == _bytes.npos)
+        const auto end = m_bytes.find('\0', m_position);
+        if (end == m_bytes.npos)
             fail();
-        const auto found = _bytes.substr(_position, end - _position);
-        _position = end + 1;
+        const auto found = m_bytes.substr(m_position, end - m_position);
+        m_position = end + 1;
         return found;
     }
     /// Text in a field of fixed size.
@@ -88,26 +88,26 @@ public:
     /// A part of the bytes.
     ByteReader part(std::uint64_t offset, std::uint64_t length, std::string what) const
     {
-        if (offset > _bytes.size() || length > _bytes.size() - offset)
+        if (offset > m_bytes.size() || length > m_bytes.size() - offset)
             throw LoadError(what + " lies outside the file");
-        return {_bytes.substr(offset, length), std::move(what)};
+        return {m_bytes.substr(offset, length), std::move(what)};
     }
-    std::string_view bytes() const { return _bytes; }
+    std::string_view bytes() const { return m_bytes; }
 
 private:
     std::string_view take(std::uint64_t count)
     {
-        if (count > _bytes.size() - _position)
+        if (count > m_bytes.size() - m_position)
             fail();
-        const auto taken = _bytes.substr(_position, count);
-        _position += count;
+        const auto taken = m_bytes.substr(m_position, count);
+        m_position += count;
         return taken;
     }
-    [[noreturn]] void fail() const { throw LoadError(_what + " ends too early"); }
+    [[noreturn]] void fail() const { throw LoadError(m_what + " ends too early"); }
 
-    std::string_view _bytes;
-    std::string _what;
-    std::size_t _position = 0;
+    std::string_view m_bytes;
+    std::string m_what;
+    std::size_t m_position = 0;
 };
 
 }

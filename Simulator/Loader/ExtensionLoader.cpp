@@ -1,3 +1,4 @@
+// Which libraries are for the shell, and how each kind of library is brought into the process.
 #include "Simulator/Loader/ExtensionLoader.hpp"
 
 #include "Platform/Foundation/NSDictionary.hpp"
@@ -85,7 +86,7 @@ int ExtensionLoader::loadAll(const Report& report)
         std::string library = folder + name.substr(0, name.size() - filterSuffix.size());
         library += files.exists(library + ".dylib") ? ".dylib" : ".so";
         try {
-            libraries_.push_back(load(files.hostPath(library)));
+            m_libraries.push_back(load(files.hostPath(library)));
             ++loaded;
         } catch (const LoadError& error) {
             report(library, error);
@@ -96,7 +97,7 @@ int ExtensionLoader::loadAll(const Report& report)
 
 const Product::VariableRow* ExtensionLoader::variable(std::string_view name) const
 {
-    for (const auto& find : libraries_) {
+    for (const auto& find : m_libraries) {
         const auto* list = static_cast<const Product::VariableList*>(find("_ZN3LYR9variablesE"));
         for (const Product::VariableRow& row : list ? *list : Product::VariableList{})
             if (row.name == name)

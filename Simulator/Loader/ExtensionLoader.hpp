@@ -33,7 +33,7 @@ private:
     /// Finds a library's symbol.
     using Symbols = std::function<void*(const std::string& name)>;
 
-    std::vector<Symbols> libraries_;
+    std::vector<Symbols> m_libraries;
 };
 
 }

@@ -60,7 +60,7 @@ BOOL class_addMethod(Class type, SEL selector, IMP implementation, const char* t
     return type && runtimeAddMethod()(type, selector, implementation, types);
 }
 
-// A class without an implementation of its own gets one, and what it inherits is the stock one.
+/// A class without an implementation of its own gets one, and what it inherits is the stock one.
 void MSHookMessageEx(Class type, SEL selector, IMP replacement, IMP* stock)
 {
     Method method = type && !isLacking(type, selector) ? class_getInstanceMethod(type, selector) : nullptr;

@@ -1,3 +1,4 @@
+// The walk over a library's load commands, with each offset and size checked before it is used.
 #include "Simulator/Loader/MachOFile.hpp"
 
 #include "Simulator/Loader/ByteReader.hpp"
@@ -99,14 +100,14 @@ struct SymbolTable {
 class MachOReader {
 public:
     explicit MachOReader(MachOFile& file)
-        : _file(file)
-        , _slice(sliceOf(file._bytes))
+        : m_file(file)
+        , m_slice(sliceOf(file.m_bytes))
     {
     }
 
     void read()
     {
-        auto header = _slice;
+        auto header = m_slice;
         if (header.number<std::uint32_t>() != magicOfSlice)
             throw LoadError("it is not a dynamic library of the phone's kind (Mach-O with 64 bits)");
         if (const auto processor = header.number<std::uint32_t>(); processor != ownProcessor)
@@ -116,10 +117,10 @@ public:
             throw LoadError("it is a Mach-O file, but no dynamic library");
         const auto count = header.number<std::uint32_t>();
         const auto size = header.number<std::uint32_t>();
-        readCommands(_slice.part(32, size, "the list of load commands"), count);
-        if (!_isForPhone)
+        readCommands(m_slice.part(32, size, "the list of load commands"), count);
+        if (!m_isForPhone)
             throw LoadError("it is built for another system than the phone's");
-        if (!_isSigned)
+        if (!m_isSigned)
             throw LoadError("it is not signed, and the phone's loader takes nothing unsigned");
         readFixups();
         arrangeSegments();
@@ -148,25 +149,25 @@ private:
         case Command::segment:
             return readSegment(command);
         case Command::symbolTable:
-            _symbolTable.symbols = command.number<std::uint32_t>();
-            _symbolTable.count = command.number<std::uint32_t>();
-            _symbolTable.names = command.number<std::uint32_t>();
-            _symbolTable.namesSize = command.number<std::uint32_t>();
+            m_symbolTable.symbols = command.number<std::uint32_t>();
+            m_symbolTable.count = command.number<std::uint32_t>();
+            m_symbolTable.names = command.number<std::uint32_t>();
+            m_symbolTable.namesSize = command.number<std::uint32_t>();
             return;
         case Command::signature: {
             const auto offset = command.number<std::uint32_t>();
-            _slice.part(offset, command.number<std::uint32_t>(), "the signature");
-            _isSigned = true;
+            m_slice.part(offset, command.number<std::uint32_t>(), "the signature");
+            m_isSigned = true;
             return;
         }
         case Command::platform:
-            _isForPhone = command.number<std::uint32_t>() == ownPlatform;
+            m_isForPhone = command.number<std::uint32_t>() == ownPlatform;
             return;
         case Command::fixups:
             for (const char* name : {"rebase", "bind", "weak bind", "lazy bind", "export"}) {
                 const auto offset = command.number<std::uint32_t>();
                 const auto size = command.number<std::uint32_t>();
-                _tables.insert_or_assign(name, _slice.part(offset, size, std::string("the ") + name + " table"));
+                m_tables.insert_or_assign(name, m_slice.part(offset, size, std::string("the ") + name + " table"));
             }
             return;
         case Command::chainedFixups:
@@ -188,7 +189,7 @@ private:
         segment.size = command.number<std::uint64_t>();
         const auto offset = command.number<std::uint64_t>();
         const auto fileSize = command.number<std::uint64_t>();
-        segment.content = _slice.part(offset, fileSize, "a segment").bytes();
+        segment.content = m_slice.part(offset, fileSize, "a segment").bytes();
         command.skip(4);
         const auto protection = command.number<std::uint32_t>();
         const auto sections = command.number<std::uint32_t>();
@@ -205,7 +206,7 @@ private:
             throw LoadError("a segment is writable and executable at once");
         for (std::uint32_t i = 0; i < sections; ++i)
             readSection(command, segment);
-        _file._segments.push_back(segment);
+        m_file.m_segments.push_back(segment);
     }
 
     void readSection(ByteReader& command, const MachOFile::Segment& segment)
@@ -225,45 +226,45 @@ private:
         if (type == SectionType::initialiserOffsets)
             throw LoadError("its start functions are listed in a way that phones before 15.0 do not know");
         if (type == SectionType::initialisers)
-            _file._initialisers.push_back(range);
+            m_file.m_initialisers.push_back(range);
     }
 
     void readFixups()
     {
         const auto table = [&](const char* name) {
-            const auto found = _tables.find(name);
-            return found == _tables.end() ? ByteReader({}, name) : found->second;
+            const auto found = m_tables.find(name);
+            return found == m_tables.end() ? ByteReader({}, name) : found->second;
         };
-        _file._rebases = readRebases(table("rebase"), _file._segments);
+        m_file.m_rebases = readRebases(table("rebase"), m_file.m_segments);
         for (const auto& [name, isLazy] : {std::pair("bind", false), std::pair("lazy bind", true)}) {
-            auto binds = readBinds(table(name), _file._segments, isLazy);
-            std::move(binds.begin(), binds.end(), std::back_inserter(_file._binds));
+            auto binds = readBinds(table(name), m_file.m_segments, isLazy);
+            std::move(binds.begin(), binds.end(), std::back_inserter(m_file.m_binds));
         }
-        if (!readBinds(table("weak bind"), _file._segments, false).empty())
+        if (!readBinds(table("weak bind"), m_file.m_segments, false).empty())
             throw LoadError("it shares a symbol with every library of the process");
     }
 
     /// By address, each in pages of its own.
     void arrangeSegments()
     {
-        auto& segments = _file._segments;
+        auto& segments = m_file.m_segments;
         std::sort(segments.begin(), segments.end(),
             [](const auto& left, const auto& right) { return left.address < right.address; });
         for (const auto& segment : segments) {
-            if (segment.address < _file._span)
+            if (segment.address < m_file.m_span)
                 throw LoadError("two segments overlap");
-            _file._span = (segment.address + segment.size + pageSize - 1) / pageSize * pageSize;
+            m_file.m_span = (segment.address + segment.size + pageSize - 1) / pageSize * pageSize;
         }
-        if (_file._span == 0 || _file._span > largestSpan)
+        if (m_file.m_span == 0 || m_file.m_span > largestSpan)
             throw LoadError("its segments take an impossible amount of memory");
     }
 
     void readExports()
     {
         constexpr std::uint64_t symbolSize = 16;
-        auto symbols = _slice.part(_symbolTable.symbols, _symbolTable.count * symbolSize, "the symbol table");
-        auto names = _slice.part(_symbolTable.names, _symbolTable.namesSize, "the table of symbol names");
-        for (std::uint32_t i = 0; i < _symbolTable.count; ++i) {
+        auto symbols = m_slice.part(m_symbolTable.symbols, m_symbolTable.count * symbolSize, "the symbol table");
+        auto names = m_slice.part(m_symbolTable.names, m_symbolTable.namesSize, "the table of symbol names");
+        for (std::uint32_t i = 0; i < m_symbolTable.count; ++i) {
             const auto name = symbols.number<std::uint32_t>();
             const auto type = symbols.number<std::uint8_t>();
             symbols.skip(3);
@@ -271,23 +272,23 @@ private:
             constexpr unsigned debugging = 0xe0, hidden = 0x10, outside = 0x01, kind = 0x0e, inSection = 0x0e;
             if ((type & (debugging | hidden)) || !(type & outside) || (type & kind) != inSection)
                 continue;
-            if (address >= _file._span)
+            if (address >= m_file.m_span)
                 throw LoadError("an export lies outside the library");
             names.seek(name);
-            _file._exports.push_back({std::string(names.text()), address});
+            m_file.m_exports.push_back({std::string(names.text()), address});
         }
     }
 
-    MachOFile& _file;
-    ByteReader _slice;
-    std::map<std::string_view, ByteReader> _tables;
-    SymbolTable _symbolTable;
-    bool _isForPhone = false;
-    bool _isSigned = false;
+    MachOFile& m_file;
+    ByteReader m_slice;
+    std::map<std::string_view, ByteReader> m_tables;
+    SymbolTable m_symbolTable;
+    bool m_isForPhone = false;
+    bool m_isSigned = false;
 };
 
 MachOFile::MachOFile(std::string bytes)
-    : _bytes(std::move(bytes))
+    : m_bytes(std::move(bytes))
 {
     MachOReader(*this).read();
 }

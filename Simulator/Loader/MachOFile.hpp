@@ -45,26 +45,26 @@ public:
     static bool isOne(std::string_view bytes);
 
     /// In the order of their addresses; they do not overlap.
-    const std::vector<Segment>& segments() const { return _segments; }
+    const std::vector<Segment>& segments() const { return m_segments; }
     /// How much memory the segments span, from address 0.
-    std::uint64_t span() const { return _span; }
+    std::uint64_t span() const { return m_span; }
     /// Pointers into the library itself, and pointers to what it imports. All lie in writable segments.
-    const std::vector<std::uint64_t>& rebases() const { return _rebases; }
-    const std::vector<Bind>& binds() const { return _binds; }
+    const std::vector<std::uint64_t>& rebases() const { return m_rebases; }
+    const std::vector<Bind>& binds() const { return m_binds; }
     /// Tables of pointers to the functions that start the library.
-    const std::vector<Range>& initialisers() const { return _initialisers; }
-    const std::vector<Export>& exports() const { return _exports; }
+    const std::vector<Range>& initialisers() const { return m_initialisers; }
+    const std::vector<Export>& exports() const { return m_exports; }
 
 private:
     friend class MachOReader;
 
-    std::string _bytes;
-    std::vector<Segment> _segments;
-    std::uint64_t _span = 0;
-    std::vector<std::uint64_t> _rebases;
-    std::vector<Bind> _binds;
-    std::vector<Range> _initialisers;
-    std::vector<Export> _exports;
+    std::string m_bytes;
+    std::vector<Segment> m_segments;
+    std::uint64_t m_span = 0;
+    std::vector<std::uint64_t> m_rebases;
+    std::vector<Bind> m_binds;
+    std::vector<Range> m_initialisers;
+    std::vector<Export> m_exports;
 };
 
 }

@@ -1,3 +1,4 @@
+// The operations of rebasing and binding, one after the other, as the system's linker documents them.
 #include "Simulator/Loader/MachOFixups.hpp"
 
 namespace Simulator {
@@ -14,40 +15,40 @@ using Segments = std::vector<MachOFile::Segment>;
 class Place {
 public:
     explicit Place(const Segments& segments)
-        : _segments(segments)
+        : m_segments(segments)
     {
         for (const auto& segment : segments)
-            _left += segment.isWritable ? segment.size / pointerSize : 0;
+            m_left += segment.isWritable ? segment.size / pointerSize : 0;
     }
 
     void set(unsigned segment, std::uint64_t offset)
     {
-        if (segment >= _segments.size())
+        if (segment >= m_segments.size())
             throw LoadError("the link data names segment " + std::to_string(segment) + ", which there is not");
-        _segment = &_segments[segment];
-        _offset = offset;
+        m_segment = &m_segments[segment];
+        m_offset = offset;
     }
-    void advance(std::uint64_t distance) { _offset += distance; }
+    void advance(std::uint64_t distance) { m_offset += distance; }
 
     /// The address of the pointer here; the place moves behind it.
     std::uint64_t take()
     {
-        if (!_segment || !_segment->isWritable || _segment->size < pointerSize
-            || _offset > _segment->size - pointerSize)
+        if (!m_segment || !m_segment->isWritable || m_segment->size < pointerSize
+            || m_offset > m_segment->size - pointerSize)
             throw LoadError("the link data adjusts a place that is not in a writable segment");
         // No pointer is adjusted twice, so there is an end to them.
-        if (_left-- == 0)
+        if (m_left-- == 0)
             throw LoadError("the link data adjusts more pointers than there are");
-        const std::uint64_t address = _segment->address + _offset;
-        _offset += pointerSize;
+        const std::uint64_t address = m_segment->address + m_offset;
+        m_offset += pointerSize;
         return address;
     }
 
 private:
-    const Segments& _segments;
-    const MachOFile::Segment* _segment = nullptr;
-    std::uint64_t _offset = 0;
-    std::uint64_t _left = 0;
+    const Segments& m_segments;
+    const MachOFile::Segment* m_segment = nullptr;
+    std::uint64_t m_offset = 0;
+    std::uint64_t m_left = 0;
 };
 
 [[noreturn]] void unknown(const char* table, unsigned code)

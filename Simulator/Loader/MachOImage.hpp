@@ -31,11 +31,11 @@ private:
     void findInitialisers(const MachOFile&);
     void protect(const MachOFile&);
 
-    char* _memory = nullptr;
-    std::uint64_t _span = 0;
-    std::vector<void (*)()> _initialisers;
-    std::map<std::string, void*> _exports;
-    bool _isStarted = false;
+    char* m_memory = nullptr;
+    std::uint64_t m_span = 0;
+    std::vector<void (*)()> m_initialisers;
+    std::map<std::string, void*> m_exports;
+    bool m_isStarted = false;
 };
 
 }

@@ -21,7 +21,7 @@ namespace Simulator {
 
 namespace {
 
-// Flags of the phone's dlopen.
+/// Flags of the phone's dlopen.
 constexpr int lazily = 0x1, local = 0x4, global = 0x8, onlyIfLoaded = 0x10;
 
 void* openLibrary(const char* path, int mode)
@@ -34,7 +34,7 @@ void* openLibrary(const char* path, int mode)
     return dlopen(path, hostMode);
 }
 
-// The phone's RTLD_DEFAULT is -2.
+/// The phone's RTLD_DEFAULT is -2.
 void* findSymbol(void* library, const char* name)
 {
     return library == reinterpret_cast<void*>(-2) ? dlsym(RTLD_DEFAULT, name) : dlsym(library, name);
@@ -73,7 +73,7 @@ SineAndCosine<Number> sineAndCosine(Number angle)
     return {std::sin(angle), std::cos(angle)};
 }
 
-// Everything is bound at once, so nothing asks for a function to be bound later.
+/// Everything is bound at once, so nothing asks for a function to be bound later.
 [[noreturn]] void bindLate()
 {
     std::fputs("lyr: the extension called a function that was never bound\n", stderr);

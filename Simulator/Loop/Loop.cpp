@@ -14,7 +14,7 @@ constexpr double nanosecondsPerSecond = 1e9;
 constexpr double longestDelay = 100.0 * 365 * 86400;
 constexpr double longestStep = 366.0 * 86400;
 constexpr std::int64_t shortestInterval = 100'000;
-// Work that keeps queueing itself for "now" would stop a virtual clock for ever; on a phone such work takes time.
+/// Work that keeps queueing itself for "now" would stop a virtual clock for ever; on a phone such work takes time.
 constexpr int deepestImmediateChain = 1000;
 constexpr double secondsFrom1970To2001 = 978307200;
 
@@ -62,30 +62,30 @@ Loop::~Loop() = default;
 
 void Loop::reset(double now, ClockKind kind)
 {
-    auto dropped = std::exchange(_queue, {});
-    _keys.clear();
-    _repeatingCount = 0;
-    _clockKind = kind;
-    _offset = kind == ClockKind::Real ? -steadyNanoseconds() : 0;
-    _start = _wall = std::isfinite(now) ? now : 0;
+    auto dropped = std::exchange(m_queue, {});
+    m_keys.clear();
+    m_repeatingCount = 0;
+    m_clockKind = kind;
+    m_offset = kind == ClockKind::realTime ? -steadyNanoseconds() : 0;
+    m_start = m_wall = std::isfinite(now) ? now : 0;
 }
 
 void Loop::setClockKind(ClockKind kind)
 {
     const Nanoseconds before = elapsed();
-    _clockKind = kind;
-    _offset = 0;
-    _offset = before - elapsed();
+    m_clockKind = kind;
+    m_offset = 0;
+    m_offset = before - elapsed();
 }
 
 Loop::Nanoseconds Loop::elapsed() const
 {
-    return _offset + (_clockKind == ClockKind::Real ? steadyNanoseconds() : 0);
+    return m_offset + (m_clockKind == ClockKind::realTime ? steadyNanoseconds() : 0);
 }
 
 double Loop::now() const
 {
-    return _wall + uptime();
+    return m_wall + uptime();
 }
 
 double Loop::uptime() const
@@ -96,7 +96,7 @@ double Loop::uptime() const
 void Loop::setNow(double now)
 {
     if (std::isfinite(now))
-        _wall = now - uptime();
+        m_wall = now - uptime();
 }
 
 TimerId Loop::schedule(double delay, Callback callback, WorkKind kind)
@@ -118,77 +118,77 @@ TimerId Loop::scheduleRepeating(double firstDelay, double interval, Callback cal
 
 TimerId Loop::enqueue(Nanoseconds delay, Nanoseconds interval, Callback callback, WorkKind kind)
 {
-    int depth = delay < shortestInterval ? _immediateDepth + 1 : 0;
+    int depth = delay < shortestInterval ? m_immediateDepth + 1 : 0;
     if (depth > deepestImmediateChain) {
         delay = shortestInterval;
         --depth;
     }
-    const Key key{elapsed() + delay, ++_lastId};
-    _queue.emplace(key, std::make_shared<Work>(Work{std::move(callback), interval, kind, depth}));
-    _keys.emplace(key.second, key);
-    _repeatingCount += interval > 0;
+    const Key key{elapsed() + delay, ++m_lastId};
+    m_queue.emplace(key, std::make_shared<Work>(Work{std::move(callback), interval, kind, depth}));
+    m_keys.emplace(key.second, key);
+    m_repeatingCount += interval > 0;
     return key.second;
 }
 
 bool Loop::cancel(TimerId id)
 {
-    const auto found = _keys.find(id);
-    if (found == _keys.end())
+    const auto found = m_keys.find(id);
+    if (found == m_keys.end())
         return false;
-    const auto entry = _queue.find(found->second);
+    const auto entry = m_queue.find(found->second);
     // What the callback holds is let go last: that may cancel further work.
     const auto work = std::move(entry->second);
-    _repeatingCount -= work->interval > 0;
-    _queue.erase(entry);
-    _keys.erase(found);
+    m_repeatingCount -= work->interval > 0;
+    m_queue.erase(entry);
+    m_keys.erase(found);
     return true;
 }
 
 bool Loop::isScheduled(TimerId id) const
 {
-    return _keys.contains(id);
+    return m_keys.contains(id);
 }
 
 std::optional<double> Loop::dueIn(TimerId id) const
 {
-    const auto found = _keys.find(id);
-    if (found == _keys.end())
+    const auto found = m_keys.find(id);
+    if (found == m_keys.end())
         return std::nullopt;
     return std::max(0.0, static_cast<double>(found->second.first - elapsed()) / nanosecondsPerSecond);
 }
 
 void Loop::moveTo(Nanoseconds moment)
 {
-    _offset += std::max<Nanoseconds>(0, moment - elapsed());
+    m_offset += std::max<Nanoseconds>(0, moment - elapsed());
 }
 
-// A repeating callback is queued again before it runs, so that it can cancel itself. Late ones skip what they missed.
+/// A repeating callback is queued again before it runs, so that it can cancel itself. Late ones skip what they missed.
 void Loop::runFirst()
 {
-    const auto scope = _makeScope ? _makeScope() : nullptr;
-    const auto first = _queue.begin();
+    const auto scope = m_makeScope ? m_makeScope() : nullptr;
+    const auto first = m_queue.begin();
     const auto [due, id] = first->first;
     const auto work = first->second;
-    _queue.erase(first);
+    m_queue.erase(first);
     moveTo(due);
     if (work->interval > 0) {
         const Nanoseconds missed = std::max<Nanoseconds>(0, elapsed() - due) / work->interval;
         const Key next{due + (missed + 1) * work->interval, id};
-        _queue.emplace(next, work);
-        _keys[id] = next;
+        m_queue.emplace(next, work);
+        m_keys[id] = next;
     } else {
-        _keys.erase(id);
+        m_keys.erase(id);
     }
-    const int outerDepth = std::exchange(_immediateDepth, work->immediateDepth);
+    const int outerDepth = std::exchange(m_immediateDepth, work->immediateDepth);
     if (work->callback)
         work->callback();
-    _immediateDepth = outerDepth;
+    m_immediateDepth = outerDepth;
 }
 
 void Loop::advance(double seconds)
 {
     const Nanoseconds end = elapsed() + nanoseconds(seconds, longestStep);
-    while (!_queue.empty() && _queue.begin()->first.first <= end)
+    while (!m_queue.empty() && m_queue.begin()->first.first <= end)
         runFirst();
     moveTo(end);
 }
@@ -197,7 +197,7 @@ double Loop::settle(double boundSeconds)
 {
     const Nanoseconds begin = elapsed();
     const Nanoseconds end = begin + nanoseconds(boundSeconds, longestStep);
-    while (!onlyRepeatingIsPending() && _queue.begin()->first.first <= end)
+    while (!onlyRepeatingIsPending() && m_queue.begin()->first.first <= end)
         runFirst();
     if (!onlyRepeatingIsPending())
         moveTo(end);
@@ -208,26 +208,26 @@ std::size_t Loop::runDue()
 {
     const Nanoseconds end = elapsed();
     std::size_t count = 0;
-    for (; !_queue.empty() && _queue.begin()->first.first <= end; ++count)
+    for (; !m_queue.empty() && m_queue.begin()->first.first <= end; ++count)
         runFirst();
     return count;
 }
 
 std::optional<double> Loop::nextDue() const
 {
-    if (_queue.empty())
+    if (m_queue.empty())
         return std::nullopt;
-    return std::max(0.0, static_cast<double>(_queue.begin()->first.first - elapsed()) / nanosecondsPerSecond);
+    return std::max(0.0, static_cast<double>(m_queue.begin()->first.first - elapsed()) / nanosecondsPerSecond);
 }
 
 std::size_t Loop::pending(WorkKind kind) const
 {
-    return std::ranges::count_if(_queue, [kind](const auto& entry) { return entry.second->kind == kind; });
+    return std::ranges::count_if(m_queue, [kind](const auto& entry) { return entry.second->kind == kind; });
 }
 
 std::size_t Loop::pendingRepeating() const
 {
-    return _repeatingCount;
+    return m_repeatingCount;
 }
 
 }

@@ -15,10 +15,10 @@ namespace Simulator {
 
 using TimerId = std::uint64_t; // 0 is never a timer
 
-enum class ClockKind { Virtual, Real };
+enum class ClockKind { virtualTime, realTime };
 
 /// What waits in the loop, told apart so that leak tests can count each.
-enum class WorkKind { MainQueue, Delayed, Timer, Animation };
+enum class WorkKind { mainQueue, delayed, timer, animation };
 
 class Loop {
 public:
@@ -32,27 +32,27 @@ public:
     Loop& operator=(const Loop&) = delete;
 
     /// Forgets all work and starts the clock at `now`, seconds since 2001-01-01 UTC.
-    void reset(double now, ClockKind kind = ClockKind::Virtual);
+    void reset(double now, ClockKind kind = ClockKind::virtualTime);
     void setClockKind(ClockKind);
-    ClockKind clockKind() const { return _clockKind; }
+    ClockKind clockKind() const { return m_clockKind; }
 
     double now() const;
     /// A change of the wall clock: what is scheduled keeps its delay. NaN and infinities are ignored.
     void setNow(double);
     /// The wall clock's value when the phone started.
-    double start() const { return _start; }
+    double start() const { return m_start; }
     /// Seconds since the start, untouched by changes of the wall clock.
     double uptime() const;
 
     /// What is made before each callback and goes after it: the shell's autorelease pool.
     using MakeScope = std::shared_ptr<void> (*)();
-    void setScope(MakeScope makeScope) { _makeScope = makeScope; }
+    void setScope(MakeScope makeScope) { m_makeScope = makeScope; }
 
     /// Negative and NaN delays mean now. Equal times run in the order of scheduling.
-    TimerId schedule(double delay, Callback, WorkKind = WorkKind::Delayed);
+    TimerId schedule(double delay, Callback, WorkKind = WorkKind::delayed);
     /// Keeps to the grid of its first date; a non-positive interval means 0.1 ms, as on the phone.
-    TimerId scheduleRepeating(double interval, Callback, WorkKind = WorkKind::Timer);
-    TimerId scheduleRepeating(double firstDelay, double interval, Callback, WorkKind = WorkKind::Timer);
+    TimerId scheduleRepeating(double interval, Callback, WorkKind = WorkKind::timer);
+    TimerId scheduleRepeating(double firstDelay, double interval, Callback, WorkKind = WorkKind::timer);
     /// False if it has run, was cancelled or never was.
     bool cancel(TimerId);
     bool isScheduled(TimerId) const;
@@ -68,7 +68,7 @@ public:
     /// Seconds until the next callback, never negative.
     std::optional<double> nextDue() const;
 
-    std::size_t pending() const { return _queue.size(); }
+    std::size_t pending() const { return m_queue.size(); }
     std::size_t pending(WorkKind) const;
     std::size_t pendingRepeating() const;
 
@@ -82,18 +82,18 @@ private:
     Nanoseconds elapsed() const;
     void moveTo(Nanoseconds);
     void runFirst();
-    bool onlyRepeatingIsPending() const { return _repeatingCount == _queue.size(); }
+    bool onlyRepeatingIsPending() const { return m_repeatingCount == m_queue.size(); }
 
-    ClockKind _clockKind = ClockKind::Virtual;
-    double _start = 0; // wall clock at the start
-    double _wall = 0; // wall clock at elapsed() == 0
-    Nanoseconds _offset = 0; // what elapsed() has beyond the host's steady clock
-    std::map<Key, std::shared_ptr<Work>> _queue;
-    std::unordered_map<TimerId, Key> _keys;
-    std::size_t _repeatingCount = 0;
-    TimerId _lastId = 0;
-    int _immediateDepth = 0;
-    MakeScope _makeScope = nullptr;
+    ClockKind m_clockKind = ClockKind::virtualTime;
+    double m_start = 0; // wall clock at the start
+    double m_wall = 0; // wall clock at elapsed() == 0
+    Nanoseconds m_offset = 0; // what elapsed() has beyond the host's steady clock
+    std::map<Key, std::shared_ptr<Work>> m_queue;
+    std::unordered_map<TimerId, Key> m_keys;
+    std::size_t m_repeatingCount = 0;
+    TimerId m_lastId = 0;
+    int m_immediateDepth = 0;
+    MakeScope m_makeScope = nullptr;
 };
 
 }

@@ -15,19 +15,19 @@ std::shared_ptr<const std::string> shared(std::string text)
 }
 
 Browser::Browser(std::unique_ptr<WebSocket> socket, Host& host)
-    : _socket(std::move(socket))
-    , _host(host)
+    : m_socket(std::move(socket))
+    , m_host(host)
 {
-    _own.add("screen.follow", [this](const Json&) {
-        _follows = true;
-        _awaitsShown = false;
-        _frame.reset();
-        _host.wantsAll(*this);
+    m_own.add("screen.follow", [this](const Json&) {
+        m_follows = true;
+        m_awaitsShown = false;
+        m_frame.reset();
+        m_host.wantsAll(*this);
         return Json::object();
     });
-    _own.add("screen.shown", [this](const Json&) {
-        _awaitsShown = false;
-        _host.wantsFrame();
+    m_own.add("screen.shown", [this](const Json&) {
+        m_awaitsShown = false;
+        m_host.wantsFrame();
         return Json::object();
     });
 }
@@ -40,18 +40,18 @@ void Browser::enter()
 
 void Browser::leave()
 {
-    _isOpen = false;
-    _socket->close();
-    _host.left(*this);
+    m_isOpen = false;
+    m_socket->close();
+    m_host.left(*this);
 }
 
 void Browser::read()
 {
-    _socket->read(
+    m_socket->read(
         [self = shared_from_this()](std::optional<std::string> request) { self->onRead(std::move(request)); });
 }
 
-// The next request is read when the reply to this one is on its way, so that no replies pile up.
+/// The next request is read when the reply to this one is on its way, so that no replies pile up.
 void Browser::onRead(std::optional<std::string> request)
 {
     if (!request)
@@ -60,32 +60,32 @@ void Browser::onRead(std::optional<std::string> request)
         *request, [this](const std::string& method, const Json& parameters) { return call(method, parameters); });
     if (!reply)
         return read();
-    _reply = shared(std::move(*reply));
+    m_reply = shared(std::move(*reply));
     write();
 }
 
 Json Browser::call(const std::string& method, const Json& parameters)
 {
-    return _own.knows(method) ? _own.call(method, parameters) : _host.call(method, parameters);
+    return m_own.knows(method) ? m_own.call(method, parameters) : m_host.call(method, parameters);
 }
 
 void Browser::send(std::shared_ptr<const std::string> frame)
 {
-    _frame = std::move(frame);
-    _awaitsShown = true;
+    m_frame = std::move(frame);
+    m_awaitsShown = true;
     stale.clear();
     write();
 }
 
 void Browser::tellStanding()
 {
-    _standingIsNews = true;
+    m_standingIsNews = true;
     write();
 }
 
 void Browser::tellStored()
 {
-    _storedIsNews = true;
+    m_storedIsNews = true;
     write();
 }
 
@@ -93,40 +93,40 @@ std::optional<Browser::Outgoing> Browser::next()
 {
     const auto news = [](const char* method, const Json& parameters) {
         return Outgoing{
-            shared(toLine({{"jsonrpc", "2.0"}, {"method", method}, {"params", parameters}})), Outgoing::Kind::News};
+            shared(toLine({{"jsonrpc", "2.0"}, {"method", method}, {"params", parameters}})), Outgoing::Kind::news};
     };
     // Who has the reply to a call knows what the call did.
-    if (std::exchange(_standingIsNews, false))
-        return news("preview.standing", _host.standing());
-    if (std::exchange(_storedIsNews, false))
+    if (std::exchange(m_standingIsNews, false))
+        return news("preview.standing", m_host.standing());
+    if (std::exchange(m_storedIsNews, false))
         return news("preview.stored", Json::object());
-    if (_reply)
-        return Outgoing{std::move(_reply), Outgoing::Kind::Reply};
-    if (_frame)
-        return Outgoing{std::move(_frame), Outgoing::Kind::Frame};
+    if (m_reply)
+        return Outgoing{std::move(m_reply), Outgoing::Kind::reply};
+    if (m_frame)
+        return Outgoing{std::move(m_frame), Outgoing::Kind::frame};
     return std::nullopt;
 }
 
 void Browser::write()
 {
-    if (_isWriting || !_isOpen)
+    if (m_isWriting || !m_isOpen)
         return;
     auto outgoing = next();
     if (!outgoing)
         return;
-    _written = std::move(*outgoing);
-    _isWriting = true;
-    const auto form = _written.kind == Outgoing::Kind::Frame ? WebSocket::Form::Binary : WebSocket::Form::Text;
-    _socket->write(*_written.bytes, form, [self = shared_from_this()](bool isTaken) { self->onWritten(isTaken); });
+    m_written = std::move(*outgoing);
+    m_isWriting = true;
+    const auto form = m_written.kind == Outgoing::Kind::frame ? WebSocket::Form::binary : WebSocket::Form::text;
+    m_socket->write(*m_written.bytes, form, [self = shared_from_this()](bool isTaken) { self->onWritten(isTaken); });
 }
 
 void Browser::onWritten(bool isTaken)
 {
-    _isWriting = false;
+    m_isWriting = false;
     if (!isTaken)
         return leave();
-    _written.bytes.reset();
-    if (_written.kind == Outgoing::Kind::Reply)
+    m_written.bytes.reset();
+    if (m_written.kind == Outgoing::Kind::reply)
         read();
     write();
 }

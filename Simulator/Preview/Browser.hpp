@@ -10,12 +10,12 @@ namespace Simulator::Preview {
 
 class Browser : public std::enable_shared_from_this<Browser> {
 public:
-    // What a browser asks of the server.
+    /// What a browser asks of the server.
     class Host {
     public:
         virtual Control::Json call(const std::string& method, const Control::Json& parameters) = 0;
         virtual Control::Json standing() const = 0;
-        // It can take a frame now; or wants the whole screen first.
+        /// It can take a frame now; or wants the whole screen first.
         virtual void wantsFrame() = 0;
         virtual void wantsAll(Browser&) = 0;
         virtual void left(Browser&) = 0;
@@ -25,13 +25,13 @@ public:
     };
 
     Browser(std::unique_ptr<WebSocket>, Host&);
-    // Tells how the phone stands, and serves requests from there.
+    /// Tells how the phone stands, and serves requests from there.
     void enter();
 
-    // It follows the screen, and has shown what it was sent.
-    bool isReady() const { return _follows && !_awaitsShown; }
-    bool follows() const { return _follows; }
-    // Tiles that differ from what it was sent last.
+    /// It follows the screen, and has shown what it was sent.
+    bool isReady() const { return m_follows && !m_awaitsShown; }
+    bool follows() const { return m_follows; }
+    /// Tiles that differ from what it was sent last.
     Tiles stale;
     void send(std::shared_ptr<const std::string> frame);
 
@@ -40,9 +40,9 @@ public:
 
 private:
     struct Outgoing {
-        enum class Kind { Reply, News, Frame };
+        enum class Kind { reply, news, frame };
         std::shared_ptr<const std::string> bytes;
-        Kind kind = Kind::News;
+        Kind kind = Kind::news;
     };
 
     void leave();
@@ -53,18 +53,18 @@ private:
     void onWritten(bool isTaken);
     std::optional<Outgoing> next();
 
-    std::unique_ptr<WebSocket> _socket;
-    Host& _host;
-    Control::Dispatcher _own;
-    std::shared_ptr<const std::string> _reply;
-    std::shared_ptr<const std::string> _frame;
-    Outgoing _written;
-    bool _isWriting = false;
-    bool _isOpen = true;
-    bool _follows = false;
-    bool _awaitsShown = false;
-    bool _standingIsNews = false;
-    bool _storedIsNews = false;
+    std::unique_ptr<WebSocket> m_socket;
+    Host& m_host;
+    Control::Dispatcher m_own;
+    std::shared_ptr<const std::string> m_reply;
+    std::shared_ptr<const std::string> m_frame;
+    Outgoing m_written;
+    bool m_isWriting = false;
+    bool m_isOpen = true;
+    bool m_follows = false;
+    bool m_awaitsShown = false;
+    bool m_standingIsNews = false;
+    bool m_storedIsNews = false;
 };
 
 }

@@ -10,17 +10,17 @@ namespace Simulator::Preview {
 
 class FileWatch {
 public:
-    // Throws where the folder cannot be watched.
+    /// Throws where the folder cannot be watched.
     FileWatch(const std::string& folder, std::vector<std::string> names);
 
-    // Readable when something happened in the folder.
-    int descriptor() const { return _inotify.number(); }
-    // Whether it happened to one of the files since the last call.
+    /// Readable when something happened in the folder.
+    int descriptor() const { return m_inotify.number(); }
+    /// Whether it happened to one of the files since the last call.
     bool tookPlace() const;
 
 private:
-    Descriptor _inotify;
-    std::vector<std::string> _names;
+    Descriptor m_inotify;
+    std::vector<std::string> m_names;
 };
 
 }

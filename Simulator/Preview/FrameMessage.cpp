@@ -1,3 +1,4 @@
+// Writes the header and the pixels of a message.
 #include "Simulator/Preview/FrameMessage.hpp"
 
 namespace Simulator::Preview {

@@ -7,7 +7,7 @@
 
 namespace Simulator::Preview {
 
-// `header` is sent with "parts", a list of [x, y, width, height] in pixels, added.
+/// `header` is sent with "parts", a list of [x, y, width, height] in pixels, added.
 std::string frameMessage(const Control::SharedFrame&, const Tiles&, Control::Json header);
 
 }

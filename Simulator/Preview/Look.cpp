@@ -20,12 +20,12 @@ using namespace Control;
 
 namespace {
 
-// The settings that hold the name of a font.
+/// The settings that hold the name of a font.
 const std::vector<std::string> fontSettings{"customFontPickerTime", "customFontPicker"};
 
 [[noreturn]] void refuse(const std::string& message)
 {
-    throw ProtocolError(ErrorCode::BadParameters, message);
+    throw ProtocolError(ErrorCode::badParameters, message);
 }
 
 bool contains(const std::vector<std::string>& names, const std::string& name)
@@ -40,7 +40,7 @@ PhoneFiles filesUnder(const std::string& root)
     return files;
 }
 
-// Null for what a look does not hold: dates, data, lists.
+/// Null for what a look does not hold: dates, data, lists.
 Json scalarOf(const PropertyList& list)
 {
     if (const auto* text = std::get_if<std::string>(&list.value))
@@ -54,7 +54,7 @@ Json scalarOf(const PropertyList& list)
     return nullptr;
 }
 
-// The known values of a stored file; none where there is no file.
+/// The known values of a stored file; none where there is no file.
 Json storedIn(const PhoneFiles& files, std::string_view path, const std::vector<std::string>& known)
 {
     Json values = Json::object();
@@ -122,7 +122,7 @@ std::string nameOfFont(const fs::path& path)
     return names ? names->postScriptName : std::string();
 }
 
-// The system's, the extension's and the user's.
+/// The system's, the extension's and the user's.
 std::set<std::string> fontsOfPhone(const PhoneFiles& files)
 {
     std::vector<fs::path> paths = Graphics::installedSystemFonts();
@@ -143,7 +143,7 @@ std::set<std::string> fontsOfPhone(const PhoneFiles& files)
 void put(PhoneFiles& files, std::string_view path, const std::string& bytes)
 {
     if (const int error = files.put(path, bytes))
-        throw ProtocolError(ErrorCode::Internal, files.hostPath(path) + ": " + strerror(error));
+        throw ProtocolError(ErrorCode::internal, files.hostPath(path) + ": " + strerror(error));
 }
 
 }

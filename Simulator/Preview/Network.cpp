@@ -29,7 +29,7 @@ using HttpRequest = http::request<http::empty_body>;
 class Socket final : public WebSocket {
 public:
     explicit Socket(beast::tcp_stream stream)
-        : _stream(std::move(stream))
+        : m_stream(std::move(stream))
     {
     }
 
@@ -37,7 +37,7 @@ public:
         const std::function<void(std::unique_ptr<WebSocket>)>& entered)
     {
         auto socket = std::make_unique<Socket>(std::move(stream));
-        auto& accepted = socket->_stream;
+        auto& accepted = socket->m_stream;
         auto timeouts = websocket::stream_base::timeout::suggested(beast::role_type::server);
         timeouts.keep_alive_pings = true;
         beast::get_lowest_layer(accepted).expires_never();
@@ -53,47 +53,47 @@ public:
 
     void read(std::function<void(std::optional<std::string>)> done) override
     {
-        _stream.async_read(_arrived, [this, done = std::move(done)](beast::error_code error, std::size_t) {
+        m_stream.async_read(m_arrived, [this, done = std::move(done)](beast::error_code error, std::size_t) {
             if (error)
                 return done(std::nullopt);
-            std::string message = beast::buffers_to_string(_arrived.data());
-            _arrived.consume(_arrived.size());
+            std::string message = beast::buffers_to_string(m_arrived.data());
+            m_arrived.consume(m_arrived.size());
             done(std::move(message));
         });
     }
 
     void write(const std::string& bytes, Form form, std::function<void(bool)> done) override
     {
-        _stream.binary(form == Form::Binary);
-        _stream.async_write(
+        m_stream.binary(form == Form::binary);
+        m_stream.async_write(
             asio::buffer(bytes), [done = std::move(done)](beast::error_code error, std::size_t) { done(!error); });
     }
 
-    void close() override { beast::get_lowest_layer(_stream).close(); }
+    void close() override { beast::get_lowest_layer(m_stream).close(); }
 
 private:
-    websocket::stream<beast::tcp_stream> _stream;
-    beast::flat_buffer _arrived;
+    websocket::stream<beast::tcp_stream> m_stream;
+    beast::flat_buffer m_arrived;
 };
 
-// Lives by itself until its end, or until it is a WebSocket.
+/// Lives by itself until its end, or until it is a WebSocket.
 class Connection : public std::enable_shared_from_this<Connection> {
 public:
     Connection(tcp::socket socket, const Network::Service& service)
-        : _stream(std::move(socket))
-        , _service(service)
+        : m_stream(std::move(socket))
+        , m_service(service)
     {
     }
 
     void read()
     {
-        _parser.emplace();
-        _parser->header_limit(longestHeader);
-        _stream.expires_after(idleTime);
+        m_parser.emplace();
+        m_parser->header_limit(longestHeader);
+        m_stream.expires_after(idleTime);
         http::async_read(
-            _stream, _arrived, *_parser, [self = shared_from_this()](beast::error_code error, std::size_t) {
+            m_stream, m_arrived, *m_parser, [self = shared_from_this()](beast::error_code error, std::size_t) {
                 if (!error)
-                    self->answer(self->_parser->release());
+                    self->answer(self->m_parser->release());
             });
     }
 
@@ -101,34 +101,34 @@ private:
     void answer(const HttpRequest& request)
     {
         const bool isHead = request.method() == http::verb::head;
-        Answer answer = _service.answer({.target = std::string(request.target()),
+        Answer answer = m_service.answer({.target = std::string(request.target()),
             .host = std::string(request[http::field::host]),
             .origin = std::string(request[http::field::origin]),
             .isToRead = isHead || request.method() == http::verb::get,
             .isForWebSocket = websocket::is_upgrade(request)});
         if (answer.status == switchingProtocols)
-            return Socket::accept(std::move(_stream), request, _service.entered);
-        _response = http::response<http::string_body>(http::int_to_status(answer.status), request.version());
+            return Socket::accept(std::move(m_stream), request, m_service.entered);
+        m_response = http::response<http::string_body>(http::int_to_status(answer.status), request.version());
         for (const auto& [name, value] : answer.fields)
-            _response.set(name, value);
-        _response.keep_alive(request.keep_alive());
-        _response.content_length(answer.body.size());
+            m_response.set(name, value);
+        m_response.keep_alive(request.keep_alive());
+        m_response.content_length(answer.body.size());
         if (!isHead)
-            _response.body() = std::move(answer.body);
-        http::async_write(_stream, _response, [self = shared_from_this()](beast::error_code error, std::size_t) {
-            if (!error && self->_response.keep_alive())
+            m_response.body() = std::move(answer.body);
+        http::async_write(m_stream, m_response, [self = shared_from_this()](beast::error_code error, std::size_t) {
+            if (!error && self->m_response.keep_alive())
                 self->read();
         });
     }
 
-    beast::tcp_stream _stream;
-    const Network::Service& _service;
-    beast::flat_buffer _arrived;
-    std::optional<http::request_parser<http::empty_body>> _parser;
-    http::response<http::string_body> _response;
+    beast::tcp_stream m_stream;
+    const Network::Service& m_service;
+    beast::flat_buffer m_arrived;
+    std::optional<http::request_parser<http::empty_body>> m_parser;
+    http::response<http::string_body> m_response;
 };
 
-// Its action may end it.
+/// Its action may end it.
 struct Readiness : std::enable_shared_from_this<Readiness> {
     Readiness(asio::io_context& io, int number, std::function<void()> action)
         : descriptor(io, dup(number))
@@ -155,14 +155,14 @@ struct Readiness : std::enable_shared_from_this<Readiness> {
 class ReadinessWatch final : public Network::Watch {
 public:
     explicit ReadinessWatch(std::shared_ptr<Readiness> readiness)
-        : _readiness(std::move(readiness))
+        : m_readiness(std::move(readiness))
     {
-        _readiness->wait();
+        m_readiness->wait();
     }
-    ~ReadinessWatch() override { _readiness->descriptor.close(); }
+    ~ReadinessWatch() override { m_readiness->descriptor.close(); }
 
 private:
-    std::shared_ptr<Readiness> _readiness;
+    std::shared_ptr<Readiness> m_readiness;
 };
 
 }
@@ -186,7 +186,7 @@ struct Network::State {
 };
 
 Network::Network()
-    : _state(std::make_unique<State>())
+    : m_state(std::make_unique<State>())
 {
 }
 
@@ -195,8 +195,8 @@ Network::~Network() = default;
 unsigned short Network::listen(unsigned short port)
 {
     try {
-        _state->acceptor = tcp::acceptor(_state->io, tcp::endpoint(asio::ip::address_v4::loopback(), port));
-        return _state->acceptor.local_endpoint().port();
+        m_state->acceptor = tcp::acceptor(m_state->io, tcp::endpoint(asio::ip::address_v4::loopback(), port));
+        return m_state->acceptor.local_endpoint().port();
     } catch (const boost::system::system_error& error) {
         throw std::runtime_error("port " + std::to_string(port) + " cannot be had: " + error.code().message()
             + "; without --port any free one is taken");
@@ -205,24 +205,24 @@ unsigned short Network::listen(unsigned short port)
 
 void Network::serve(Service service)
 {
-    _state->service = std::move(service);
-    _state->acceptNext();
+    m_state->service = std::move(service);
+    m_state->acceptNext();
 }
 
 std::unique_ptr<Network::Watch> Network::watch(int descriptor, std::function<void()> action)
 {
-    return std::make_unique<ReadinessWatch>(std::make_shared<Readiness>(_state->io, descriptor, std::move(action)));
+    return std::make_unique<ReadinessWatch>(std::make_shared<Readiness>(m_state->io, descriptor, std::move(action)));
 }
 
 void Network::at(Clock::time_point time, std::function<void()> action)
 {
-    const auto timer = std::make_shared<asio::steady_timer>(_state->io, time);
+    const auto timer = std::make_shared<asio::steady_timer>(m_state->io, time);
     timer->async_wait([timer, action = std::move(action)](boost::system::error_code) { action(); });
 }
 
 void Network::run()
 {
-    _state->io.run();
+    m_state->io.run();
 }
 
 }

@@ -1,3 +1,4 @@
+// Compares the names of hosts as a browser writes them.
 #include "Simulator/Preview/Origin.hpp"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Types of the page's files, and what the page may load.
 #include "Simulator/Preview/PageFiles.hpp"
 
 #include "Simulator/Base/HostFile.hpp"
@@ -30,12 +31,14 @@ std::optional<std::string> typeOf(const fs::path& name)
 std::optional<PageFile> pageFile(const fs::path& folder, std::string_view target)
 {
     target = target.substr(0, target.find('?'));
-    const std::string wanted = target == "/" ? "/index.html" : std::string(target);
+    if (!target.starts_with('/'))
+        return std::nullopt;
+    const std::string_view wanted = target == "/" ? "index.html" : target.substr(1);
     // By comparing with what is there, no path leads elsewhere.
     std::error_code error;
     for (const auto& entry : fs::directory_iterator(folder, error)) {
         const auto type = typeOf(entry.path());
-        if (type && "/" + entry.path().filename().string() == wanted)
+        if (type && entry.path().filename() == wanted)
             return PageFile{readHostFile(entry.path()).value, *type};
     }
     return std::nullopt;

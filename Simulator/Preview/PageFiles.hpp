@@ -13,10 +13,10 @@ struct PageFile {
     std::string type;
 };
 
-// `target` is the path of a request; nothing where the page has no such file.
+/// `target` is the path of a request; nothing where the page has no such file.
 std::optional<PageFile> pageFile(const std::filesystem::path& folder, std::string_view target);
 
-// What a browser may load for the page: only what this host serves.
+/// What a browser may load for the page: only what this host serves.
 std::string contentSecurityPolicy(std::string_view host);
 
 }

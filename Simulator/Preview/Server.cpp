@@ -16,12 +16,12 @@ using namespace Control;
 
 namespace {
 
-// Sixty frames a second at most.
+/// Sixty frames a second at most.
 constexpr std::chrono::microseconds frameInterval{16'667};
 constexpr std::chrono::milliseconds refreshInterval{100};
 constexpr std::size_t mostBrowsers = 64;
 
-// Milliseconds since 1970, the clock that a page has as well.
+/// Milliseconds since 1970, the clock that a page has as well.
 double now()
 {
     using namespace std::chrono;
@@ -32,7 +32,7 @@ class Server final : public Browser::Host {
 public:
     Server(Supervisor::Options options, const ServerOptions& given);
 
-    void run() { _network.run(); }
+    void run() { m_network.run(); }
 
 private:
     Supervisor::Options withLog(Supervisor::Options);
@@ -40,12 +40,12 @@ private:
     void watchShell();
 
     Json call(const std::string& method, const Json& parameters) override;
-    Json standing() const override { return _phone->standing(); }
+    Json standing() const override { return m_phone->standing(); }
     void wantsFrame() override { schedule(); }
     void wantsAll(Browser&) override;
     void left(Browser& browser) override;
 
-    // After anything that the phone did.
+    /// After anything that the phone did.
     void attend();
     void refreshClock();
     void tellStanding();
@@ -54,43 +54,43 @@ private:
     void draw();
     void sendFrames();
 
-    const ServerOptions& _options;
-    Network _network;
-    unsigned short _port;
-    std::unique_ptr<LivePhone> _phone;
-    Supervisor _supervisor;
-    std::unique_ptr<FileWatch> _watch;
-    std::unique_ptr<Network::Watch> _interruption;
-    std::unique_ptr<Network::Watch> _shell;
-    std::unique_ptr<Network::Watch> _stored;
-    Network::Clock::time_point _lastDrawn{};
-    std::set<std::shared_ptr<Browser>> _browsers;
-    Json _told; // how the phone stood when the browsers were last told
-    Json _times = Json::object(); // of the frame that is due, as the page has them
-    int _process = -1; // the watched shell process
-    bool _isScheduled = false;
-    bool _isRefreshing = false;
-    bool _wantsRefresh = false;
-    std::uint64_t _frames = 0;
+    const ServerOptions& m_options;
+    Network m_network;
+    unsigned short m_port;
+    std::unique_ptr<LivePhone> m_phone;
+    Supervisor m_supervisor;
+    std::unique_ptr<FileWatch> m_watch;
+    std::unique_ptr<Network::Watch> m_interruption;
+    std::unique_ptr<Network::Watch> m_shell;
+    std::unique_ptr<Network::Watch> m_stored;
+    Network::Clock::time_point m_lastDrawn{};
+    std::set<std::shared_ptr<Browser>> m_browsers;
+    Json m_told; // how the phone stood when the browsers were last told
+    Json m_times = Json::object(); // of the frame that is due, as the page has them
+    int m_process = -1; // the watched shell process
+    bool m_isScheduled = false;
+    bool m_isRefreshing = false;
+    bool m_wantsRefresh = false;
+    std::uint64_t m_frames = 0;
 };
 
 Server::Server(Supervisor::Options options, const ServerOptions& given)
-    : _options(given)
-    , _port(_network.listen(given.port))
-    , _supervisor(withLog(std::move(options)))
+    : m_options(given)
+    , m_port(m_network.listen(given.port))
+    , m_supervisor(withLog(std::move(options)))
 {
-    _phone = std::make_unique<LivePhone>(_supervisor, given.root, given.withGlyph);
-    _phone->start(given.start);
+    m_phone = std::make_unique<LivePhone>(m_supervisor, given.root, given.withGlyph);
+    m_phone->start(given.start);
     const auto preferences
         = std::filesystem::path(given.root) / std::filesystem::path(settingsPath.substr(1)).parent_path();
-    _watch = std::make_unique<FileWatch>(preferences.string(),
+    m_watch = std::make_unique<FileWatch>(preferences.string(),
         std::vector{std::filesystem::path(settingsPath).filename().string(),
             std::filesystem::path(coloursPath).filename().string()});
-    _stored = _network.watch(_watch->descriptor(), [this] { attend(); });
-    _interruption = _network.watch(given.interruption, given.interrupt);
+    m_stored = m_network.watch(m_watch->descriptor(), [this] { attend(); });
+    m_interruption = m_network.watch(given.interruption, given.interrupt);
     attend();
-    _network.serve(service());
-    given.ready("http://127.0.0.1:" + std::to_string(_port) + "/");
+    m_network.serve(service());
+    given.ready("http://127.0.0.1:" + std::to_string(m_port) + "/");
 }
 
 Supervisor::Options Server::withLog(Supervisor::Options options)
@@ -98,43 +98,43 @@ Supervisor::Options Server::withLog(Supervisor::Options options)
     options.clock = "real";
     options.log = [this, log = options.log](const std::string& line) {
         log(line);
-        if (_phone)
-            _phone->noteEnd(line);
+        if (m_phone)
+            m_phone->noteEnd(line);
     };
     return options;
 }
 
 Network::Service Server::service()
 {
-    return {.hasRoom = [this] { return _browsers.size() < mostBrowsers; },
-        .answer = [this](const Request& request) { return answerTo(request, _options.page, _port); },
+    return {.hasRoom = [this] { return m_browsers.size() < mostBrowsers; },
+        .answer = [this](const Request& request) { return answerTo(request, m_options.page, m_port); },
         .entered =
             [this](std::unique_ptr<WebSocket> socket) {
                 const auto browser = std::make_shared<Browser>(std::move(socket), *this);
-                _browsers.insert(browser);
+                m_browsers.insert(browser);
                 browser->enter();
             }};
 }
 
 void Server::watchShell()
 {
-    _shell.reset();
-    if (_phone->descriptor() < 0)
+    m_shell.reset();
+    if (m_phone->descriptor() < 0)
         return;
-    _shell = _network.watch(_phone->descriptor(), [this] {
-        _phone->notice();
+    m_shell = m_network.watch(m_phone->descriptor(), [this] {
+        m_phone->notice();
         attend();
     });
 }
 
 Json Server::call(const std::string& method, const Json& parameters)
 {
-    _times["received"] = now();
+    m_times["received"] = now();
     try {
-        Json result = _phone->call(method, parameters);
-        _times["answered"] = now();
+        Json result = m_phone->call(method, parameters);
+        m_times["answered"] = now();
         attend();
-        _times["attended"] = now();
+        m_times["attended"] = now();
         return result;
     } catch (const ProtocolError&) {
         attend();
@@ -144,40 +144,40 @@ Json Server::call(const std::string& method, const Json& parameters)
 
 void Server::left(Browser& browser)
 {
-    _browsers.erase(browser.shared_from_this());
+    m_browsers.erase(browser.shared_from_this());
 }
 
 void Server::wantsAll(Browser& browser)
 {
-    browser.stale.addAll(_phone->frame().tileCount());
+    browser.stale.addAll(m_phone->frame().tileCount());
     schedule();
 }
 
 void Server::attend()
 {
-    if (std::exchange(_process, _phone->process()) != _phone->process())
+    if (std::exchange(m_process, m_phone->process()) != m_phone->process())
         watchShell();
     // The shell process writes before it answers, so that what a call has stored is seen right after it.
-    if (_watch->tookPlace()) {
+    if (m_watch->tookPlace()) {
         refreshClock();
-        for (const auto& browser : _browsers)
+        for (const auto& browser : m_browsers)
             browser->tellStored();
     }
     tellStanding();
     schedule();
 }
 
-// A slider is moved more often than the clock can follow.
+/// A slider is moved more often than the clock can follow.
 void Server::refreshClock()
 {
-    _wantsRefresh = _isRefreshing;
-    if (_isRefreshing)
+    m_wantsRefresh = m_isRefreshing;
+    if (m_isRefreshing)
         return;
-    _isRefreshing = true;
-    _phone->refresh();
-    _network.at(Network::Clock::now() + refreshInterval, [this] {
-        _isRefreshing = false;
-        if (_wantsRefresh)
+    m_isRefreshing = true;
+    m_phone->refresh();
+    m_network.at(Network::Clock::now() + refreshInterval, [this] {
+        m_isRefreshing = false;
+        if (m_wantsRefresh)
             refreshClock();
         attend();
     });
@@ -185,31 +185,31 @@ void Server::refreshClock()
 
 void Server::tellStanding()
 {
-    Json standing = _phone->standing();
-    if (standing == _told)
+    Json standing = m_phone->standing();
+    if (standing == m_told)
         return;
-    _told = std::move(standing);
-    for (const auto& browser : _browsers)
+    m_told = std::move(standing);
+    for (const auto& browser : m_browsers)
         browser->tellStanding();
 }
 
 void Server::schedule()
 {
     const auto isDue = [this](const std::shared_ptr<Browser>& browser) {
-        return browser->isReady() && (_phone->mayLookOther() || !browser->stale.isEmpty());
+        return browser->isReady() && (m_phone->mayLookOther() || !browser->stale.isEmpty());
     };
-    if (_isScheduled || std::none_of(_browsers.begin(), _browsers.end(), isDue))
+    if (m_isScheduled || std::none_of(m_browsers.begin(), m_browsers.end(), isDue))
         return;
-    _isScheduled = true;
-    _network.at(_lastDrawn + frameInterval, [this] {
-        _isScheduled = false;
+    m_isScheduled = true;
+    m_network.at(m_lastDrawn + frameInterval, [this] {
+        m_isScheduled = false;
         showScreen();
     });
 }
 
 void Server::showScreen()
 {
-    if (_phone->mayLookOther())
+    if (m_phone->mayLookOther())
         draw();
     sendFrames();
     attend();
@@ -217,31 +217,31 @@ void Server::showScreen()
 
 void Server::draw()
 {
-    _lastDrawn = Network::Clock::now();
-    _times["asked"] = now();
+    m_lastDrawn = Network::Clock::now();
+    m_times["asked"] = now();
     try {
-        const auto tiles = _phone->draw();
-        for (const auto& browser : _browsers)
+        const auto tiles = m_phone->draw();
+        for (const auto& browser : m_browsers)
             browser->stale.add(tiles);
     } catch (const ProtocolError&) {
         // It comes back, or is gone; the browsers are told. A phone that cannot be drawn is not tried all the time.
-        _lastDrawn += std::chrono::seconds(1);
+        m_lastDrawn += std::chrono::seconds(1);
     }
-    _times["drawn"] = now();
+    m_times["drawn"] = now();
 }
 
 void Server::sendFrames()
 {
     std::vector<std::pair<Tiles, std::shared_ptr<const std::string>>> made;
-    for (const auto& browser : _browsers) {
+    for (const auto& browser : m_browsers) {
         if (!browser->isReady() || browser->stale.isEmpty())
             continue;
         auto found
             = std::find_if(made.begin(), made.end(), [&](const auto& one) { return one.first == browser->stale; });
         if (found == made.end()) {
-            const auto& frame = _phone->frame();
-            const Json header{{"frame", ++_frames}, {"pixels", {frame.width(), frame.height()}},
-                {"screen", _phone->screen()}, {"secondsDrawn", _phone->secondsDrawn()}, {"times", _times}};
+            const auto& frame = m_phone->frame();
+            const Json header{{"frame", ++m_frames}, {"pixels", {frame.width(), frame.height()}},
+                {"screen", m_phone->screen()}, {"secondsDrawn", m_phone->secondsDrawn()}, {"times", m_times}};
             made.emplace_back(
                 browser->stale, std::make_shared<const std::string>(frameMessage(frame, browser->stale, header)));
             found = std::prev(made.end());
@@ -249,7 +249,7 @@ void Server::sendFrames()
         browser->send(found->second);
     }
     if (!made.empty())
-        _times = Json::object();
+        m_times = Json::object();
 }
 
 }

@@ -19,7 +19,7 @@ struct ServerOptions {
     std::function<void(const std::string& address)> ready;
 };
 
-// Until it is interrupted. Throws for a port that cannot be had or a phone that does not start.
+/// Until it is interrupted. Throws for a port that cannot be had or a phone that does not start.
 void serve(Control::Supervisor::Options, const ServerOptions&);
 
 }

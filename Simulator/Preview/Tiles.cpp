@@ -11,20 +11,20 @@ using Part = SharedFrame::Part;
 void Tiles::add(const std::vector<std::size_t>& indices)
 {
     for (const std::size_t index : indices) {
-        if (index >= _isIn.size())
-            _isIn.resize(index + 1);
-        _isIn[index] = true;
+        if (index >= m_isIn.size())
+            m_isIn.resize(index + 1);
+        m_isIn[index] = true;
     }
 }
 
 void Tiles::addAll(std::size_t count)
 {
-    _isIn.assign(count, true);
+    m_isIn.assign(count, true);
 }
 
 bool Tiles::isEmpty() const
 {
-    return std::find(_isIn.begin(), _isIn.end(), true) == _isIn.end();
+    return std::find(m_isIn.begin(), m_isIn.end(), true) == m_isIn.end();
 }
 
 std::vector<Part> Tiles::parts(const SharedFrame& frame) const

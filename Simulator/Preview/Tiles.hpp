@@ -8,19 +8,19 @@ namespace Simulator::Preview {
 class Tiles {
 public:
     void add(const std::vector<std::size_t>& indices);
-    // Every tile of a screen with so many.
+    /// Every tile of a screen with so many.
     void addAll(std::size_t count);
-    void clear() { _isIn.assign(_isIn.size(), false); }
+    void clear() { m_isIn.assign(m_isIn.size(), false); }
     bool isEmpty() const;
     bool operator==(const Tiles&) const = default;
 
-    // Disjoint: runs of tiles side by side, and equal runs below one another made one.
+    /// Disjoint: runs of tiles side by side, and equal runs below one another made one.
     std::vector<Control::SharedFrame::Part> parts(const Control::SharedFrame&) const;
 
 private:
-    bool has(std::size_t index) const { return index < _isIn.size() && _isIn[index]; }
+    bool has(std::size_t index) const { return index < m_isIn.size() && m_isIn[index]; }
 
-    std::vector<bool> _isIn;
+    std::vector<bool> m_isIn;
 };
 
 }

@@ -1,3 +1,4 @@
+// Gradient layers, drawn from edge to edge.
 #include "Simulator/QuartzCore/CAGradientLayer.hpp"
 
 #include "Platform/Foundation/NSNumber.hpp"

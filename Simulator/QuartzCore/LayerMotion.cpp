@@ -1,3 +1,4 @@
+// The curves of motions, and the difference that each part of a layer still has to go.
 #include "Simulator/QuartzCore/LayerMotion.hpp"
 
 #include <algorithm>

@@ -1,3 +1,4 @@
+// Notes how layers were before a change, and sets them moving after it.
 #include "Simulator/QuartzCore/LayerTransaction.hpp"
 
 #include "Simulator/CoreGraphics/CGColor.hpp"
@@ -30,20 +31,20 @@ LayerPose poseOf(const LayerProperties& properties)
 }
 
 LayerTransaction::LayerTransaction()
-    : outer_(std::exchange(innermost, this))
+    : m_outer(std::exchange(innermost, this))
 {
 }
 
 LayerTransaction::~LayerTransaction()
 {
-    innermost = outer_;
+    innermost = m_outer;
 }
 
 bool LayerTransaction::animate(double delay, double duration, AnimationCurve curve)
 {
     const double now = Loop::shared().uptime();
     bool anyMotion = false;
-    for (const Change& change : changes_) {
+    for (const Change& change : m_changes) {
         const LayerPose after = poseOf(*change.properties);
         if (after == change.before)
             continue;
@@ -60,8 +61,8 @@ void noteLayerChange(LayerProperties& properties, id keeper)
     if (!innermost)
         return;
     const auto isKnown = [&](const LayerTransaction::Change& change) { return change.properties == &properties; };
-    if (std::ranges::none_of(innermost->changes_, isKnown))
-        innermost->changes_.push_back({ObjC::Object(keeper), &properties, poseOf(properties)});
+    if (std::ranges::none_of(innermost->m_changes, isKnown))
+        innermost->m_changes.push_back({ObjC::Object(keeper), &properties, poseOf(properties)});
 }
 
 bool hasMotions(const LayerProperties& properties)

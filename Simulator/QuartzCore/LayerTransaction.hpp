@@ -26,8 +26,8 @@ private:
         LayerPose before;
     };
 
-    LayerTransaction* outer_;
-    std::vector<Change> changes_;
+    LayerTransaction* m_outer;
+    std::vector<Change> m_changes;
 };
 
 /// To be called before a change; `keeper` is the object whose life the properties share.

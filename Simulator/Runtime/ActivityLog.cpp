@@ -1,3 +1,4 @@
+// Keeps the newest records and counts the dropped ones.
 #include "Simulator/Runtime/ActivityLog.hpp"
 
 #include "Simulator/Base/Phone.hpp"
@@ -14,7 +15,7 @@ ActivityLog& ActivityLog::shared()
 void ActivityLog::record(const std::string& kind, Fields fields)
 {
     Fields record = Fields::object();
-    record["at"] = clock_();
+    record["at"] = m_clock();
     record["kind"] = kind;
     for (auto& [name, value] : fields.get_ref<Fields::object_t&>())
         record[name] = std::move(value);
@@ -23,31 +24,31 @@ void ActivityLog::record(const std::string& kind, Fields fields)
 
 void ActivityLog::add(Fields record)
 {
-    if (records_.size() == mostRecords) {
-        records_.pop_front();
-        ++dropped_;
+    if (m_records.size() == mostRecords) {
+        m_records.pop_front();
+        ++m_dropped;
     }
-    records_.push_back(std::move(record));
+    m_records.push_back(std::move(record));
 }
 
 ActivityLog::Fields ActivityLog::take()
 {
     Fields taken = Fields::array();
-    for (Fields& record : std::exchange(records_, {}))
+    for (Fields& record : std::exchange(m_records, {}))
         taken.push_back(std::move(record));
-    dropped_ = 0;
+    m_dropped = 0;
     return taken;
 }
 
 ActivityLog::Fields ActivityLog::handOver()
 {
-    const std::size_t dropped = dropped_;
+    const std::size_t dropped = m_dropped;
     return {{"records", take()}, {"dropped", dropped}};
 }
 
 void ActivityLog::restore(Fields handedOver)
 {
-    dropped_ = handedOver.at("dropped");
+    m_dropped = handedOver.at("dropped");
     for (Fields& record : handedOver.at("records"))
         add(std::move(record));
 }

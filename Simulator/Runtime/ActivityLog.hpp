@@ -20,13 +20,13 @@ public:
     static ActivityLog& shared();
 
     /// Tells the seconds since the phone's start on the phone's clock.
-    void setClock(std::function<double()> clock) { clock_ = std::move(clock); }
+    void setClock(std::function<double()> clock) { m_clock = std::move(clock); }
     /// Adds `{"at", "kind", …fields}`; the fields are those that the control protocol lists for the kind.
     void record(const std::string& kind, Fields fields = Fields::object());
     /// The records since the last call, in order.
     Fields take();
     /// How many older ones were forgotten since the last `take`.
-    std::size_t dropped() const { return dropped_; }
+    std::size_t dropped() const { return m_dropped; }
 
     /// Takes all there is, for a later process of the same phone, which puts it back.
     Fields handOver();
@@ -35,9 +35,9 @@ public:
 private:
     void add(Fields record);
 
-    std::function<double()> clock_ = [] { return 0.0; };
-    std::deque<Fields> records_;
-    std::size_t dropped_ = 0;
+    std::function<double()> m_clock = [] { return 0.0; };
+    std::deque<Fields> m_records;
+    std::size_t m_dropped = 0;
 };
 
 }

@@ -150,7 +150,7 @@ template <class T>
 class Binder {
 public:
     Binder(const char* name, const char* superclass)
-        : class_(StandInRegistry::shared().open(
+        : m_class(StandInRegistry::shared().open(
             name, superclass, std::is_same_v<T, typename T::Root>, [] { return std::unique_ptr<StandIn>(new T); }))
     {
     }
@@ -160,21 +160,21 @@ public:
     Binder& def()
     {
         static_assert(!ObjC::isInitializer(name.view()), "bind initializers with .init");
-        return add<name, Binding::InstanceMethod<T, member, ObjC::returnsOwned(name.view())>, member>(class_);
+        return add<name, Binding::InstanceMethod<T, member, ObjC::returnsOwned(name.view())>, member>(m_class);
     }
 
     template <ObjC::FixedString name, auto member>
     Binder& init()
     {
         static_assert(ObjC::isInitializer(name.view()), "an initializer's selector begins with init");
-        return add<name, Binding::Initializer<T, member>, member>(class_);
+        return add<name, Binding::Initializer<T, member>, member>(m_class);
     }
 
     template <ObjC::FixedString name, auto function>
     Binder& classMethod()
     {
         return add<name, Binding::ClassMethod<function, ObjC::returnsOwned(name.view())>, function>(
-            object_getClass(reinterpret_cast<id>(class_)));
+            object_getClass(reinterpret_cast<id>(m_class)));
     }
 
     /// A getter and a setter of a data member; `changed` runs after each set.
@@ -184,9 +184,9 @@ public:
         using Both = Binding::Accessors<T, member, changed>;
         using Value = typename Both::Value;
         static_assert(ObjC::argumentCount(setter.view()) == 1, "a setter takes one argument");
-        class_addMethod(class_, ObjC::selector<getter>(), reinterpret_cast<IMP>(&Both::get),
+        class_addMethod(m_class, ObjC::selector<getter>(), reinterpret_cast<IMP>(&Both::get),
             ObjC::methodEncoding<Value>.text.data());
-        class_addMethod(class_, ObjC::selector<setter>(), reinterpret_cast<IMP>(&Both::set),
+        class_addMethod(m_class, ObjC::selector<setter>(), reinterpret_cast<IMP>(&Both::set),
             ObjC::methodEncoding<void, Value>.text.data());
         return *this;
     }
@@ -196,7 +196,7 @@ public:
     Binder& readonly()
     {
         using Both = Binding::Accessors<T, member, nullptr>;
-        class_addMethod(class_, ObjC::selector<getter>(), reinterpret_cast<IMP>(&Both::get),
+        class_addMethod(m_class, ObjC::selector<getter>(), reinterpret_cast<IMP>(&Both::get),
             ObjC::methodEncoding<typename Both::Value>.text.data());
         return *this;
     }
@@ -206,16 +206,16 @@ public:
     Binder& ivar()
     {
         constexpr unsigned char alignment = sizeof(V) == 8 ? 3 : sizeof(V) == 4 ? 2 : sizeof(V) == 2 ? 1 : 0;
-        class_addIvar(class_, name.text, sizeof(V), alignment, ObjC::encodingOf<V>().data());
+        class_addIvar(m_class, name.text, sizeof(V), alignment, ObjC::encodingOf<V>().data());
         if constexpr (std::is_same_v<V, id>)
-            StandInRegistry::shared().declareOwnedIvar(class_, name.text);
+            StandInRegistry::shared().declareOwnedIvar(m_class, name.text);
         return *this;
     }
 
     Class add()
     {
-        StandInRegistry::shared().close(class_);
-        return class_;
+        StandInRegistry::shared().close(m_class);
+        return m_class;
     }
 
 private:
@@ -230,7 +230,7 @@ private:
         return *this;
     }
 
-    Class class_;
+    Class m_class;
 };
 
 /// Puts a plain function in the place of one class's method and answers what stood there.

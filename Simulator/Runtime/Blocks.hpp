@@ -23,21 +23,21 @@ public:
             return;
         const auto* bytes = static_cast<const std::byte*>(block);
         const std::size_t size = static_cast<const ObjC::BlockHeader*>(block)->descriptor->size;
-        copy_ = std::make_shared<std::vector<std::byte>>(bytes, bytes + size);
+        m_copy = std::make_shared<std::vector<std::byte>>(bytes, bytes + size);
     }
-    explicit operator bool() const { return copy_ != nullptr; }
+    explicit operator bool() const { return m_copy != nullptr; }
 
     void operator()(Arguments... arguments) const
     {
-        if (!copy_)
+        if (!m_copy)
             return;
-        void* block = copy_->data();
+        void* block = m_copy->data();
         reinterpret_cast<void (*)(void*, ObjC::WireType<Arguments>...)>(static_cast<ObjC::BlockHeader*>(block)->invoke)(
             block, ObjC::toWire(arguments)...);
     }
 
 private:
-    std::shared_ptr<std::vector<std::byte>> copy_;
+    std::shared_ptr<std::vector<std::byte>> m_copy;
 };
 
 }

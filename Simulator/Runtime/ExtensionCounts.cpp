@@ -1,3 +1,4 @@
+// Adds up what the extension asks for, and leaves out what the phone does for itself.
 #include "Simulator/Runtime/ExtensionCounts.hpp"
 
 #include "Simulator/Base/Phone.hpp"
@@ -6,7 +7,7 @@
 
 namespace Simulator {
 
-// In the order of the enumeration.
+/// In the order of the enumeration.
 static constexpr const char* names[]
     = {"fontRegistrations", "fileOpens", "calendarStores", "calendarQueries", "weatherRequests", "alarmReads"};
 
@@ -17,8 +18,8 @@ ExtensionCounts& ExtensionCounts::shared()
 
 void ExtensionCounts::add(Count count, std::uint64_t amount)
 {
-    if (ownWork_ == 0)
-        counts_[static_cast<std::size_t>(count)] += amount;
+    if (m_ownWork == 0)
+        m_counts[static_cast<std::size_t>(count)] += amount;
 }
 
 ExtensionCounts::Json ExtensionCounts::take()
@@ -26,18 +27,18 @@ ExtensionCounts::Json ExtensionCounts::take()
     static_assert(std::size(names) == countOfCounts, "every count has a name");
     Json taken = Json::object();
     for (std::size_t i = 0; i < countOfCounts; ++i)
-        taken[names[i]] = std::exchange(counts_[i], 0);
+        taken[names[i]] = std::exchange(m_counts[i], 0);
     return taken;
 }
 
 OwnWork::OwnWork()
 {
-    ++ExtensionCounts::shared().ownWork_;
+    ++ExtensionCounts::shared().m_ownWork;
 }
 
 OwnWork::~OwnWork()
 {
-    --ExtensionCounts::shared().ownWork_;
+    --ExtensionCounts::shared().m_ownWork;
 }
 
 }

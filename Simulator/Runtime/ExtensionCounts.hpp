@@ -10,7 +10,7 @@
 namespace Simulator {
 
 /// Each has its name in the table of names.
-enum class Count { FontRegistrations, FileOpens, CalendarStores, CalendarQueries, WeatherRequests, AlarmReads };
+enum class Count { fontRegistrations, fileOpens, calendarStores, calendarQueries, weatherRequests, alarmReads };
 
 class ExtensionCounts {
 public:
@@ -24,10 +24,10 @@ public:
 
 private:
     friend class OwnWork;
-    static constexpr std::size_t countOfCounts = static_cast<std::size_t>(Count::AlarmReads) + 1;
+    static constexpr std::size_t countOfCounts = static_cast<std::size_t>(Count::alarmReads) + 1;
 
-    std::array<std::uint64_t, countOfCounts> counts_{};
-    int ownWork_ = 0;
+    std::array<std::uint64_t, countOfCounts> m_counts{};
+    int m_ownWork = 0;
 };
 
 /// While one of these stands, the shell or one of its libraries works on its own account, and nothing is counted.

@@ -1,23 +1,24 @@
+// Reads and changes a class's own methods by the runtime's functions.
 #include "Simulator/Runtime/MethodTable.hpp"
 
 #include <cstdlib>
 
-// Renews the copies of inherited methods that the runtime keeps for the class and those derived from it. The runtime
-// calls it when a method is added, and exports it without declaring it.
+/// Renews the copies of inherited methods that the runtime keeps for the class and those derived from it. The runtime
+/// calls it when a method is added, and exports it without declaring it.
 extern "C" void __objc_update_dispatch_table_for_class(Class type);
 
 namespace Simulator {
 
 namespace {
 
-// A method as compilers lay it out for this runtime.
+/// A method as compilers lay it out for this runtime.
 struct MethodRecord {
     SEL selector;
     const char* types;
     IMP implementation;
 };
 
-// The runtime's own way looks the method up in every class there is.
+/// The runtime's own way looks the method up in every class there is.
 void setImplementation(Class type, Method method, IMP implementation)
 {
     auto* record = reinterpret_cast<MethodRecord*>(method);

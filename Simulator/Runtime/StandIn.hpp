@@ -16,26 +16,26 @@ public:
     virtual ~StandIn() = default;
 
     /// The Objective-C object itself, not retained.
-    id object() const { return object_; }
+    id object() const { return m_object; }
     /// The object as a facade, to send it messages as the framework would send them to itself.
     template <class T = ObjC::Object>
     T self() const
     {
-        return T(object_);
+        return T(m_object);
     }
     /// The name of the object's class, which may be one derived from the stand-in's.
-    std::string className() const { return class_getName(object_getClass(object_)); }
+    std::string className() const { return class_getName(object_getClass(m_object)); }
 
     /// The object in an instance variable that the registration declared with `.ivar`.
     template <class T = ObjC::Object>
     T ivar(const char* name) const
     {
-        return T(ObjC::InstanceVariable<id>(object_, name).get());
+        return T(ObjC::InstanceVariable<id>(m_object, name).get());
     }
     /// Stores an object in such a variable: retains the new one, releases the old one.
     void setIvar(const char* name, const ObjC::Object& value) const
     {
-        ObjC::InstanceVariable<id> variable(object_, name);
+        ObjC::InstanceVariable<id> variable(m_object, name);
         id previous = variable.get();
         variable.set(ObjC::retain(value.raw()));
         ObjC::release(previous);
@@ -43,7 +43,7 @@ public:
 
 private:
     friend class StandInRegistry;
-    id object_ = nullptr;
+    id m_object = nullptr;
 };
 
 }

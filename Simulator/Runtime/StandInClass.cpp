@@ -10,15 +10,15 @@
 
 namespace Simulator {
 
-// Set before any constructor runs, so that it does not matter which source's rows are made first.
+/// Set before any constructor runs, so that it does not matter which source's rows are made first.
 static constinit const StandInRow* lastRow = nullptr;
 
 StandInRow::StandInRow(const char* name, const char* superclass, Add add, Condition condition)
-    : name_(name)
-    , superclass_(superclass)
-    , add_(add)
-    , condition_(condition)
-    , next_(std::exchange(lastRow, this))
+    : m_name(name)
+    , m_superclass(superclass)
+    , m_add(add)
+    , m_condition(condition)
+    , m_next(std::exchange(lastRow, this))
 {
 }
 
@@ -26,12 +26,12 @@ class StandInRows {
 public:
     void add()
     {
-        for (const StandInRow* row = lastRow; row; row = row->next_)
-            rows_.push_back(row);
+        for (const StandInRow* row = lastRow; row; row = row->m_next)
+            m_rows.push_back(row);
         // By name, since the linker decides in which order they come.
-        std::ranges::sort(rows_, {}, [](const StandInRow* row) { return std::string_view(row->name_); });
-        std::ranges::stable_partition(rows_, [](const StandInRow* row) { return !row->superclass_; });
-        for (const StandInRow* row : rows_)
+        std::ranges::sort(m_rows, {}, [](const StandInRow* row) { return std::string_view(row->m_name); });
+        std::ranges::stable_partition(m_rows, [](const StandInRow* row) { return !row->m_superclass; });
+        for (const StandInRow* row : m_rows)
             add(row);
     }
 
@@ -39,19 +39,19 @@ private:
     void add(const StandInRow* row)
     {
         static std::set<const StandInRow*> added;
-        if ((row->condition_ && !row->condition_()) || !added.insert(row).second)
+        if ((row->m_condition && !row->m_condition()) || !added.insert(row).second)
             return;
-        if (row->superclass_) {
+        if (row->m_superclass) {
             const auto isSuperclass
-                = [row](const StandInRow* other) { return std::string_view(other->name_) == row->superclass_; };
-            const auto superclass = std::ranges::find_if(rows_, isSuperclass);
-            if (superclass != rows_.end())
+                = [row](const StandInRow* other) { return std::string_view(other->m_name) == row->m_superclass; };
+            const auto superclass = std::ranges::find_if(m_rows, isSuperclass);
+            if (superclass != m_rows.end())
                 add(*superclass);
         }
-        row->add_(row->name_, row->superclass_);
+        row->m_add(row->m_name, row->m_superclass);
     }
 
-    std::vector<const StandInRow*> rows_;
+    std::vector<const StandInRow*> m_rows;
 };
 
 static const Phone::AtStart registersClasses([](Phone& phone) {

@@ -30,11 +30,11 @@ protected:
 private:
     friend class StandInRows;
 
-    const char* const name_;
-    const char* const superclass_;
-    const Add add_;
-    const Condition condition_;
-    const StandInRow* const next_;
+    const char* const m_name;
+    const char* const m_superclass;
+    const Add m_add;
+    const Condition m_condition;
+    const StandInRow* const m_next;
 };
 
 class StandInClass : StandInRow {

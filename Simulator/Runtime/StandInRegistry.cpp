@@ -58,13 +58,13 @@ Class StandInRegistry::open(const char* name, const char* superclass, bool isRoo
             reinterpret_cast<IMP>(&allocate), "@@:^v");
         class_addMethod(type, sel_registerName("dealloc"), reinterpret_cast<IMP>(&deallocate), "v@:");
     }
-    entries_[type] = {factory, {}};
+    m_entries[type] = {factory, {}};
     return type;
 }
 
 void StandInRegistry::declareOwnedIvar(Class type, const char* name)
 {
-    entries_[type].ownedIvars.push_back(name);
+    m_entries[type].ownedIvars.push_back(name);
 }
 
 void StandInRegistry::close(Class type)
@@ -79,8 +79,8 @@ StandInRegistry::Kind StandInRegistry::kindOf(Class type) const
     Ivar slot = class_getInstanceVariable(type, standInVariable);
     kind.slot = slot ? ivar_getOffset(slot) : 0;
     for (; type; type = class_getSuperclass(type)) {
-        auto found = entries_.find(type);
-        if (found == entries_.end())
+        auto found = m_entries.find(type);
+        if (found == m_entries.end())
             continue;
         if (!kind.factory)
             kind.factory = found->second.factory;
@@ -100,7 +100,7 @@ StandInRegistry::Kind& StandInRegistry::kind(Class type)
     Recent& place = recent[(reinterpret_cast<std::uintptr_t>(type) >> 5) % recent.size()];
     if (place.type != type) {
         StandInRegistry& registry = shared();
-        auto& known = registry.kinds_[type];
+        auto& known = registry.m_kinds[type];
         if (!known)
             known = std::make_unique<Kind>(registry.kindOf(type));
         place = {type, known.get()};
@@ -113,7 +113,7 @@ id StandInRegistry::allocate(Class type, SEL, void* zone)
     Kind& kind = StandInRegistry::kind(type);
     id object = NSAllocateObject(type, 0, zone);
     std::unique_ptr<StandIn> standIn = kind.factory();
-    standIn->object_ = object;
+    standIn->m_object = object;
     kind.standInOf(object) = standIn.release();
     ++kind.liveCount;
     return object;
@@ -132,7 +132,7 @@ void StandInRegistry::deallocate(id object, SEL)
 long StandInRegistry::liveCount(const std::string& className) const
 {
     long total = 0;
-    for (const auto& [type, kind] : kinds_)
+    for (const auto& [type, kind] : m_kinds)
         total += kind->name == className ? kind->liveCount : 0;
     return total;
 }
@@ -140,7 +140,7 @@ long StandInRegistry::liveCount(const std::string& className) const
 long StandInRegistry::liveCount() const
 {
     long total = 0;
-    for (const auto& [type, kind] : kinds_)
+    for (const auto& [type, kind] : m_kinds)
         total += kind->liveCount;
     return total;
 }

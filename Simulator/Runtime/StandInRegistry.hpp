@@ -45,8 +45,8 @@ private:
     static Kind& kind(Class type);
     Kind kindOf(Class type) const;
 
-    std::map<Class, Entry> entries_;
-    std::unordered_map<Class, std::unique_ptr<Kind>> kinds_;
+    std::map<Class, Entry> m_entries;
+    std::unordered_map<Class, std::unique_ptr<Kind>> m_kinds;
 };
 
 }

@@ -46,7 +46,7 @@ void later(void (Shell::*action)())
             if (Shell* shell = Shell::current())
                 (shell->*action)();
         },
-        WorkKind::MainQueue);
+        WorkKind::mainQueue);
 }
 
 struct UIApplication : UIResponder {
@@ -64,7 +64,7 @@ struct UIApplication : UIResponder {
         ActivityLog::shared().record("openURL", {{"url", address}, {"opened", !app.empty()}});
         Loop::shared().schedule(
             0, [opened = !app.empty(), block = KeptBlock<void(bool)>(completion)] { block(opened); },
-            WorkKind::MainQueue);
+            WorkKind::mainQueue);
         if (app.empty())
             return;
         Loop::shared().schedule(
@@ -73,7 +73,7 @@ struct UIApplication : UIResponder {
                 if (Shell* shell = Shell::current())
                     shell->openApp(app);
             },
-            WorkKind::MainQueue);
+            WorkKind::mainQueue);
     }
 
     void didReceiveMemoryWarning() { }

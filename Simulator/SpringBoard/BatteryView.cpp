@@ -1,3 +1,4 @@
+// The battery's outline, its fill and the colour that goes with its state.
 #include "Simulator/SpringBoard/BatteryView.hpp"
 
 #include "Simulator/Device/DeviceState.hpp"
@@ -18,12 +19,12 @@ constexpr double terminalShare = 0.08;
 void _UIBatteryView::initWithFrame(CGRect frame)
 {
     UIView::initWithFrame(frame);
-    body = makeView("UIView");
-    fill = makeView("UIView");
-    terminal = makePlate({}, whiteWithAlpha(0.5), 1);
-    for (const UI::View& part : {body, fill, terminal})
+    m_body = makeView("UIView");
+    m_fill = makeView("UIView");
+    m_terminal = makePlate({}, whiteWithAlpha(0.5), 1);
+    for (const UI::View& part : {m_body, m_fill, m_terminal})
         addSubview(part);
-    body.layer().setBorderColor(whiteWithAlpha(0.5).CGColor());
+    m_body.layer().setBorderColor(whiteWithAlpha(0.5).CGColor());
 }
 
 void _UIBatteryView::layoutSubviews()
@@ -32,14 +33,14 @@ void _UIBatteryView::layoutSubviews()
     const double cap = size.width * terminalShare;
     const double line = std::max(1.0, size.height / 12);
     const CGRect shell = CGRectMake(0, 0, size.width - cap, size.height);
-    body.setFrame(shell);
-    body.layer().setBorderWidth(line);
-    body.layer().setCornerRadius(size.height * 0.3);
+    m_body.setFrame(shell);
+    m_body.layer().setBorderWidth(line);
+    m_body.layer().setCornerRadius(size.height * 0.3);
     const double room = std::max(0.0, shell.size.width - 4 * line);
-    fill.setFrame(CGRectMake(2 * line, 2 * line, room * chargePercent, std::max(0.0, size.height - 4 * line)));
-    fill.layer().setCornerRadius(size.height * 0.15);
-    fill.setBackgroundColor(fillColour());
-    terminal.setFrame(CGRectMake(size.width - cap + 1, size.height / 3, std::max(0.0, cap - 1), size.height / 3));
+    m_fill.setFrame(CGRectMake(2 * line, 2 * line, room * chargePercent, std::max(0.0, size.height - 4 * line)));
+    m_fill.layer().setCornerRadius(size.height * 0.15);
+    m_fill.setBackgroundColor(fillColour());
+    m_terminal.setFrame(CGRectMake(size.width - cap + 1, size.height / 3, std::max(0.0, cap - 1), size.height / 3));
 }
 
 UI::Color _UIBatteryView::fillColour() const
@@ -74,7 +75,7 @@ void showDeviceBattery(const UI::View& batteryView)
     const Battery& battery = DeviceState::shared().battery;
     batteryView.send<void, "setChargePercent:">(battery.level);
     batteryView.send<void, "setCharging:">(
-        battery.state == BatteryState::Charging || battery.state == BatteryState::Full);
+        battery.state == BatteryState::charging || battery.state == BatteryState::full);
 }
 
 static const StandInClass uiBatteryView("_UIBatteryView", "UIView", [](Binder<_UIBatteryView>& binder) {

@@ -19,9 +19,9 @@ struct _UIBatteryView : UIView {
 private:
     UI::Color fillColour() const;
 
-    UI::View body;
-    UI::View fill;
-    UI::View terminal;
+    UI::View m_body;
+    UI::View m_fill;
+    UI::View m_terminal;
 };
 
 /// Tells a battery view the level and state of the device's battery.

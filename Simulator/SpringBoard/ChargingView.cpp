@@ -1,3 +1,4 @@
+// The charging view's battery and its caption.
 #include "Simulator/SpringBoard/ChargingView.hpp"
 
 #include "Simulator/Device/DeviceState.hpp"
@@ -19,33 +20,33 @@ constexpr CGSize batterySize{110, 50};
 void CSBatteryChargingView::initWithFrame(CGRect frame)
 {
     UIView::initWithFrame(frame);
-    battery = makeView("_UIBatteryView", {}, "stock.charging.battery");
-    label = makeLabel("", 17, FontWeight::regular, UI::Color::whiteColor());
-    label.setTextAlignment(UI::TextAlignment::center);
-    label.setAccessibilityIdentifier("stock.charging.label"_ns);
-    addSubview(battery);
-    addSubview(label);
+    m_battery = makeView("_UIBatteryView", {}, "stock.charging.battery");
+    m_label = makeLabel("", 17, FontWeight::regular, UI::Color::whiteColor());
+    m_label.setTextAlignment(UI::TextAlignment::center);
+    m_label.setAccessibilityIdentifier("stock.charging.label"_ns);
+    addSubview(m_battery);
+    addSubview(m_label);
 }
 
 void CSBatteryChargingView::layoutSubviews()
 {
     const double width = bounds().size.width;
-    battery.setFrame(CGRectMake((width - batterySize.width) / 2, 0, batterySize.width, batterySize.height));
-    label.setFrame(CGRectMake(0, batterySize.height + 12, width, 24));
+    m_battery.setFrame(CGRectMake((width - batterySize.width) / 2, 0, batterySize.width, batterySize.height));
+    m_label.setFrame(CGRectMake(0, batterySize.height + 12, width, 24));
 }
 
 void CSBatteryChargingView::setBatteryVisible(bool visible)
 {
-    battery.setHidden(!visible);
+    m_battery.setHidden(!visible);
 }
 
 void CSBatteryChargingView::update()
 {
-    showDeviceBattery(battery);
-    battery.send<void, "setSaverModeActive:">(DeviceState::shared().battery.lowPower);
+    showDeviceBattery(m_battery);
+    m_battery.send<void, "setSaverModeActive:">(DeviceState::shared().battery.lowPower);
     const double level = DeviceState::shared().battery.level;
     const long percent = std::isfinite(level) ? std::lround(std::clamp(level, 0.0, 1.0) * 100) : 0;
-    label.setText(NS::String::fromUTF8(std::to_string(percent) + "% Charged"));
+    m_label.setText(NS::String::fromUTF8(std::to_string(percent) + "% Charged"));
 }
 
 static const StandInClass csBatteryChargingView(

@@ -14,8 +14,8 @@ struct CSBatteryChargingView : UIView {
     void update();
 
 private:
-    UI::View battery;
-    UI::Label label;
+    UI::View m_battery;
+    UI::Label m_label;
 };
 
 }

@@ -1,3 +1,4 @@
+// How the cover sheet is built, laid out and charged.
 #include "Simulator/SpringBoard/CoverSheet.hpp"
 
 #include "Platform/SpringBoard/CSCoverSheetViewController.hpp"
@@ -33,9 +34,9 @@ void CSCoverSheetViewController::loadView()
 void CSCoverSheetViewController::viewDidLoad()
 {
     const UI::View view = self<UI::ViewController>().view();
-    padlock = makeSymbol("lock.fill", {}, UI::Color::whiteColor());
-    padlock.setAccessibilityIdentifier("stock.padlock"_ns);
-    view.addSubview(padlock);
+    m_padlock = makeSymbol("lock.fill", {}, UI::Color::whiteColor());
+    m_padlock.setAccessibilityIdentifier("stock.padlock"_ns);
+    view.addSubview(m_padlock);
     dateViewController = makeController("SBFLockScreenDateViewController");
     combinedListController = makeController("CSCombinedListViewController");
     quickActionsController = makeController("CSQuickActionsViewController");
@@ -44,8 +45,8 @@ void CSCoverSheetViewController::viewDidLoad()
         {combinedListController, dateViewController, quickActionsController, teachableMomentsController})
         addChild(child);
     if (objc_getClass("AXNView")) {
-        axon = makeView("AXNView", {}, "stock.axon");
-        view.addSubview(axon);
+        m_axon = makeView("AXNView", {}, "stock.axon");
+        view.addSubview(m_axon);
     }
     self().send<UI::View, "dateView">();
 }
@@ -66,15 +67,15 @@ UI::View CSCoverSheetViewController::dateView()
 void CSCoverSheetViewController::viewDidLayoutSubviews()
 {
     const ScreenLayout layout = ScreenLayout::current();
-    padlock.setFrame(layout.padlock());
+    m_padlock.setFrame(layout.padlock());
     // Whoever scales the clock does not change its place.
     placeUntransformed(self().send<UI::View, "dateView">(), layout.dateView());
     combinedListController.view().setFrame(layout.notificationList());
     quickActionsController.view().setFrame(layout.quickActions());
     teachableMomentsController.view().setFrame(layout.hint());
     const CGRect list = layout.notificationList();
-    axon.setFrame(CGRectMake(list.origin.x, list.origin.y, list.size.width, axonHeight));
-    chargingView.setFrame(centred({layout.size.width, chargingViewHeight}, layout.bounds()));
+    m_axon.setFrame(CGRectMake(list.origin.x, list.origin.y, list.size.width, axonHeight));
+    m_chargingView.setFrame(centred({layout.size.width, chargingViewHeight}, layout.bounds()));
 }
 
 void CSCoverSheetViewController::transitionChargingView(bool visible, bool showsBattery, bool)
@@ -83,31 +84,31 @@ void CSCoverSheetViewController::transitionChargingView(bool visible, bool shows
     if (!visible)
         return;
     const UI::View view = self<UI::ViewController>().view();
-    chargingView = makeView("CSBatteryChargingView", {}, "stock.charging");
-    standIn<CSBatteryChargingView>(chargingView.raw()).update();
-    chargingView.send<void, "setBatteryVisible:">(showsBattery);
-    view.addSubview(chargingView);
+    m_chargingView = makeView("CSBatteryChargingView", {}, "stock.charging");
+    standIn<CSBatteryChargingView>(m_chargingView.raw()).update();
+    m_chargingView.send<void, "setBatteryVisible:">(showsBattery);
+    view.addSubview(m_chargingView);
     view.setNeedsLayout();
     combinedListController.view().setAlpha(0);
-    Loop::shared().schedule(chargingSeconds, [controller = self(), shown = chargingView] {
+    Loop::shared().schedule(chargingSeconds, [controller = self(), shown = m_chargingView] {
         // A later one has a time of its own.
-        if (standIn<CSCoverSheetViewController>(controller.raw()).chargingView == shown)
+        if (standIn<CSCoverSheetViewController>(controller.raw()).m_chargingView == shown)
             controller.send<void, "_transitionChargingViewToVisible:showBattery:animated:">(false, false, true);
     });
 }
 
 void CSCoverSheetViewController::hideChargingView()
 {
-    chargingView.removeFromSuperview();
-    chargingView = {};
+    m_chargingView.removeFromSuperview();
+    m_chargingView = {};
     combinedListController.view().setAlpha(1);
 }
 
 UI::ViewController SBCoverSheetPresentationManager::coverSheetViewController()
 {
-    if (!coverSheet)
-        coverSheet = makeController("CSCoverSheetViewController");
-    return coverSheet;
+    if (!m_coverSheet)
+        m_coverSheet = makeController("CSCoverSheetViewController");
+    return m_coverSheet;
 }
 
 static const StandInClass csCoverSheetViewController(

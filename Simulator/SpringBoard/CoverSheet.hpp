@@ -26,9 +26,9 @@ private:
     void addChild(const UI::ViewController& child);
     void hideChargingView();
 
-    UI::View padlock;
-    UI::View axon;
-    UI::View chargingView;
+    UI::View m_padlock;
+    UI::View m_axon;
+    UI::View m_chargingView;
 };
 
 struct SBCoverSheetPresentationManager : StandIn {
@@ -36,10 +36,10 @@ struct SBCoverSheetPresentationManager : StandIn {
 
     /// Made when first asked for; a new one once the last was dropped.
     UI::ViewController coverSheetViewController();
-    void dropCoverSheet() { coverSheet = {}; }
+    void dropCoverSheet() { m_coverSheet = {}; }
 
 private:
-    UI::ViewController coverSheet;
+    UI::ViewController m_coverSheet;
 };
 
 }

@@ -1,3 +1,4 @@
+// The date view's labels and subtitles: how they are made, set and laid out.
 #include "Simulator/SpringBoard/DateView.hpp"
 
 #include "Simulator/Runtime/StandInClass.hpp"
@@ -107,15 +108,15 @@ void SBFLockScreenDateView::setDate(const NS::Date& moment)
 void SBFLockScreenDateView::updateLabels()
 {
     ivar<SB::UILegibilityLabel>("_timeLabel").setString(stockTimeText(date));
-    const NS::String subtitle = customSubtitle ? NS::String::fromUTF8(*customSubtitle) : stockDateText(date);
+    const NS::String subtitle = m_customSubtitle ? NS::String::fromUTF8(*m_customSubtitle) : stockDateText(date);
     if (!subtitleView.send<NS::String, "string">().isEqualToString(subtitle))
         subtitleView.send<void, "setString:">(subtitle);
 }
 
 void SBFLockScreenDateView::setCustomSubtitle(std::optional<std::string> text)
 {
-    customSubtitle = std::move(text);
-    const NS::String subtitle = customSubtitle ? NS::String::fromUTF8(*customSubtitle) : stockDateText(date);
+    m_customSubtitle = std::move(text);
+    const NS::String subtitle = m_customSubtitle ? NS::String::fromUTF8(*m_customSubtitle) : stockDateText(date);
     subtitleView.send<void, "setString:">(subtitle);
 }
 

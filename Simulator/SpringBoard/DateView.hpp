@@ -48,7 +48,7 @@ struct SBFLockScreenDateView : UIView {
     NS::Date date;
 
 private:
-    std::optional<std::string> customSubtitle;
+    std::optional<std::string> m_customSubtitle;
 };
 
 }

@@ -52,11 +52,11 @@ struct SBHomeScreenViewController : UIViewController {
     void viewDidLoad()
     {
         const UI::View view = self<UI::ViewController>().view();
-        dock = makePane(BlurStyle::light, 28);
-        view.addSubview(dock);
+        m_dock = makePane(BlurStyle::light, 28);
+        view.addSubview(m_dock);
         for (const AppIcon& app : appIcons) {
-            icons.push_back(makeIcon(app));
-            view.addSubview(icons.back());
+            m_icons.push_back(makeIcon(app));
+            view.addSubview(m_icons.back());
         }
     }
 
@@ -66,19 +66,19 @@ struct SBHomeScreenViewController : UIViewController {
         const ScreenLayout layout = ScreenLayout::current();
         const double columnWidth = layout.size.width / columns;
         const double dockTop = layout.size.height - rowHeight - (layout.hasHomeIndicator ? 20 : 4);
-        dock.setFrame(CGRectMake(10, dockTop, layout.size.width - 20, rowHeight));
-        for (std::size_t index = 0; index < icons.size(); ++index) {
+        m_dock.setFrame(CGRectMake(10, dockTop, layout.size.width - 20, rowHeight));
+        for (std::size_t index = 0; index < m_icons.size(); ++index) {
             const long row = static_cast<long>(index) / columns;
             const long column = static_cast<long>(index) % columns;
             const double top = row < rows ? layout.statusBar().size.height + 24 + row * rowHeight : dockTop;
-            icons[index].setFrame(
+            m_icons[index].setFrame(
                 centred({iconSize, iconSize}, CGRectMake(column * columnWidth, top, columnWidth, rowHeight)));
         }
     }
 
 private:
-    UI::View dock;
-    std::vector<UI::View> icons;
+    UI::View m_dock;
+    std::vector<UI::View> m_icons;
 };
 
 }

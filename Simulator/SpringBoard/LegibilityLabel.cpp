@@ -1,3 +1,4 @@
+// A legibility label is a white one here.
 #include "Simulator/SpringBoard/LegibilityLabel.hpp"
 
 #include "Simulator/Runtime/StandInClass.hpp"

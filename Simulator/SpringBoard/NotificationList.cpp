@@ -1,3 +1,4 @@
+// The list's rows, header and hint, and the inset that makes room for the clock.
 #include "Simulator/SpringBoard/NotificationList.hpp"
 
 #include "Simulator/Runtime/StandInClass.hpp"
@@ -38,32 +39,32 @@ void NCNotificationListView::layoutSubviews()
 
 void NCNotificationStructuredListViewController::viewDidLoad()
 {
-    list = makeView("NCNotificationListView", {}, "stock.notificationList");
-    self<UI::ViewController>().view().addSubview(list);
-    auto& rows = standIn<NCNotificationListView>(list.raw()).rows;
+    m_list = makeView("NCNotificationListView", {}, "stock.notificationList");
+    self<UI::ViewController>().view().addSubview(m_list);
+    auto& rows = standIn<NCNotificationListView>(m_list.raw()).rows;
     for (const Notification& notification : notifications) {
         const UI::View platter = makeView("NCNotificationShortLookView", {}, "stock.notification");
         standIn<NCNotificationShortLookView>(platter.raw()).show(notification);
         rows.push_back({platter, NCNotificationShortLookView::height});
     }
-    header = makeView("NCNotificationListSectionHeaderView", {}, "stock.notificationHeader");
-    hint = makeView("NCNotificationListSectionRevealHintView", {}, "stock.revealHint");
-    rows.push_back({header, NCNotificationListSectionHeaderView::height});
-    rows.push_back({hint, NCNotificationListSectionRevealHintView::height});
+    m_header = makeView("NCNotificationListSectionHeaderView", {}, "stock.notificationHeader");
+    m_hint = makeView("NCNotificationListSectionRevealHintView", {}, "stock.revealHint");
+    rows.push_back({m_header, NCNotificationListSectionHeaderView::height});
+    rows.push_back({m_hint, NCNotificationListSectionRevealHintView::height});
     for (const auto& row : rows)
-        list.addSubview(row.view);
+        m_list.addSubview(row.view);
     setHistoryRevealed(false);
 }
 
 void NCNotificationStructuredListViewController::viewDidLayoutSubviews()
 {
-    list.setFrame(self<UI::ViewController>().view().bounds());
+    m_list.setFrame(self<UI::ViewController>().view().bounds());
 }
 
 void NCNotificationStructuredListViewController::setHistoryRevealed(bool revealed)
 {
-    header.setAlpha(revealed);
-    hint.setAlpha(revealed);
+    m_header.setAlpha(revealed);
+    m_hint.setAlpha(revealed);
 }
 
 void CSCombinedListViewController::viewDidLoad()

@@ -24,14 +24,14 @@ struct NCNotificationListView : UIView {
 struct NCNotificationStructuredListViewController : UIViewController {
     void viewDidLoad();
     void viewDidLayoutSubviews();
-    UI::View scrollView() const { return list; }
+    UI::View scrollView() const { return m_list; }
     /// Older notifications show when the cover sheet is pulled down over the home screen.
     void setHistoryRevealed(bool revealed);
 
 private:
-    UI::View list;
-    UI::View header;
-    UI::View hint;
+    UI::View m_list;
+    UI::View m_header;
+    UI::View m_hint;
 };
 
 struct CSCombinedListViewController : UIViewController {

@@ -1,3 +1,4 @@
+// The platter's pane and texts.
 #include "Simulator/SpringBoard/NotificationPlatter.hpp"
 
 #include "Simulator/Runtime/StandInClass.hpp"
@@ -28,24 +29,24 @@ UI::Label faded(UI::Label label)
 void NCNotificationShortLookView::initWithFrame(CGRect frame)
 {
     UIView::initWithFrame(frame);
-    pane = makePane(BlurStyle::systemMaterial, cornerRadius);
-    addSubview(pane);
+    m_pane = makePane(BlurStyle::systemMaterial, cornerRadius);
+    addSubview(m_pane);
 }
 
 void NCNotificationShortLookView::show(const Notification& notification)
 {
     const UI::Color ink = labelColour();
-    icon = makePlate(
+    m_icon = makePlate(
         {}, UI::Color::colorWithRed(notification.red, notification.green, notification.blue, 1), iconRadius);
-    glyph = makeSymbol(notification.symbol, {}, UI::Color::whiteColor());
-    app = faded(makeLabel(notification.app, headerFontSize, FontWeight::regular, ink));
+    m_glyph = makeSymbol(notification.symbol, {}, UI::Color::whiteColor());
+    m_app = faded(makeLabel(notification.app, headerFontSize, FontWeight::regular, ink));
     const UI::Label now = faded(makeLabel("now", headerFontSize, FontWeight::regular, ink));
     now.setTextAlignment(UI::TextAlignment::right);
-    time = now;
-    title = makeLabel(notification.title, 15, FontWeight::semibold, ink);
-    text = makeLabel(notification.text, 15, FontWeight::regular, ink);
-    for (const UI::View& part : {icon, glyph, app, time, title, text})
-        contentOfPane(pane).addSubview(part);
+    m_time = now;
+    m_title = makeLabel(notification.title, 15, FontWeight::semibold, ink);
+    m_text = makeLabel(notification.text, 15, FontWeight::regular, ink);
+    for (const UI::View& part : {m_icon, m_glyph, m_app, m_time, m_title, m_text})
+        contentOfPane(m_pane).addSubview(part);
     setNeedsLayout();
 }
 
@@ -53,13 +54,13 @@ void NCNotificationShortLookView::layoutSubviews()
 {
     const double width = bounds().size.width;
     const double textWidth = std::max(0.0, width - 2 * margin);
-    pane.setFrame(bounds());
-    icon.setFrame(CGRectMake(margin, 9, iconSize, iconSize));
-    glyph.setFrame(centred({glyphSize, glyphSize}, icon.frame()));
-    app.setFrame(CGRectMake(margin + iconSize + 7, 9, std::max(0.0, textWidth - iconSize - 7 - timeWidth), iconSize));
-    time.setFrame(CGRectMake(width - margin - timeWidth, 9, timeWidth, iconSize));
-    title.setFrame(CGRectMake(margin, 33, textWidth, 19));
-    text.setFrame(CGRectMake(margin, 51, textWidth, 19));
+    m_pane.setFrame(bounds());
+    m_icon.setFrame(CGRectMake(margin, 9, iconSize, iconSize));
+    m_glyph.setFrame(centred({glyphSize, glyphSize}, m_icon.frame()));
+    m_app.setFrame(CGRectMake(margin + iconSize + 7, 9, std::max(0.0, textWidth - iconSize - 7 - timeWidth), iconSize));
+    m_time.setFrame(CGRectMake(width - margin - timeWidth, 9, timeWidth, iconSize));
+    m_title.setFrame(CGRectMake(margin, 33, textWidth, 19));
+    m_text.setFrame(CGRectMake(margin, 51, textWidth, 19));
 }
 
 static const StandInClass ncNotificationShortLookView(

@@ -24,13 +24,13 @@ struct NCNotificationShortLookView : UIView {
     void show(const Notification& notification);
 
 private:
-    UI::View pane;
-    UI::View icon;
-    UI::View glyph;
-    UI::View app;
-    UI::View time;
-    UI::View title;
-    UI::View text;
+    UI::View m_pane;
+    UI::View m_icon;
+    UI::View m_glyph;
+    UI::View m_app;
+    UI::View m_time;
+    UI::View m_title;
+    UI::View m_text;
 };
 
 }

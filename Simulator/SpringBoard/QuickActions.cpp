@@ -16,22 +16,22 @@ constexpr double bottomMargin = 50;
 struct CSQuickActionsButton : UIView {
     void layoutSubviews()
     {
-        pane.setFrame(bounds());
-        glyph.setFrame(centred({glyphSize, glyphSize}, bounds()));
+        m_pane.setFrame(bounds());
+        m_glyph.setFrame(centred({glyphSize, glyphSize}, bounds()));
     }
 
     void showSymbol(const char* symbol)
     {
-        pane = makePane(BlurStyle::dark, buttonSize / 2);
-        pane.setAlpha(0.8);
-        glyph = makeSymbol(symbol, {}, UI::Color::whiteColor());
-        addSubview(pane);
-        addSubview(glyph);
+        m_pane = makePane(BlurStyle::dark, buttonSize / 2);
+        m_pane.setAlpha(0.8);
+        m_glyph = makeSymbol(symbol, {}, UI::Color::whiteColor());
+        addSubview(m_pane);
+        addSubview(m_glyph);
     }
 
 private:
-    UI::View pane;
-    UI::View glyph;
+    UI::View m_pane;
+    UI::View m_glyph;
 };
 
 UI::View makeButton(const char* symbol, const char* identifier)
@@ -44,11 +44,11 @@ UI::View makeButton(const char* symbol, const char* identifier)
 struct CSQuickActionsViewController : UIViewController {
     void viewDidLoad()
     {
-        flashlight = makeButton("flashlight.off.fill", "stock.flashlight");
-        camera = makeButton("camera.fill", "stock.camera");
+        m_flashlight = makeButton("flashlight.off.fill", "stock.flashlight");
+        m_camera = makeButton("camera.fill", "stock.camera");
         const UI::View view = self<UI::ViewController>().view();
-        view.addSubview(flashlight);
-        view.addSubview(camera);
+        view.addSubview(m_flashlight);
+        view.addSubview(m_camera);
         updateVisibility();
     }
 
@@ -58,8 +58,8 @@ struct CSQuickActionsViewController : UIViewController {
     {
         const CGSize size = self<UI::ViewController>().view().bounds().size;
         const double y = size.height - bottomMargin - buttonSize;
-        flashlight.setFrame(CGRectMake(sideMargin, y, buttonSize, buttonSize));
-        camera.setFrame(CGRectMake(size.width - sideMargin - buttonSize, y, buttonSize, buttonSize));
+        m_flashlight.setFrame(CGRectMake(sideMargin, y, buttonSize, buttonSize));
+        m_camera.setFrame(CGRectMake(size.width - sideMargin - buttonSize, y, buttonSize, buttonSize));
         updateVisibility();
     }
 
@@ -71,12 +71,12 @@ struct CSQuickActionsViewController : UIViewController {
 private:
     void updateVisibility()
     {
-        flashlight.setHidden(!self().send<bool, "hasFlashlight">());
-        camera.setHidden(!self().send<bool, "hasCamera">());
+        m_flashlight.setHidden(!self().send<bool, "hasFlashlight">());
+        m_camera.setHidden(!self().send<bool, "hasCamera">());
     }
 
-    UI::View flashlight;
-    UI::View camera;
+    UI::View m_flashlight;
+    UI::View m_camera;
 };
 
 }

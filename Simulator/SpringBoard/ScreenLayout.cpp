@@ -1,3 +1,4 @@
+// The places, by the size of the screen and whether it has a home button.
 #include "Simulator/SpringBoard/ScreenLayout.hpp"
 
 #include "Simulator/SpringBoard/StockParts.hpp"

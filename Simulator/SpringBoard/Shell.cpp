@@ -53,8 +53,8 @@ Shell::Shell()
 Shell::~Shell()
 {
     ObjC::AutoreleasePool pool;
-    Loop::shared().cancel(minuteTimer_);
-    Loop::shared().cancel(countdown_);
+    Loop::shared().cancel(m_minuteTimer);
+    Loop::shared().cancel(m_countdown);
     standIn<SBCoverSheetPresentationManager>(sharedInstance("SBCoverSheetPresentationManager").raw()).dropCoverSheet();
     auto& running = Phone::part<RunningShell>();
     if (running.shell == this)
@@ -73,16 +73,16 @@ void Shell::start()
 /// The controllers' views are laid out between "will appear" and "did appear".
 void Shell::present(bool presented)
 {
-    if (presented == presented_)
+    if (presented == m_presented)
         return;
-    presented_ = presented;
-    if (presented && hasAppeared(homeScreen_))
-        homeScreen_.send<void, "beginAppearanceTransition:animated:">(false, true);
-    coverSheet_.send<void, "beginAppearanceTransition:animated:">(presented, true);
+    m_presented = presented;
+    if (presented && hasAppeared(m_homeScreen))
+        m_homeScreen.send<void, "beginAppearanceTransition:animated:">(false, true);
+    m_coverSheet.send<void, "beginAppearanceTransition:animated:">(presented, true);
     updateVisibility();
     commit();
-    coverSheet_.send<void, "endAppearanceTransition">();
-    homeScreen_.send<void, "endAppearanceTransition">();
+    m_coverSheet.send<void, "endAppearanceTransition">();
+    m_homeScreen.send<void, "endAppearanceTransition">();
     restartMinuteTimer();
 }
 
@@ -96,7 +96,7 @@ void Shell::lock()
 
 void Shell::setLocked(bool locked)
 {
-    locked_ = locked;
+    m_locked = locked;
     if (locked) {
         revealHistory(false);
         present(true);
@@ -114,13 +114,13 @@ void Shell::wake()
 /// In the dark nothing of the stock clock moves; it is right again as soon as there is light.
 void Shell::setLit(bool lit)
 {
-    if (lit == lit_)
+    if (lit == m_lit)
         return;
-    lit_ = lit;
+    m_lit = lit;
     updateVisibility();
     restartMinuteTimer();
     if (lit) {
-        standIn<SBFStaticWallpaperView>(wallpaper_.raw()).reload();
+        standIn<SBFStaticWallpaperView>(m_wallpaper.raw()).reload();
         updateClock();
     }
 }
@@ -128,7 +128,7 @@ void Shell::setLit(bool lit)
 void Shell::unlock()
 {
     ObjC::AutoreleasePool pool;
-    if (!lit_)
+    if (!m_lit)
         wake();
     sharedInstance("SBLockScreenManager").send<void, "unlockUIFromSource:withOptions:">(sideButton, NS::Object());
     present(false);
@@ -139,26 +139,26 @@ void Shell::unlock()
 
 void Shell::showHomeScreen()
 {
-    if (hasAppeared(homeScreen_))
+    if (hasAppeared(m_homeScreen))
         return;
-    homeScreen_.send<void, "beginAppearanceTransition:animated:">(true, true);
+    m_homeScreen.send<void, "beginAppearanceTransition:animated:">(true, true);
     updateVisibility();
-    homeScreen_.send<void, "endAppearanceTransition">();
+    m_homeScreen.send<void, "endAppearanceTransition">();
 }
 
 void Shell::coverSheet()
 {
     ObjC::AutoreleasePool pool;
-    if (!lit_)
+    if (!m_lit)
         wake();
-    revealHistory(!locked_);
+    revealHistory(!m_locked);
     present(true);
     commit();
 }
 
 void Shell::revealHistory(bool revealed)
 {
-    const auto combined = sheet(coverSheet_).combinedListController;
+    const auto combined = sheet(m_coverSheet).combinedListController;
     const auto list = standIn<CSCombinedListViewController>(combined.raw()).structuredList;
     standIn<NCNotificationStructuredListViewController>(list.raw()).setHistoryRevealed(revealed);
 }
@@ -166,13 +166,13 @@ void Shell::revealHistory(bool revealed)
 void Shell::openApp(const std::string& bundle)
 {
     ObjC::AutoreleasePool pool;
-    if (!lit_)
+    if (!m_lit)
         wake();
     sharedInstance("SBLockScreenManager").send<void, "unlockUIFromSource:withOptions:">(sideButton, NS::Object());
     present(false);
-    if (hasAppeared(homeScreen_)) {
-        homeScreen_.send<void, "beginAppearanceTransition:animated:">(false, true);
-        homeScreen_.send<void, "endAppearanceTransition">();
+    if (hasAppeared(m_homeScreen)) {
+        m_homeScreen.send<void, "beginAppearanceTransition:animated:">(false, true);
+        m_homeScreen.send<void, "endAppearanceTransition">();
     }
     setFrontApp(bundle);
     commit();
@@ -180,9 +180,9 @@ void Shell::openApp(const std::string& bundle)
 
 void Shell::setFrontApp(const std::string& bundle)
 {
-    if (bundle == frontApp_)
+    if (bundle == m_frontApp)
         return;
-    frontApp_ = bundle;
+    m_frontApp = bundle;
     updateVisibility();
     const NS::Object application = bundle.empty() ? NS::Object() : makeFrontApplication(bundle);
     instance("SpringBoard").send<void, "frontDisplayDidChange:">(application);
@@ -199,14 +199,14 @@ void Shell::charge(bool charging)
 {
     ObjC::AutoreleasePool pool;
     Battery& battery = DeviceState::shared().battery;
-    battery.state = !charging ? BatteryState::Unplugged
-        : battery.level >= 1  ? BatteryState::Full
-                              : BatteryState::Charging;
+    battery.state = !charging ? BatteryState::unplugged
+        : battery.level >= 1  ? BatteryState::full
+                              : BatteryState::charging;
     deviceChanged();
-    if (charging && !lit_)
+    if (charging && !m_lit)
         wake();
-    if (presented_)
-        coverSheet_.send<void, "_transitionChargingViewToVisible:showBattery:animated:">(charging, charging, true);
+    if (m_presented)
+        m_coverSheet.send<void, "_transitionChargingViewToVisible:showBattery:animated:">(charging, charging, true);
     commit();
 }
 
@@ -247,7 +247,7 @@ void Shell::commit()
 
 UIWindow& Shell::window() const
 {
-    return standIn<UIWindow>(window_.raw());
+    return standIn<UIWindow>(m_window.raw());
 }
 
 }

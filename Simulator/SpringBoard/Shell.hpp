@@ -51,11 +51,11 @@ public:
     /// this is done already; whoever runs the loop or sends messages does it afterwards.
     void commit();
 
-    bool isLocked() const { return locked_; }
-    bool isLit() const { return lit_; }
-    bool isCoverSheetPresented() const { return presented_; }
+    bool isLocked() const { return m_locked; }
+    bool isLit() const { return m_lit; }
+    bool isCoverSheetPresented() const { return m_presented; }
     UIWindow& window() const;
-    UI::ViewController coverSheetController() const { return coverSheet_; }
+    UI::ViewController coverSheetController() const { return m_coverSheet; }
     /// The shell's current object of that class, or of one derived from it; nil if there is none.
     ObjC::Object instance(const std::string& className) const;
 
@@ -78,21 +78,21 @@ private:
     void tickCountdown();
     void setSubtitle(const std::string& text);
 
-    UI::View window_;
-    UI::View wallpaper_;
-    UI::View statusBar_;
-    UI::View homeIndicator_;
-    UI::View app_;
-    UI::View darkness_;
-    UI::ViewController coverSheet_;
-    UI::ViewController homeScreen_;
-    std::string frontApp_;
-    bool locked_ = true;
-    bool lit_ = false;
-    bool presented_ = false;
-    TimerId minuteTimer_ = 0;
-    TimerId countdown_ = 0;
-    double countdownEnd_ = 0;
+    UI::View m_window;
+    UI::View m_wallpaper;
+    UI::View m_statusBar;
+    UI::View m_homeIndicator;
+    UI::View m_app;
+    UI::View m_darkness;
+    UI::ViewController m_coverSheet;
+    UI::ViewController m_homeScreen;
+    std::string m_frontApp;
+    bool m_locked = true;
+    bool m_lit = false;
+    bool m_presented = false;
+    TimerId m_minuteTimer = 0;
+    TimerId m_countdown = 0;
+    double m_countdownEnd = 0;
 };
 
 }

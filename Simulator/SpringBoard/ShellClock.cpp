@@ -37,7 +37,7 @@ void Shell::subtitle(const std::string& text)
 
 void Shell::setSubtitle(const std::string& text)
 {
-    stockClock(coverSheet_).setCustomSubtitle(text.empty() ? std::nullopt : std::optional(text));
+    stockClock(m_coverSheet).setCustomSubtitle(text.empty() ? std::nullopt : std::optional(text));
 }
 
 void Shell::timer(double seconds)
@@ -45,13 +45,13 @@ void Shell::timer(double seconds)
     ObjC::AutoreleasePool pool;
     Loop& loop = Loop::shared();
     const bool starts = seconds > 0;
-    const bool ran = loop.cancel(countdown_);
+    const bool ran = loop.cancel(m_countdown);
     if (!starts && !ran)
         return;
-    stockClock(coverSheet_).setTimerDialShown(starts);
+    stockClock(m_coverSheet).setTimerDialShown(starts);
     if (starts) {
-        countdownEnd_ = loop.uptime() + seconds;
-        countdown_ = loop.scheduleRepeating(1, [this] { tickCountdown(); });
+        m_countdownEnd = loop.uptime() + seconds;
+        m_countdown = loop.scheduleRepeating(1, [this] { tickCountdown(); });
         tickCountdown();
     } else
         setSubtitle({});
@@ -60,7 +60,7 @@ void Shell::timer(double seconds)
 
 void Shell::tickCountdown()
 {
-    const double left = countdownEnd_ - Loop::shared().uptime();
+    const double left = m_countdownEnd - Loop::shared().uptime();
     if (left < afterTheMinute)
         return timer(0);
     ObjC::AutoreleasePool pool;
@@ -77,18 +77,18 @@ void Shell::clockChanged()
 void Shell::restartMinuteTimer()
 {
     Loop& loop = Loop::shared();
-    loop.cancel(minuteTimer_);
-    if (!lit_ || !presented_)
+    loop.cancel(m_minuteTimer);
+    if (!m_lit || !m_presented)
         return;
     const double toNextMinute = 60 - (loop.now() - 60 * std::floor(loop.now() / 60));
-    minuteTimer_ = loop.scheduleRepeating(toNextMinute + afterTheMinute, 60, [this] { updateClock(); });
+    m_minuteTimer = loop.scheduleRepeating(toNextMinute + afterTheMinute, 60, [this] { updateClock(); });
 }
 
 void Shell::updateClock()
 {
     ObjC::AutoreleasePool pool;
-    if (presented_ && lit_)
-        sheet(coverSheet_).dateViewController.send<void, "_updateView">();
+    if (m_presented && m_lit)
+        sheet(m_coverSheet).dateViewController.send<void, "_updateView">();
     updateStatusBar();
     commit();
 }

@@ -59,22 +59,22 @@ ObjC::Object onlyObject(Class type)
 
 void Shell::buildWindow()
 {
-    window_ = makeView("UIWindow", ScreenLayout::current().bounds(), "stock.window");
-    window_.setBackgroundColor(UI::Color::blackColor());
-    wallpaper_ = makeView("SBFStaticWallpaperView", {}, "stock.wallpaper");
-    homeScreen_ = makeController("SBHomeScreenViewController");
-    app_ = makeView("UIView", {}, "stock.app");
-    app_.setBackgroundColor(UI::Color::whiteColor());
-    coverSheet_
+    m_window = makeView("UIWindow", ScreenLayout::current().bounds(), "stock.window");
+    m_window.setBackgroundColor(UI::Color::blackColor());
+    m_wallpaper = makeView("SBFStaticWallpaperView", {}, "stock.wallpaper");
+    m_homeScreen = makeController("SBHomeScreenViewController");
+    m_app = makeView("UIView", {}, "stock.app");
+    m_app.setBackgroundColor(UI::Color::whiteColor());
+    m_coverSheet
         = sharedInstance("SBCoverSheetPresentationManager").send<UI::ViewController, "coverSheetViewController">();
-    statusBar_ = makeView("UIStatusBar_Modern", {}, "stock.statusBar");
-    homeIndicator_ = makePlate({}, whiteWithAlpha(0.9), 2.5);
-    homeIndicator_.setAccessibilityIdentifier("stock.homeIndicator"_ns);
-    darkness_ = makeView("UIView", {}, "stock.darkness");
-    darkness_.setBackgroundColor(UI::Color::blackColor());
+    m_statusBar = makeView("UIStatusBar_Modern", {}, "stock.statusBar");
+    m_homeIndicator = makePlate({}, whiteWithAlpha(0.9), 2.5);
+    m_homeIndicator.setAccessibilityIdentifier("stock.homeIndicator"_ns);
+    m_darkness = makeView("UIView", {}, "stock.darkness");
+    m_darkness.setBackgroundColor(UI::Color::blackColor());
     for (const UI::View& view :
-        {wallpaper_, homeScreen_.view(), app_, coverSheet_.view(), statusBar_, homeIndicator_, darkness_})
-        window_.addSubview(view);
+        {m_wallpaper, m_homeScreen.view(), m_app, m_coverSheet.view(), m_statusBar, m_homeIndicator, m_darkness})
+        m_window.addSubview(view);
     window().makeKeyAndVisible();
     placeViews();
     updateVisibility();
@@ -83,31 +83,31 @@ void Shell::buildWindow()
 void Shell::placeViews()
 {
     const ScreenLayout layout = ScreenLayout::current();
-    window_.setFrame(layout.bounds());
-    for (const UI::View& view : {wallpaper_, homeScreen_.view(), app_, coverSheet_.view(), darkness_}) {
+    m_window.setFrame(layout.bounds());
+    for (const UI::View& view : {m_wallpaper, m_homeScreen.view(), m_app, m_coverSheet.view(), m_darkness}) {
         view.setFrame(layout.bounds());
         view.setNeedsLayout();
     }
-    statusBar_.setFrame(layout.statusBar());
-    homeIndicator_.setFrame(layout.homeIndicator());
+    m_statusBar.setFrame(layout.statusBar());
+    m_homeIndicator.setFrame(layout.homeIndicator());
 }
 
 void Shell::updateVisibility()
 {
-    const bool showsApp = !presented_ && !frontApp_.empty();
-    coverSheet_.view().setHidden(!presented_);
-    homeScreen_.view().setHidden(presented_ || showsApp);
-    app_.setHidden(!showsApp);
-    homeIndicator_.setHidden(!ScreenLayout::current().hasHomeIndicator);
-    darkness_.setHidden(lit_);
-    darkness_.setAlpha(DeviceState::shared().installed.contains("LastLook") ? dimmed : 1);
+    const bool showsApp = !m_presented && !m_frontApp.empty();
+    m_coverSheet.view().setHidden(!m_presented);
+    m_homeScreen.view().setHidden(m_presented || showsApp);
+    m_app.setHidden(!showsApp);
+    m_homeIndicator.setHidden(!ScreenLayout::current().hasHomeIndicator);
+    m_darkness.setHidden(m_lit);
+    m_darkness.setAlpha(DeviceState::shared().installed.contains("LastLook") ? dimmed : 1);
     updateStatusBar();
 }
 
 void Shell::updateStatusBar()
 {
-    auto& bar = standIn<UIStatusBar_Modern>(statusBar_.raw());
-    bar.setLeadingText(presented_ ? "Carrier"_ns : stockTimeText(NS::Date::date()));
+    auto& bar = standIn<UIStatusBar_Modern>(m_statusBar.raw());
+    bar.setLeadingText(m_presented ? "Carrier"_ns : stockTimeText(NS::Date::date()));
     bar.update();
 }
 
@@ -117,11 +117,11 @@ ObjC::Object Shell::instance(const std::string& className) const
     if (!type)
         return {};
     for (const bool exactly : {true, false}) {
-        for (const UI::ViewController& controller : {coverSheet_, homeScreen_}) {
+        for (const UI::ViewController& controller : {m_coverSheet, m_homeScreen}) {
             if (const ObjC::Object found = controller ? findController(controller, type, exactly) : ObjC::Object())
                 return found;
         }
-        if (const ObjC::Object found = window_ ? findView(window_, type, exactly) : ObjC::Object())
+        if (const ObjC::Object found = m_window ? findView(m_window, type, exactly) : ObjC::Object())
             return found;
         if (const ObjC::Object only = onlyObject(type); matches(only, type, exactly))
             return only;

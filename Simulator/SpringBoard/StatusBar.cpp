@@ -1,3 +1,4 @@
+// The status bar's icons from right to left.
 #include "Simulator/SpringBoard/StatusBar.hpp"
 
 #include "Simulator/Device/DeviceState.hpp"
@@ -24,15 +25,15 @@ constexpr double barHeights[barCount] = {4, 6, 8.5, 11};
 void UIStatusBar_Modern::initWithFrame(CGRect frame)
 {
     UIView::initWithFrame(frame);
-    leading = makeLabel("", 15, FontWeight::semibold, UI::Color::whiteColor());
-    leading.setAccessibilityIdentifier("stock.carrier"_ns);
-    wifi = makeSymbol("wifi", {}, UI::Color::whiteColor());
-    battery = makeView("_UIBatteryView", {}, "stock.battery");
+    m_leading = makeLabel("", 15, FontWeight::semibold, UI::Color::whiteColor());
+    m_leading.setAccessibilityIdentifier("stock.carrier"_ns);
+    m_wifi = makeSymbol("wifi", {}, UI::Color::whiteColor());
+    m_battery = makeView("_UIBatteryView", {}, "stock.battery");
     for (int index = 0; index < barCount; ++index)
-        bars.push_back(makePlate({}, UI::Color::whiteColor(), 1));
-    for (const UI::View& part : {UI::View(leading), wifi, battery})
+        m_bars.push_back(makePlate({}, UI::Color::whiteColor(), 1));
+    for (const UI::View& part : {UI::View(m_leading), m_wifi, m_battery})
         addSubview(part);
-    for (const UI::View& bar : bars)
+    for (const UI::View& bar : m_bars)
         addSubview(bar);
 }
 
@@ -44,11 +45,11 @@ void UIStatusBar_Modern::layoutSubviews()
     const double margin = aroundCamera ? 18 : 6;
     const double middle = aroundCamera ? 24 : size.height / 2;
     const double leadingWidth = aroundCamera ? 80 : 120;
-    leading.setFrame(CGRectMake(aroundCamera ? 28 : margin, middle - 10, leadingWidth, 20));
+    m_leading.setFrame(CGRectMake(aroundCamera ? 28 : margin, middle - 10, leadingWidth, 20));
     double x = size.width - margin - batterySize.width;
-    battery.setFrame(CGRectMake(x, middle - batterySize.height / 2, batterySize.width, batterySize.height));
+    m_battery.setFrame(CGRectMake(x, middle - batterySize.height / 2, batterySize.width, batterySize.height));
     x -= wifiSize.width + 5;
-    wifi.setFrame(CGRectMake(x, middle - wifiSize.height / 2, wifiSize.width, wifiSize.height));
+    m_wifi.setFrame(CGRectMake(x, middle - wifiSize.height / 2, wifiSize.width, wifiSize.height));
     layOutBars(x - 5, middle);
 }
 
@@ -57,22 +58,22 @@ void UIStatusBar_Modern::layOutBars(double right, double middle)
     const double bottom = middle + barHeights[barCount - 1] / 2;
     double x = right - barCount * barWidth - (barCount - 1) * barGap;
     for (int index = 0; index < barCount; ++index) {
-        bars[index].setFrame(CGRectMake(x, bottom - barHeights[index], barWidth, barHeights[index]));
+        m_bars[index].setFrame(CGRectMake(x, bottom - barHeights[index], barWidth, barHeights[index]));
         x += barWidth + barGap;
     }
 }
 
 void UIStatusBar_Modern::setLeadingText(const NS::String& text)
 {
-    leading.setText(text);
+    m_leading.setText(text);
 }
 
 void UIStatusBar_Modern::update()
 {
-    showDeviceBattery(battery);
+    showDeviceBattery(m_battery);
     const bool saves = DeviceState::shared().battery.lowPower;
-    if (std::exchange(shownSaverMode, saves) != saves)
-        battery.send<void, "setSaverModeActive:">(saves);
+    if (std::exchange(m_shownSaverMode, saves) != saves)
+        m_battery.send<void, "setSaverModeActive:">(saves);
 }
 
 static const StandInClass uiStatusBarModern("UIStatusBar_Modern", "UIView", [](Binder<UIStatusBar_Modern>& binder) {

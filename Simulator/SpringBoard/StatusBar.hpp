@@ -17,12 +17,12 @@ struct UIStatusBar_Modern : UIView {
 private:
     void layOutBars(double right, double middle);
 
-    UI::Label leading;
-    std::vector<UI::View> bars;
-    UI::View wifi;
-    UI::View battery;
+    UI::Label m_leading;
+    std::vector<UI::View> m_bars;
+    UI::View m_wifi;
+    UI::View m_battery;
     /// The saver mode is told once, and again when it changes.
-    std::optional<bool> shownSaverMode;
+    std::optional<bool> m_shownSaverMode;
 };
 
 }

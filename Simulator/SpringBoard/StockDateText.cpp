@@ -1,3 +1,4 @@
+// The system's patterns, in the phone's locale and zone.
 #include "Simulator/SpringBoard/StockDateText.hpp"
 
 #include "Platform/Foundation/NSDateFormatter.hpp"

@@ -1,3 +1,4 @@
+// Makes labels, panes and symbols by messages, so that interceptions see them.
 #include "Simulator/SpringBoard/StockParts.hpp"
 
 #include "Simulator/Runtime/Binder.hpp"

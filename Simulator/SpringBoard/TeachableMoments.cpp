@@ -12,10 +12,10 @@ namespace {
 struct CSTeachableMomentsContainerViewController : UIViewController {
     void viewDidLoad()
     {
-        label = makeLabel("", 15, FontWeight::medium, UI::Color::whiteColor());
-        label.setTextAlignment(UI::TextAlignment::center);
-        label.setAccessibilityIdentifier("stock.hint"_ns);
-        self<UI::ViewController>().view().addSubview(label);
+        m_label = makeLabel("", 15, FontWeight::medium, UI::Color::whiteColor());
+        m_label.setTextAlignment(UI::TextAlignment::center);
+        m_label.setAccessibilityIdentifier("stock.hint"_ns);
+        self<UI::ViewController>().view().addSubview(m_label);
     }
 
     void viewWillAppear(bool)
@@ -24,11 +24,11 @@ struct CSTeachableMomentsContainerViewController : UIViewController {
         self().send<void, "_updateText:">(canSwipe ? "Swipe up to open"_ns : "Press home to open"_ns);
     }
 
-    void viewDidLayoutSubviews() { label.setFrame(self<UI::ViewController>().view().bounds()); }
-    void updateText(const NS::String& text) { label.setText(text); }
+    void viewDidLayoutSubviews() { m_label.setFrame(self<UI::ViewController>().view().bounds()); }
+    void updateText(const NS::String& text) { m_label.setText(text); }
 
 private:
-    UI::Label label;
+    UI::Label m_label;
 };
 
 }

@@ -1,3 +1,4 @@
+// Reads the stored wallpaper and draws it over the whole screen.
 #include "Simulator/SpringBoard/Wallpaper.hpp"
 
 #include "Simulator/Runtime/ExtensionCounts.hpp"

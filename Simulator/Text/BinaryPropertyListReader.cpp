@@ -13,31 +13,31 @@ namespace {
 constexpr std::string_view magic = "bplist";
 constexpr std::size_t headerSize = 8;
 constexpr std::size_t trailerSize = 32;
-// An object may be referred to from many places; a list that unfolds to more than this is refused.
+/// An object may be referred to from many places; a list that unfolds to more than this is refused.
 constexpr int mostObjects = 1'000'000;
 
 class Reader {
 public:
     explicit Reader(std::string_view bytes)
-        : _bytes(bytes)
+        : m_bytes(bytes)
     {
     }
 
     std::optional<PropertyList> readDocument()
     {
-        if (_bytes.size() < headerSize + trailerSize || !_bytes.starts_with(magic))
+        if (m_bytes.size() < headerSize + trailerSize || !m_bytes.starts_with(magic))
             return std::nullopt;
-        const std::size_t trailer = _bytes.size() - trailerSize;
-        _offsetSize = static_cast<unsigned char>(_bytes[trailer + 6]);
-        _referenceSize = static_cast<unsigned char>(_bytes[trailer + 7]);
-        _objectCount = *numberIn(_bytes, trailer + 8, 8);
-        const std::uint64_t topObject = *numberIn(_bytes, trailer + 16, 8);
-        _offsetTable = *numberIn(_bytes, trailer + 24, 8);
-        const bool sound = _offsetSize >= 1 && _offsetSize <= 8 && _referenceSize >= 1 && _referenceSize <= 8
-            && _offsetTable <= trailer && _objectCount <= (trailer - _offsetTable) / _offsetSize;
+        const std::size_t trailer = m_bytes.size() - trailerSize;
+        m_offsetSize = static_cast<unsigned char>(m_bytes[trailer + 6]);
+        m_referenceSize = static_cast<unsigned char>(m_bytes[trailer + 7]);
+        m_objectCount = *numberIn(m_bytes, trailer + 8, 8);
+        const std::uint64_t topObject = *numberIn(m_bytes, trailer + 16, 8);
+        m_offsetTable = *numberIn(m_bytes, trailer + 24, 8);
+        const bool sound = m_offsetSize >= 1 && m_offsetSize <= 8 && m_referenceSize >= 1 && m_referenceSize <= 8
+            && m_offsetTable <= trailer && m_objectCount <= (trailer - m_offsetTable) / m_offsetSize;
         if (!sound)
             return std::nullopt;
-        _objects = _bytes.substr(0, _offsetTable);
+        m_objects = m_bytes.substr(0, m_offsetTable);
         return readObject(topObject, 0);
     }
 
@@ -62,14 +62,14 @@ private:
 
     std::optional<std::uint64_t> number(std::uint64_t at, std::size_t size) const
     {
-        return numberIn(_objects, at, size);
+        return numberIn(m_objects, at, size);
     }
     std::optional<std::string_view> slice(std::uint64_t at, std::uint64_t size) const
     {
-        return part(_objects, at, size);
+        return part(m_objects, at, size);
     }
 
-    // The length in a marker's low half, or in the integer that follows it. Moves `at` to the content.
+    /// The length in a marker's low half, or in the integer that follows it. Moves `at` to the content.
     std::optional<std::uint64_t> readLength(std::uint64_t& at, unsigned low) const
     {
         if (low != 0xF)
@@ -103,7 +103,7 @@ private:
 
     std::optional<PropertyList> readText(std::uint64_t at, std::uint64_t length, bool wide) const
     {
-        if (wide && length > _objects.size())
+        if (wide && length > m_objects.size())
             return std::nullopt;
         const auto bytes = slice(at, wide ? length * 2 : length);
         if (!bytes || (!wide && !isUtf8(*bytes)))
@@ -111,12 +111,12 @@ private:
         return PropertyList{wide ? utf8OfUtf16Bytes(*bytes, true) : std::string(*bytes)};
     }
 
-    // Objects that the references from `at` on name.
+    /// Objects that the references from `at` on name.
     std::optional<PropertyListArray> readObjects(std::uint64_t at, std::uint64_t count, int depth)
     {
         PropertyListArray objects;
         for (std::uint64_t index = 0; index < count; ++index) {
-            const auto reference = number(at + index * _referenceSize, _referenceSize);
+            const auto reference = number(at + index * m_referenceSize, m_referenceSize);
             auto object = reference ? readObject(*reference, depth + 1) : std::nullopt;
             if (!object)
                 return std::nullopt;
@@ -128,7 +128,7 @@ private:
     std::optional<PropertyList> readDictionary(std::uint64_t at, std::uint64_t count, int depth)
     {
         auto keys = readObjects(at, count, depth);
-        auto values = keys ? readObjects(at + count * _referenceSize, count, depth) : std::nullopt;
+        auto values = keys ? readObjects(at + count * m_referenceSize, count, depth) : std::nullopt;
         if (!values)
             return std::nullopt;
         PropertyListDictionary dictionary;
@@ -143,10 +143,11 @@ private:
 
     std::optional<PropertyList> readObject(std::uint64_t index, int depth)
     {
-        const auto offset
-            = index < _objectCount ? numberIn(_bytes, _offsetTable + index * _offsetSize, _offsetSize) : std::nullopt;
+        const auto offset = index < m_objectCount
+            ? numberIn(m_bytes, m_offsetTable + index * m_offsetSize, m_offsetSize)
+            : std::nullopt;
         const auto marker = offset ? number(*offset, 1) : std::nullopt;
-        if (!marker || depth > deepestPropertyList || ++_objectsRead > mostObjects)
+        if (!marker || depth > deepestPropertyList || ++m_objectsRead > mostObjects)
             return std::nullopt;
         const unsigned low = *marker & 0xF;
         std::uint64_t at = *offset + 1;
@@ -164,7 +165,7 @@ private:
         }
         const auto length = readLength(at, low);
         // No object holds more pieces than the file has bytes.
-        if (!length || *length > _objects.size())
+        if (!length || *length > m_objects.size())
             return std::nullopt;
         switch (*marker >> 4) {
         case 0x4: {
@@ -185,13 +186,13 @@ private:
         return std::nullopt;
     }
 
-    std::string_view _bytes;
-    std::string_view _objects; // what comes before the table of their offsets
-    std::size_t _offsetSize = 0;
-    std::size_t _referenceSize = 0;
-    std::uint64_t _objectCount = 0;
-    std::uint64_t _offsetTable = 0;
-    int _objectsRead = 0;
+    std::string_view m_bytes;
+    std::string_view m_objects; // what comes before the table of their offsets
+    std::size_t m_offsetSize = 0;
+    std::size_t m_referenceSize = 0;
+    std::uint64_t m_objectCount = 0;
+    std::uint64_t m_offsetTable = 0;
+    int m_objectsRead = 0;
 };
 
 }

@@ -16,19 +16,19 @@ namespace Simulator {
 namespace {
 
 constexpr std::array fieldsOfUnits = {
-    std::pair(CalendarUnit::Era, UCAL_ERA),
-    std::pair(CalendarUnit::Year, UCAL_YEAR),
-    std::pair(CalendarUnit::Month, UCAL_MONTH),
-    std::pair(CalendarUnit::Day, UCAL_DATE),
-    std::pair(CalendarUnit::Hour, UCAL_HOUR_OF_DAY),
-    std::pair(CalendarUnit::Minute, UCAL_MINUTE),
-    std::pair(CalendarUnit::Second, UCAL_SECOND),
-    std::pair(CalendarUnit::Nanosecond, UCAL_MILLISECOND),
-    std::pair(CalendarUnit::Weekday, UCAL_DAY_OF_WEEK),
-    std::pair(CalendarUnit::WeekdayOrdinal, UCAL_DAY_OF_WEEK_IN_MONTH),
-    std::pair(CalendarUnit::WeekOfMonth, UCAL_WEEK_OF_MONTH),
-    std::pair(CalendarUnit::WeekOfYear, UCAL_WEEK_OF_YEAR),
-    std::pair(CalendarUnit::YearForWeekOfYear, UCAL_YEAR_WOY),
+    std::pair(CalendarUnit::era, UCAL_ERA),
+    std::pair(CalendarUnit::year, UCAL_YEAR),
+    std::pair(CalendarUnit::month, UCAL_MONTH),
+    std::pair(CalendarUnit::day, UCAL_DATE),
+    std::pair(CalendarUnit::hour, UCAL_HOUR_OF_DAY),
+    std::pair(CalendarUnit::minute, UCAL_MINUTE),
+    std::pair(CalendarUnit::second, UCAL_SECOND),
+    std::pair(CalendarUnit::nanosecond, UCAL_MILLISECOND),
+    std::pair(CalendarUnit::weekday, UCAL_DAY_OF_WEEK),
+    std::pair(CalendarUnit::weekdayOrdinal, UCAL_DAY_OF_WEEK_IN_MONTH),
+    std::pair(CalendarUnit::weekOfMonth, UCAL_WEEK_OF_MONTH),
+    std::pair(CalendarUnit::weekOfYear, UCAL_WEEK_OF_YEAR),
+    std::pair(CalendarUnit::yearForWeekOfYear, UCAL_YEAR_WOY),
 };
 
 constexpr long nanosecondsPerMillisecond = 1'000'000;
@@ -38,19 +38,19 @@ UCalendarDateFields fieldOf(CalendarUnit unit)
     return std::ranges::find(fieldsOfUnits, unit, &std::pair<CalendarUnit, UCalendarDateFields>::first)->second;
 }
 
-// ICU counts months from 0 and knows milliseconds at best.
+/// ICU counts months from 0 and knows milliseconds at best.
 long toIcuValue(const CalendarField& field)
 {
-    if (field.unit == CalendarUnit::Month)
+    if (field.unit == CalendarUnit::month)
         return field.value - 1;
-    return field.unit == CalendarUnit::Nanosecond ? field.value / nanosecondsPerMillisecond : field.value;
+    return field.unit == CalendarUnit::nanosecond ? field.value / nanosecondsPerMillisecond : field.value;
 }
 
 long fromIcuValue(CalendarUnit unit, long value)
 {
-    if (unit == CalendarUnit::Month)
+    if (unit == CalendarUnit::month)
         return value + 1;
-    return unit == CalendarUnit::Nanosecond ? value * nanosecondsPerMillisecond : value;
+    return unit == CalendarUnit::nanosecond ? value * nanosecondsPerMillisecond : value;
 }
 
 int bounded(long value)
@@ -58,7 +58,7 @@ int bounded(long value)
     return static_cast<int>(std::clamp<long>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
-// The calendar of the style, set to whatever date was last asked of it; null for an unknown one.
+/// The calendar of the style, set to whatever date was last asked of it; null for an unknown one.
 icu::Calendar* calendarFor(const CalendarStyle& style)
 {
     static auto* calendars = new StyleCache<std::unique_ptr<icu::Calendar>>;
@@ -122,9 +122,9 @@ std::optional<double> addToDate(
     UErrorCode status = U_ZERO_ERROR;
     calendar->setTime(icuDate(date), status);
     for (const auto& field : fields) {
-        const bool fine = field.unit == CalendarUnit::Nanosecond;
+        const bool fine = field.unit == CalendarUnit::nanosecond;
         const int amount = bounded(fine ? field.value / nanosecondsPerMillisecond : field.value);
-        const auto icuField = field.unit == CalendarUnit::Weekday ? UCAL_DATE : fieldOf(field.unit);
+        const auto icuField = field.unit == CalendarUnit::weekday ? UCAL_DATE : fieldOf(field.unit);
         if (wrap)
             calendar->roll(icuField, amount, status);
         else
@@ -152,7 +152,7 @@ std::vector<CalendarField> fieldsBetween(
             continue;
         const long difference = calendar->fieldDifference(icuDate(to), field, status);
         result.push_back(
-            {unit, unit == CalendarUnit::Nanosecond ? difference * nanosecondsPerMillisecond : difference});
+            {unit, unit == CalendarUnit::nanosecond ? difference * nanosecondsPerMillisecond : difference});
     }
     return U_SUCCESS(status) ? result : std::vector<CalendarField>();
 }

@@ -9,19 +9,19 @@
 namespace Simulator {
 
 enum class CalendarUnit {
-    Era,
-    Year,
-    Month,
-    Day,
-    Hour,
-    Minute,
-    Second,
-    Nanosecond,
-    Weekday,
-    WeekdayOrdinal,
-    WeekOfMonth,
-    WeekOfYear,
-    YearForWeekOfYear
+    era,
+    year,
+    month,
+    day,
+    hour,
+    minute,
+    second,
+    nanosecond,
+    weekday,
+    weekdayOrdinal,
+    weekOfMonth,
+    weekOfYear,
+    yearForWeekOfYear
 };
 
 struct CalendarField {

@@ -17,7 +17,7 @@ namespace {
 
 constexpr std::size_t longestCachedPattern = 256;
 
-// Null where ICU refuses the pattern.
+/// Null where ICU refuses the pattern.
 using Formatter = std::unique_ptr<icu::SimpleDateFormat>;
 
 StyleCache<Formatter>& formatters()
@@ -37,7 +37,7 @@ Formatter makeFormatter(const StyleKey& style)
     return formatter;
 }
 
-// Calls the function with the style's formatter, unless there can be none.
+/// Calls the function with the style's formatter, unless there can be none.
 template <typename Function>
 void withFormatter(const DateStyle& style, Function&& function)
 {
@@ -85,7 +85,7 @@ std::optional<double> parseDate(std::u16string_view text, const DateStyle& style
 
 namespace {
 
-// Later tables than the phone's have a narrow space before "a".
+/// Later tables than the phone's have a narrow space before "a".
 std::u16string withPlainSpaces(const icu::UnicodeString& pattern)
 {
     std::u16string text = plainText(pattern);
@@ -143,22 +143,22 @@ std::vector<std::u16string> dateSymbols(
     int count = 0;
     const icu::UnicodeString* names = nullptr;
     switch (symbols) {
-    case DateSymbols::Months:
+    case DateSymbols::months:
         names = all.getMonths(count, context, icuWidth);
         break;
-    case DateSymbols::Weekdays:
+    case DateSymbols::weekdays:
         names = all.getWeekdays(count, context, icuWidth);
         break;
-    case DateSymbols::HalvesOfDay:
+    case DateSymbols::halvesOfDay:
         names = all.getAmPmStrings(count);
         break;
-    case DateSymbols::Eras:
-        names = width == SymbolWidth::Wide ? all.getEraNames(count) : all.getEras(count);
+    case DateSymbols::eras:
+        names = width == SymbolWidth::wide ? all.getEraNames(count) : all.getEras(count);
         break;
     }
     std::vector<std::u16string> result;
     // ICU counts weekdays from 1 and leaves the first place empty.
-    for (int index = symbols == DateSymbols::Weekdays; index < count; ++index)
+    for (int index = symbols == DateSymbols::weekdays; index < count; ++index)
         result.push_back(plainText(names[index]));
     return result;
 }

@@ -31,8 +31,8 @@ std::u16string patternForStyles(int dateStyle, int timeStyle, std::string_view l
 /// The locale's own pattern for a skeleton such as "jm" or "MMMMd".
 std::u16string patternForSkeleton(std::u16string_view skeleton, std::string_view locale);
 
-enum class DateSymbols { Months, Weekdays, HalvesOfDay, Eras };
-enum class SymbolWidth { Wide, Short, Narrow };
+enum class DateSymbols { months, weekdays, halvesOfDay, eras };
+enum class SymbolWidth { wide, abbreviated, narrow };
 
 /// The names a calendar gives its months, weekdays (Sunday first), halves of the day or eras.
 std::vector<std::u16string> dateSymbols(

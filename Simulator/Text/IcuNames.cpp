@@ -12,10 +12,10 @@ namespace Simulator {
 namespace {
 
 constexpr double secondsFrom1970To2001 = 978307200;
-// About the year 30,000 either way: ICU's astronomical calendars take ever longer beyond.
+/// About the year 30,000 either way: ICU's astronomical calendars take ever longer beyond.
 constexpr double furthestDate = 9e11;
 
-// Where the phone's name of a calendar is not ICU's.
+/// Where the phone's name of a calendar is not ICU's.
 struct CalendarName {
     std::string_view phone;
     const char* icu;

@@ -17,8 +17,8 @@ std::optional<double> momentOfLocalTime(const std::string& text, std::string_vie
     if (read != 6 || static_cast<std::size_t>(length) != text.size())
         return std::nullopt;
     return dateFromFields(
-        {{CalendarUnit::Year, year}, {CalendarUnit::Month, month}, {CalendarUnit::Day, day}, {CalendarUnit::Hour, hour},
-            {CalendarUnit::Minute, minute}, {CalendarUnit::Second, second}},
+        {{CalendarUnit::year, year}, {CalendarUnit::month, month}, {CalendarUnit::day, day}, {CalendarUnit::hour, hour},
+            {CalendarUnit::minute, minute}, {CalendarUnit::second, second}},
         {"gregorian", "en_US", timeZone});
 }
 

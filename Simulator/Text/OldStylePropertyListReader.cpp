@@ -20,17 +20,17 @@ bool isPlainCharacter(char character)
 class Reader {
 public:
     explicit Reader(std::string_view text)
-        : _rest(text)
+        : m_rest(text)
     {
     }
 
     std::optional<PropertyList> readDocument()
     {
-        const std::string_view all = _rest;
+        const std::string_view all = m_rest;
         auto value = readValue(0);
         if (value && atEnd())
             return value;
-        _rest = all;
+        m_rest = all;
         auto entries = readEntries(0);
         return entries && !entries->empty() && atEnd() ? std::optional(PropertyList{std::move(*entries)})
                                                        : std::nullopt;
@@ -40,12 +40,12 @@ private:
     void skipSpace()
     {
         for (;;) {
-            if (!_rest.empty() && std::isspace(static_cast<unsigned char>(_rest.front())))
-                _rest.remove_prefix(1);
-            else if (_rest.starts_with("//"))
-                _rest.remove_prefix(std::min(_rest.find('\n'), _rest.size()));
-            else if (_rest.starts_with("/*"))
-                _rest.remove_prefix(std::min(_rest.find("*/", 2), _rest.size() - 2) + 2);
+            if (!m_rest.empty() && std::isspace(static_cast<unsigned char>(m_rest.front())))
+                m_rest.remove_prefix(1);
+            else if (m_rest.starts_with("//"))
+                m_rest.remove_prefix(std::min(m_rest.find('\n'), m_rest.size()));
+            else if (m_rest.starts_with("/*"))
+                m_rest.remove_prefix(std::min(m_rest.find("*/", 2), m_rest.size() - 2) + 2);
             else
                 return;
         }
@@ -54,27 +54,27 @@ private:
     bool atEnd()
     {
         skipSpace();
-        return _rest.empty();
+        return m_rest.empty();
     }
 
     bool take(char character)
     {
         skipSpace();
-        if (!_rest.starts_with(character))
+        if (!m_rest.starts_with(character))
             return false;
-        _rest.remove_prefix(1);
+        m_rest.remove_prefix(1);
         return true;
     }
 
-    // The number of up to `digits` digits at the front, if there is one.
+    /// The number of up to `digits` digits at the front, if there is one.
     std::optional<std::uint32_t> takeDigits(std::size_t digits, int base)
     {
         std::uint32_t value = 0;
-        const std::string_view front = _rest.substr(0, digits);
+        const std::string_view front = m_rest.substr(0, digits);
         const auto [end, error] = std::from_chars(front.data(), front.data() + front.size(), value, base);
         if (error != std::errc())
             return std::nullopt;
-        _rest.remove_prefix(static_cast<std::size_t>(end - front.data()));
+        m_rest.remove_prefix(static_cast<std::size_t>(end - front.data()));
         return value;
     }
 
@@ -82,14 +82,14 @@ private:
     {
         constexpr std::string_view letters = "abfnrtv";
         constexpr std::string_view meanings = "\a\b\f\n\r\t\v";
-        if (_rest.empty())
+        if (m_rest.empty())
             return false;
-        const char letter = _rest.front();
+        const char letter = m_rest.front();
         if (letter >= '0' && letter <= '7') {
             appendUtf8(text, *takeDigits(3, 8));
             return true;
         }
-        _rest.remove_prefix(1);
+        m_rest.remove_prefix(1);
         if (letter == 'U' || letter == 'u') {
             const auto codePoint = takeDigits(4, 16);
             if (codePoint)
@@ -104,9 +104,9 @@ private:
     std::optional<std::string> readQuoted(char quote)
     {
         std::string text;
-        while (!_rest.empty()) {
-            const char character = _rest.front();
-            _rest.remove_prefix(1);
+        while (!m_rest.empty()) {
+            const char character = m_rest.front();
+            m_rest.remove_prefix(1);
             if (character == quote)
                 return text;
             if (character != '\\')
@@ -125,10 +125,10 @@ private:
                 return readQuoted(quote);
         }
         std::size_t length = 0;
-        while (length < _rest.size() && isPlainCharacter(_rest[length]))
+        while (length < m_rest.size() && isPlainCharacter(m_rest[length]))
             ++length;
-        const std::string text(_rest.substr(0, length));
-        _rest.remove_prefix(length);
+        const std::string text(m_rest.substr(0, length));
+        m_rest.remove_prefix(length);
         return text.empty() ? std::nullopt : std::optional(text);
     }
 
@@ -136,9 +136,9 @@ private:
     {
         PropertyListData data;
         while (!take('>')) {
-            const std::size_t before = _rest.size();
+            const std::size_t before = m_rest.size();
             const auto byte = takeDigits(2, 16);
-            if (!byte || before - _rest.size() != 2)
+            if (!byte || before - m_rest.size() != 2)
                 return std::nullopt;
             data.bytes += static_cast<char>(*byte);
         }
@@ -153,23 +153,23 @@ private:
             if (!element)
                 return std::nullopt;
             array.push_back(std::move(*element));
-            if (!take(',') && !_rest.starts_with(')'))
+            if (!take(',') && !m_rest.starts_with(')'))
                 return std::nullopt;
         }
         return PropertyList{std::move(array)};
     }
 
-    // Entries up to a closing brace or the end, neither of which is taken.
+    /// Entries up to a closing brace or the end, neither of which is taken.
     std::optional<PropertyListDictionary> readEntries(int depth)
     {
         PropertyListDictionary dictionary;
-        while (!atEnd() && !_rest.starts_with('}')) {
+        while (!atEnd() && !m_rest.starts_with('}')) {
             auto key = readText();
             if (!key)
                 return std::nullopt;
             // A key alone stands for itself.
             auto value = take('=') ? readValue(depth + 1) : std::optional(PropertyList{*key});
-            if (!value || (!take(';') && !_rest.starts_with('}')))
+            if (!value || (!take(';') && !m_rest.starts_with('}')))
                 return std::nullopt;
             dictionary.insert_or_assign(std::move(*key), std::move(*value));
         }
@@ -192,7 +192,7 @@ private:
         return text ? std::optional(PropertyList{std::move(*text)}) : std::nullopt;
     }
 
-    std::string_view _rest;
+    std::string_view m_rest;
 };
 
 }

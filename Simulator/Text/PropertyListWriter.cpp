@@ -20,10 +20,10 @@ constexpr std::string_view xmlHeader = "<?xml version=\"1.0\" encoding=\"UTF-8\"
 
 class XmlWriter {
 public:
-    std::string take() { return std::move(_text); }
+    std::string take() { return std::move(m_text); }
 
-    void begin() { _text = xmlHeader; }
-    void end() { _text += "</plist>\n"; }
+    void begin() { m_text = xmlHeader; }
+    void end() { m_text += "</plist>\n"; }
     void write(const PropertyList& list)
     {
         std::visit([this](const auto& value) { write(value); }, list.value);
@@ -32,24 +32,27 @@ public:
 private:
     void line(std::string_view element, std::string_view content)
     {
-        _text.append(_indent, '\t').append("<").append(element).append(">");
+        m_text.append(m_indent, '\t').append("<").append(element).append(">");
         appendEscaped(content);
-        _text.append("</").append(element).append(">\n");
+        m_text.append("</").append(element).append(">\n");
     }
 
-    void emptyLine(std::string_view element) { _text.append(_indent, '\t').append("<").append(element).append("/>\n"); }
+    void emptyLine(std::string_view element)
+    {
+        m_text.append(m_indent, '\t').append("<").append(element).append("/>\n");
+    }
 
     void appendEscaped(std::string_view content)
     {
         for (const char character : content) {
             if (character == '<')
-                _text += "&lt;";
+                m_text += "&lt;";
             else if (character == '>')
-                _text += "&gt;";
+                m_text += "&gt;";
             else if (character == '&')
-                _text += "&amp;";
+                m_text += "&amp;";
             else
-                _text += character;
+                m_text += character;
         }
     }
 
@@ -72,10 +75,10 @@ private:
     {
         constexpr std::size_t charactersPerLine = 68;
         const std::string encoded = toBase64(data.bytes);
-        _text.append(_indent, '\t').append("<data>\n");
+        m_text.append(m_indent, '\t').append("<data>\n");
         for (std::size_t at = 0; at < encoded.size(); at += charactersPerLine)
-            _text.append(_indent, '\t').append(encoded, at, charactersPerLine).append("\n");
-        _text.append(_indent, '\t').append("</data>\n");
+            m_text.append(m_indent, '\t').append(encoded, at, charactersPerLine).append("\n");
+        m_text.append(m_indent, '\t').append("</data>\n");
     }
 
     void write(const PropertyListArray& array)
@@ -101,34 +104,34 @@ private:
     {
         if (empty)
             return emptyLine(element);
-        _text.append(_indent, '\t').append("<").append(element).append(">\n");
-        ++_indent;
+        m_text.append(m_indent, '\t').append("<").append(element).append(">\n");
+        ++m_indent;
         content();
-        --_indent;
-        _text.append(_indent, '\t').append("</").append(element).append(">\n");
+        --m_indent;
+        m_text.append(m_indent, '\t').append("</").append(element).append(">\n");
     }
 
-    std::string _text;
-    std::size_t _indent = 0;
+    std::string m_text;
+    std::size_t m_indent = 0;
 };
 
 class BinaryWriter {
 public:
     std::string write(const PropertyList& list)
     {
-        _referenceSize = bytesFor(countObjects(list));
-        _bytes = "bplist00";
+        m_referenceSize = bytesFor(countObjects(list));
+        m_bytes = "bplist00";
         const std::uint64_t top = add(list);
-        const std::uint64_t offsetTable = _bytes.size();
+        const std::uint64_t offsetTable = m_bytes.size();
         const std::size_t offsetSize = bytesFor(offsetTable);
-        for (const std::uint64_t offset : _offsets)
+        for (const std::uint64_t offset : m_offsets)
             appendNumber(offset, offsetSize);
-        _bytes.append(6, '\0');
+        m_bytes.append(6, '\0');
         appendNumber(offsetSize, 1);
-        appendNumber(_referenceSize, 1);
-        for (const std::uint64_t number : {std::uint64_t{_offsets.size()}, top, offsetTable})
+        appendNumber(m_referenceSize, 1);
+        for (const std::uint64_t number : {std::uint64_t{m_offsets.size()}, top, offsetTable})
             appendNumber(number, 8);
-        return std::move(_bytes);
+        return std::move(m_bytes);
     }
 
 private:
@@ -153,7 +156,7 @@ private:
     void appendNumber(std::uint64_t number, std::size_t size)
     {
         for (std::size_t byte = size; byte-- > 0;)
-            _bytes += static_cast<char>(number >> (8 * byte) & 0xFF);
+            m_bytes += static_cast<char>(number >> (8 * byte) & 0xFF);
     }
 
     void appendInteger(std::uint64_t number)
@@ -175,11 +178,11 @@ private:
         return std::visit([this](const auto& value) { return addValue(value); }, list.value);
     }
 
-    // Objects that others refer to come first, so that an object's bytes stay together.
+    /// Objects that others refer to come first, so that an object's bytes stay together.
     std::uint64_t startObject()
     {
-        _offsets.push_back(_bytes.size());
-        return _offsets.size() - 1;
+        m_offsets.push_back(m_bytes.size());
+        return m_offsets.size() - 1;
     }
 
     std::uint64_t addValue(const std::string& text)
@@ -187,7 +190,7 @@ private:
         const std::uint64_t index = startObject();
         if (std::ranges::all_of(text, [](unsigned char byte) { return byte < 0x80; })) {
             appendMarker(0x5, text.size());
-            _bytes += text;
+            m_bytes += text;
             return index;
         }
         const std::u16string wide = toUtf16(text);
@@ -231,7 +234,7 @@ private:
     {
         const std::uint64_t index = startObject();
         appendMarker(0x4, data.bytes.size());
-        _bytes += data.bytes;
+        m_bytes += data.bytes;
         return index;
     }
 
@@ -258,13 +261,13 @@ private:
         const std::uint64_t index = startObject();
         appendMarker(kind, count);
         for (const std::uint64_t reference : references)
-            appendNumber(reference, _referenceSize);
+            appendNumber(reference, m_referenceSize);
         return index;
     }
 
-    std::string _bytes;
-    std::vector<std::uint64_t> _offsets;
-    std::size_t _referenceSize = 1;
+    std::string m_bytes;
+    std::vector<std::uint64_t> m_offsets;
+    std::size_t m_referenceSize = 1;
 };
 
 }

@@ -26,17 +26,17 @@ public:
     template <class Make>
     Value& find(const StyleKey& key, Make&& make)
     {
-        auto found = _entries.find(key);
-        if (found == _entries.end()) {
-            if (_entries.size() >= mostEntries)
+        auto found = m_entries.find(key);
+        if (found == m_entries.end()) {
+            if (m_entries.size() >= mostEntries)
                 dropLeastRecentlyUsed();
-            found = _entries.emplace(OwnedKey(key), Entry{make(key), 0}).first;
+            found = m_entries.emplace(OwnedKey(key), Entry{make(key), 0}).first;
         }
-        found->second.lastUse = ++_uses;
+        found->second.lastUse = ++m_uses;
         return found->second.value;
     }
-    std::size_t size() const { return _entries.size(); }
-    void clear() { _entries.clear(); }
+    std::size_t size() const { return m_entries.size(); }
+    void clear() { m_entries.clear(); }
 
 private:
     static constexpr std::size_t mostEntries = 64;
@@ -80,16 +80,16 @@ private:
 
     void dropLeastRecentlyUsed()
     {
-        auto oldest = _entries.begin();
-        for (auto entry = _entries.begin(); entry != _entries.end(); ++entry) {
+        auto oldest = m_entries.begin();
+        for (auto entry = m_entries.begin(); entry != m_entries.end(); ++entry) {
             if (entry->second.lastUse < oldest->second.lastUse)
                 oldest = entry;
         }
-        _entries.erase(oldest);
+        m_entries.erase(oldest);
     }
 
-    std::unordered_map<OwnedKey, Entry, Hash, Equal> _entries;
-    std::uint64_t _uses = 0;
+    std::unordered_map<OwnedKey, Entry, Hash, Equal> m_entries;
+    std::uint64_t m_uses = 0;
 };
 
 }

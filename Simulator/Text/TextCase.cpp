@@ -18,7 +18,7 @@ icu::Locale caseLocale(std::string_view locale)
     return locale.empty() ? icu::Locale::getRoot() : icuLocale(locale, {});
 }
 
-// Everything but the word's first letter is lowered in the word's context: a final sigma takes its final form.
+/// Everything but the word's first letter is lowered in the word's context: a final sigma takes its final form.
 void appendCapitalizedWord(const icu::UnicodeString& word, const icu::Locale& locale, icu::UnicodeString& result)
 {
     icu::UnicodeString first(word, 0, word.moveIndex32(0, 1));

@@ -64,11 +64,11 @@ struct Tag {
 class Reader {
 public:
     explicit Reader(std::string_view text)
-        : _rest(text)
+        : m_rest(text)
     {
     }
 
-    // What follows the list's end is not looked at, as on the phone.
+    /// What follows the list's end is not looked at, as on the phone.
     std::optional<PropertyList> readDocument()
     {
         auto tag = nextTag();
@@ -82,36 +82,36 @@ public:
 private:
     bool skipPast(std::string_view mark)
     {
-        const std::size_t found = _rest.find(mark);
+        const std::size_t found = m_rest.find(mark);
         if (found == std::string_view::npos)
             return false;
-        _rest.remove_prefix(found + mark.size());
+        m_rest.remove_prefix(found + mark.size());
         return true;
     }
 
-    // A document type may hold declarations in brackets.
+    /// A document type may hold declarations in brackets.
     bool skipDeclaration()
     {
-        const std::size_t bracket = _rest.find('[');
-        const std::size_t end = _rest.find('>');
+        const std::size_t bracket = m_rest.find('[');
+        const std::size_t end = m_rest.find('>');
         return bracket < end ? skipPast("]") && skipPast(">") : skipPast(">");
     }
 
-    // The next tag, with nothing but white space, comments and declarations before it.
+    /// The next tag, with nothing but white space, comments and declarations before it.
     std::optional<Tag> nextTag()
     {
         for (;;) {
-            while (!_rest.empty() && isSpace(_rest.front()))
-                _rest.remove_prefix(1);
+            while (!m_rest.empty() && isSpace(m_rest.front()))
+                m_rest.remove_prefix(1);
             bool skipped = true;
-            if (_rest.starts_with("<!--"))
+            if (m_rest.starts_with("<!--"))
                 skipped = skipPast("-->");
-            else if (_rest.starts_with("<?"))
+            else if (m_rest.starts_with("<?"))
                 skipped = skipPast("?>");
-            else if (_rest.starts_with("<!"))
+            else if (m_rest.starts_with("<!"))
                 skipped = skipDeclaration();
             else
-                return _rest.starts_with('<') ? readTag() : std::nullopt;
+                return m_rest.starts_with('<') ? readTag() : std::nullopt;
             if (!skipped)
                 return std::nullopt;
         }
@@ -119,12 +119,12 @@ private:
 
     std::optional<Tag> readTag()
     {
-        const std::size_t end = _rest.find('>');
+        const std::size_t end = m_rest.find('>');
         if (end == std::string_view::npos)
             return std::nullopt;
         Tag tag;
-        tag.name = _rest.substr(1, end - 1);
-        _rest.remove_prefix(end + 1);
+        tag.name = m_rest.substr(1, end - 1);
+        m_rest.remove_prefix(end + 1);
         tag.closing = tag.name.starts_with('/');
         tag.empty = tag.name.ends_with('/');
         if (tag.closing)
@@ -140,47 +140,47 @@ private:
         constexpr std::pair<std::string_view, char> entities[]
             = {{"&lt;", '<'}, {"&gt;", '>'}, {"&amp;", '&'}, {"&quot;", '"'}, {"&apos;", '\''}};
         for (const auto& [entity, character] : entities) {
-            if (_rest.starts_with(entity)) {
+            if (m_rest.starts_with(entity)) {
                 text += character;
-                _rest.remove_prefix(entity.size());
+                m_rest.remove_prefix(entity.size());
                 return true;
             }
         }
-        const bool hexadecimal = _rest.starts_with("&#x");
-        if (!_rest.starts_with("&#"))
+        const bool hexadecimal = m_rest.starts_with("&#x");
+        if (!m_rest.starts_with("&#"))
             return false;
-        _rest.remove_prefix(hexadecimal ? 3 : 2);
+        m_rest.remove_prefix(hexadecimal ? 3 : 2);
         std::uint32_t codePoint = 0;
         const auto [end, error]
-            = std::from_chars(_rest.data(), _rest.data() + _rest.size(), codePoint, hexadecimal ? 16 : 10);
-        if (error != std::errc() || end == _rest.data() + _rest.size() || *end != ';')
+            = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), codePoint, hexadecimal ? 16 : 10);
+        if (error != std::errc() || end == m_rest.data() + m_rest.size() || *end != ';')
             return false;
-        _rest.remove_prefix(static_cast<std::size_t>(end - _rest.data()) + 1);
+        m_rest.remove_prefix(static_cast<std::size_t>(end - m_rest.data()) + 1);
         appendUtf8(text, codePoint);
         return true;
     }
 
-    // The text up to the element's closing tag.
+    /// The text up to the element's closing tag.
     std::optional<std::string> readText(const Tag& opening)
     {
         std::string text;
         if (opening.empty)
             return text;
         for (;;) {
-            const std::size_t plain = _rest.find_first_of("<&");
+            const std::size_t plain = m_rest.find_first_of("<&");
             if (plain == std::string_view::npos)
                 return std::nullopt;
-            text.append(_rest.substr(0, plain));
-            _rest.remove_prefix(plain);
-            if (_rest.starts_with('&')) {
+            text.append(m_rest.substr(0, plain));
+            m_rest.remove_prefix(plain);
+            if (m_rest.starts_with('&')) {
                 if (!appendReference(text))
                     return std::nullopt;
-            } else if (_rest.starts_with("<![CDATA[")) {
-                const std::string_view content = _rest.substr(9);
+            } else if (m_rest.starts_with("<![CDATA[")) {
+                const std::string_view content = m_rest.substr(9);
                 if (!skipPast("]]>"))
                     return std::nullopt;
                 text.append(content.substr(0, content.find("]]>")));
-            } else if (_rest.starts_with("<!--")) {
+            } else if (m_rest.starts_with("<!--")) {
                 if (!skipPast("-->"))
                     return std::nullopt;
             } else {
@@ -228,7 +228,7 @@ private:
         return content && trimmed(*content).empty() ? std::optional(PropertyList{value}) : std::nullopt;
     }
 
-    // An element that holds text, decoded by its own rule.
+    /// An element that holds text, decoded by its own rule.
     template <class Decode>
     std::optional<PropertyList> readScalar(const Tag& opening, Decode&& decode)
     {
@@ -268,7 +268,7 @@ private:
         return std::nullopt;
     }
 
-    std::string_view _rest;
+    std::string_view m_rest;
 };
 
 }

@@ -1,3 +1,4 @@
+// Sends an action to its target with as many arguments as its selector takes.
 #include "Simulator/UIKit/ActionTarget.hpp"
 
 #include "Platform/UIKit/UIView.hpp"

@@ -1,3 +1,4 @@
+// The grid's colours, row by row, and the finger's way over them.
 #include "Simulator/UIKit/ColorGrid.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
@@ -49,16 +50,16 @@ UIColorGridView::Cell UIColorGridView::cellUnder(const NS::Object& touch) const
 
 void UIColorGridView::choose(Cell cell)
 {
-    if (selected == cell)
+    if (m_selected == cell)
         return;
-    selected = cell;
+    m_selected = cell;
     selectedColor = colorAt(cell.row, cell.column);
     send(Events::valueChanged);
 }
 
 bool UIColorGridView::beginTracking(const NS::Object& touch, const NS::Object&)
 {
-    selected.reset();
+    m_selected.reset();
     choose(cellUnder(touch));
     return true;
 }
@@ -79,7 +80,7 @@ void UIColorGridView::decorate(Graphics::Layer& layer) const
         for (int column = 0; column < columns; ++column) {
             auto cell = makeBox({column * width, row * height, width + overlap, height + overlap},
                 resolvedColor(colorAt(row, column)).value_or(Graphics::Color()));
-            if (selected == Cell{row, column}) {
+            if (m_selected == Cell{row, column}) {
                 cell.borderWidth = markWidth;
                 cell.borderColor
                     = row == 0 && column < columns / 2 ? Graphics::Color{0, 0, 0, 1} : Graphics::Color{1, 1, 1, 1};

@@ -29,7 +29,7 @@ private:
     Cell cellUnder(const NS::Object& touch) const;
     void choose(Cell cell);
 
-    std::optional<Cell> selected;
+    std::optional<Cell> m_selected;
 };
 
 struct UIColorSlider : UISlider {

@@ -1,3 +1,4 @@
+// The sheet's parts, and how grid and sliders keep each other current.
 #include "Simulator/UIKit/ColorSheet.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
@@ -50,34 +51,34 @@ UI::View makeColorSheet(UIColorWell& well)
 
 void UIColorSheetView::build(UIColorWell& well)
 {
-    colorWell = &well;
+    m_colorWell = &well;
     const auto view = self<UI::View>();
     view.setAccessibilityIdentifier("system.colourSheet"_ns);
-    pane = UI::View::make();
-    pane.setBackgroundColor(namedColor("secondarySystemBackgroundColor"));
-    pane.layer().setCornerRadius(cornerRadius);
-    view.addSubview(pane);
-    titleLabel = UI::Label::make();
-    titleLabel.setFont(UI::Font::boldSystemFontOfSize(17));
-    titleLabel.setTextAlignment(UI::TextAlignment::center);
-    titleLabel.setText(well.title ? well.title : "Colors"_ns);
-    pane.addSubview(titleLabel);
-    closeButton = UI::Button::buttonWithType(UI::ButtonType::system);
-    closeButton.setImage(UI::Image::systemImageNamed("xmark.circle.fill"_ns));
-    closeButton.setTintColor(UI::Color::systemGrayColor());
-    closeButton.setAccessibilityIdentifier("system.colourSheet.close"_ns);
-    closeButton.addTarget(view, ObjC::selector<"dismiss">(), UI::ControlEvents::touchUpInside);
-    pane.addSubview(closeButton);
-    grid = makeOfClass<UI::Control>("UIColorGridView");
-    grid.setAccessibilityIdentifier("system.colourSheet.grid"_ns);
-    grid.addTarget(view, ObjC::selector<"gridChanged:">(), UI::ControlEvents::valueChanged);
-    pane.addSubview(grid);
-    hueSlider = addSlider("system.colourSheet.hue"_ns, "HUE"_ns);
-    brightnessSlider = addSlider("system.colourSheet.brightness"_ns, "BRIGHTNESS"_ns);
+    m_pane = UI::View::make();
+    m_pane.setBackgroundColor(namedColor("secondarySystemBackgroundColor"));
+    m_pane.layer().setCornerRadius(cornerRadius);
+    view.addSubview(m_pane);
+    m_titleLabel = UI::Label::make();
+    m_titleLabel.setFont(UI::Font::boldSystemFontOfSize(17));
+    m_titleLabel.setTextAlignment(UI::TextAlignment::center);
+    m_titleLabel.setText(well.title ? well.title : "Colors"_ns);
+    m_pane.addSubview(m_titleLabel);
+    m_closeButton = UI::Button::buttonWithType(UI::ButtonType::system);
+    m_closeButton.setImage(UI::Image::systemImageNamed("xmark.circle.fill"_ns));
+    m_closeButton.setTintColor(UI::Color::systemGrayColor());
+    m_closeButton.setAccessibilityIdentifier("system.colourSheet.close"_ns);
+    m_closeButton.addTarget(view, ObjC::selector<"dismiss">(), UI::ControlEvents::touchUpInside);
+    m_pane.addSubview(m_closeButton);
+    m_grid = makeOfClass<UI::Control>("UIColorGridView");
+    m_grid.setAccessibilityIdentifier("system.colourSheet.grid"_ns);
+    m_grid.addTarget(view, ObjC::selector<"gridChanged:">(), UI::ControlEvents::valueChanged);
+    m_pane.addSubview(m_grid);
+    m_hueSlider = addSlider("system.colourSheet.hue"_ns, "HUE"_ns);
+    m_brightnessSlider = addSlider("system.colourSheet.brightness"_ns, "BRIGHTNESS"_ns);
     if (well.supportsAlpha)
-        opacitySlider = addSlider("system.colourSheet.opacity"_ns, "OPACITY"_ns);
+        m_opacitySlider = addSlider("system.colourSheet.opacity"_ns, "OPACITY"_ns);
     // Without a slider for it every colour that is chosen is opaque.
-    well.selectedColor.getHue(&hue, &saturation, &brightness, well.supportsAlpha ? &opacity : nullptr);
+    well.selectedColor.getHue(&m_hue, &m_saturation, &m_brightness, well.supportsAlpha ? &m_opacity : nullptr);
     showColor();
 }
 
@@ -87,12 +88,12 @@ UI::Slider UIColorSheetView::addSlider(const NS::String& identifier, const NS::S
     label.setFont(UI::Font::boldSystemFontOfSize(13));
     label.setTextColor(namedColor("secondaryLabelColor"));
     label.setText(caption);
-    captions.push_back(label);
+    m_captions.push_back(label);
     const auto slider = makeOfClass<UI::Slider>("UIColorSlider");
     slider.setAccessibilityIdentifier(identifier);
     slider.addTarget(self(), ObjC::selector<"sliderChanged:">(), UI::ControlEvents::valueChanged);
-    pane.addSubview(label);
-    pane.addSubview(slider);
+    m_pane.addSubview(label);
+    m_pane.addSubview(slider);
     return slider;
 }
 
@@ -102,16 +103,16 @@ void UIColorSheetView::layoutSubviews()
     const double width = std::min(window.width, greatestWidth), inner = width - 2 * margin;
     const double gridHeight = cellHeight * UIColorGridView::rows;
     const double height
-        = titleHeight + gridHeight + captions.size() * (captionHeight + sliderHeight) + margin + bottomMargin;
+        = titleHeight + gridHeight + m_captions.size() * (captionHeight + sliderHeight) + margin + bottomMargin;
     // The lower corners lie beyond the screen's edge.
-    pane.setFrame(CGRectMake((window.width - width) / 2, window.height - height, width, height + cornerRadius));
-    titleLabel.setFrame(CGRectMake(margin + closeSize, 0, inner - 2 * closeSize, titleHeight));
-    closeButton.setFrame(CGRectMake(width - margin - closeSize, (titleHeight - closeSize) / 2, closeSize, closeSize));
-    grid.setFrame(CGRectMake(margin, titleHeight, inner, gridHeight));
+    m_pane.setFrame(CGRectMake((window.width - width) / 2, window.height - height, width, height + cornerRadius));
+    m_titleLabel.setFrame(CGRectMake(margin + closeSize, 0, inner - 2 * closeSize, titleHeight));
+    m_closeButton.setFrame(CGRectMake(width - margin - closeSize, (titleHeight - closeSize) / 2, closeSize, closeSize));
+    m_grid.setFrame(CGRectMake(margin, titleHeight, inner, gridHeight));
     double y = titleHeight + gridHeight + margin / 2;
-    const UI::Slider sliders[] = {hueSlider, brightnessSlider, opacitySlider};
-    for (std::size_t i = 0; i < captions.size(); ++i) {
-        captions[i].setFrame(CGRectMake(margin, y, inner, captionHeight));
+    const UI::Slider sliders[] = {m_hueSlider, m_brightnessSlider, m_opacitySlider};
+    for (std::size_t i = 0; i < m_captions.size(); ++i) {
+        m_captions[i].setFrame(CGRectMake(margin, y, inner, captionHeight));
         sliders[i].setFrame(CGRectMake(margin, y + captionHeight, inner, sliderHeight));
         y += captionHeight + sliderHeight;
     }
@@ -122,37 +123,37 @@ void UIColorSheetView::showColor()
     std::vector<Graphics::Color> hues;
     for (int i = 0; i <= 12; ++i)
         hues.push_back(drawn(i / 12.0, 0.9, 1, 1));
-    showTrack(hueSlider, hue, std::move(hues));
-    showTrack(brightnessSlider, brightness, {drawn(hue, saturation, 0, 1), drawn(hue, saturation, 1, 1)});
-    if (opacitySlider)
-        showTrack(
-            opacitySlider, opacity, {drawn(hue, saturation, brightness, 0), drawn(hue, saturation, brightness, 1)});
+    showTrack(m_hueSlider, m_hue, std::move(hues));
+    showTrack(m_brightnessSlider, m_brightness, {drawn(m_hue, m_saturation, 0, 1), drawn(m_hue, m_saturation, 1, 1)});
+    if (m_opacitySlider)
+        showTrack(m_opacitySlider, m_opacity,
+            {drawn(m_hue, m_saturation, m_brightness, 0), drawn(m_hue, m_saturation, m_brightness, 1)});
 }
 
 void UIColorSheetView::tell()
 {
     showColor();
-    if (colorWell)
-        colorWell->choose(UI::Color::colorWithHue(hue, saturation, brightness, opacity));
+    if (m_colorWell)
+        m_colorWell->choose(UI::Color::colorWithHue(m_hue, m_saturation, m_brightness, m_opacity));
 }
 
 void UIColorSheetView::gridChanged(const UI::Control& changed)
 {
-    changed.send<UI::Color, "selectedColor">().getHue(&hue, &saturation, &brightness, nullptr);
+    changed.send<UI::Color, "selectedColor">().getHue(&m_hue, &m_saturation, &m_brightness, nullptr);
     tell();
 }
 
 void UIColorSheetView::sliderChanged(const UI::Slider& slider)
 {
     const CGFloat value = slider.value();
-    if (slider == brightnessSlider)
-        brightness = value;
-    else if (slider == opacitySlider)
-        opacity = value;
+    if (slider == m_brightnessSlider)
+        m_brightness = value;
+    else if (slider == m_opacitySlider)
+        m_opacity = value;
     else {
-        hue = value;
+        m_hue = value;
         // A grey has every hue: without saturation nothing would change.
-        saturation = saturation > 0 ? saturation : 1;
+        m_saturation = m_saturation > 0 ? m_saturation : 1;
     }
     tell();
 }
@@ -164,7 +165,7 @@ void UIColorSheetView::touchesEnded(const NS::Object&, const NS::Object&)
 
 void UIColorSheetView::dismiss()
 {
-    colorWell = nullptr;
+    m_colorWell = nullptr;
     self<UI::View>().removeFromSuperview();
 }
 

@@ -26,19 +26,19 @@ private:
     void tell();
 
     /// Not retained; null once the sheet is closed.
-    UIColorWell* colorWell = nullptr;
-    UI::View pane;
-    UI::Label titleLabel;
-    UI::Button closeButton;
-    UI::Control grid;
-    std::vector<UI::Label> captions;
-    UI::Slider hueSlider;
-    UI::Slider brightnessSlider;
-    UI::Slider opacitySlider;
-    CGFloat hue = 0;
-    CGFloat saturation = 0;
-    CGFloat brightness = 1;
-    CGFloat opacity = 1;
+    UIColorWell* m_colorWell = nullptr;
+    UI::View m_pane;
+    UI::Label m_titleLabel;
+    UI::Button m_closeButton;
+    UI::Control m_grid;
+    std::vector<UI::Label> m_captions;
+    UI::Slider m_hueSlider;
+    UI::Slider m_brightnessSlider;
+    UI::Slider m_opacitySlider;
+    CGFloat m_hue = 0;
+    CGFloat m_saturation = 0;
+    CGFloat m_brightness = 1;
+    CGFloat m_opacity = 1;
 };
 
 UI::View makeColorSheet(UIColorWell& well);

@@ -1,3 +1,4 @@
+// Boxes, discs, texts and pictures as layers.
 #include "Simulator/UIKit/ControlDrawing.hpp"
 
 #include "Simulator/CoreGraphics/Fonts.hpp"
@@ -21,7 +22,7 @@ static Graphics::Text lineOf(const std::string& text, const UI::Font& font, cons
     }
     Graphics::Text line;
     line.runs.push_back(std::move(run));
-    line.alignment = Graphics::TextAlignment::Center;
+    line.alignment = Graphics::TextAlignment::center;
     return line;
 }
 
@@ -59,7 +60,7 @@ Graphics::Layer makePicture(const Graphics::Rect& frame, const UI::Image& image,
     const CGSize size = picture->size();
     const bool fits = size.width <= frame.width && size.height <= frame.height;
     Graphics::ImageContent content{picture->image,
-        fits ? Graphics::ContentMode::Center : Graphics::ContentMode::AspectFit,
+        fits ? Graphics::ContentMode::center : Graphics::ContentMode::aspectFit,
         picture->isSymbol() ? 1 : picture->scale, {}};
     if (picture->isTemplate())
         content.tint = tint;

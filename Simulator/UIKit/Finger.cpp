@@ -1,3 +1,4 @@
+// A touch from its beginning to its end: taps counted, recognisers told first, then the view.
 #include "Simulator/UIKit/Finger.hpp"
 
 #include "Simulator/Base/Phone.hpp"
@@ -30,7 +31,7 @@ Finger& Finger::shared()
 
 UITouch& Finger::touch()
 {
-    return standIn<UITouch>(touch_.raw());
+    return standIn<UITouch>(m_touch.raw());
 }
 
 void Finger::place(CGPoint point)
@@ -38,23 +39,23 @@ void Finger::place(CGPoint point)
     UITouch& moved = touch();
     moved.previousLocation = std::exchange(moved.location, point);
     moved.timestamp = Loop::shared().uptime();
-    standIn<UIEvent>(event_.raw()).timestamp = moved.timestamp;
+    standIn<UIEvent>(m_event.raw()).timestamp = moved.timestamp;
 }
 
 void Finger::countTaps(CGPoint point)
 {
-    const bool isNext = lastTapTime_ >= 0 && Loop::shared().uptime() - lastTapTime_ <= longestPauseBetweenTaps
-        && std::hypot(point.x - lastTap_.x, point.y - lastTap_.y) <= greatestDistanceOfTaps;
-    touch().tapCount = isNext ? lastTapCount_ + 1 : 1;
+    const bool isNext = m_lastTapTime >= 0 && Loop::shared().uptime() - m_lastTapTime <= longestPauseBetweenTaps
+        && std::hypot(point.x - m_lastTap.x, point.y - m_lastTap.y) <= greatestDistanceOfTaps;
+    touch().tapCount = isNext ? m_lastTapCount + 1 : 1;
 }
 
 void Finger::collectRecognizers()
 {
-    recognizers_.clear();
+    m_recognizers.clear();
     for (const UIView* view = standInOrNull<UIView>(touch().view); view; view = view->parent) {
         for (const UI::GestureRecognizer& recognizer : view->recognizers) {
             if (recognizer.isEnabled())
-                recognizers_.push_back(recognizer);
+                m_recognizers.push_back(recognizer);
         }
     }
 }
@@ -62,8 +63,8 @@ void Finger::collectRecognizers()
 template <ObjC::FixedString message>
 void Finger::tellRecognizers()
 {
-    const NS::Object touches = touches_, event = event_;
-    for (const UI::GestureRecognizer& recognizer : std::vector(recognizers_)) {
+    const NS::Object touches = m_touches, event = m_event;
+    for (const UI::GestureRecognizer& recognizer : std::vector(m_recognizers)) {
         // It may have been taken away meanwhile; one that failed or is done waits for the next touch.
         auto& told = standIn<UIGestureRecognizer>(recognizer.raw());
         if (told.viewReference && told.enabled && told.isInterested())
@@ -74,26 +75,26 @@ void Finger::tellRecognizers()
 template <ObjC::FixedString message>
 void Finger::tellView()
 {
-    if (!viewHasTouch_)
+    if (!m_viewHasTouch)
         return;
     const UI::View view = touch().view;
-    view.send<void, message>(touches_, event_);
+    view.send<void, message>(m_touches, m_event);
 }
 
 void Finger::down(UIWindow& window, CGPoint point)
 {
     cancel();
-    touch_ = newInstance("UITouch");
-    touches_ = setOf(touch_);
-    event_ = newInstance("UIEvent");
-    standIn<UIEvent>(event_.raw()).allTouches = touches_;
+    m_touch = newInstance("UITouch");
+    m_touches = setOf(m_touch);
+    m_event = newInstance("UIEvent");
+    standIn<UIEvent>(m_event.raw()).allTouches = m_touches;
     UITouch& begun = touch();
     begun.window = window.self<UI::View>();
     place(point);
     begun.previousLocation = point;
     countTaps(point);
-    begun.view = begun.window.send<UI::View, "hitTest:withEvent:">(point, event_);
-    viewHasTouch_ = static_cast<bool>(begun.view);
+    begun.view = begun.window.send<UI::View, "hitTest:withEvent:">(point, m_event);
+    m_viewHasTouch = static_cast<bool>(begun.view);
     collectRecognizers();
     tellRecognizers<"touchesBegan:withEvent:">();
     tellView<"touchesBegan:withEvent:">();
@@ -115,9 +116,9 @@ void Finger::up(CGPoint point)
         return;
     place(point);
     touch().phase = TouchPhase::ended;
-    lastTap_ = point;
-    lastTapTime_ = touch().timestamp;
-    lastTapCount_ = touch().tapCount;
+    m_lastTap = point;
+    m_lastTapTime = touch().timestamp;
+    m_lastTapCount = touch().tapCount;
     tellRecognizers<"touchesEnded:withEvent:">();
     tellView<"touchesEnded:withEvent:">();
     lift();
@@ -135,18 +136,18 @@ void Finger::cancel()
 
 void Finger::lift()
 {
-    const auto recognizers = std::exchange(recognizers_, {});
+    const auto recognizers = std::exchange(m_recognizers, {});
     for (const UI::GestureRecognizer& recognizer : recognizers)
         recognizer.send<void, "reset">();
-    viewHasTouch_ = false;
-    touch_ = touches_ = event_ = {};
+    m_viewHasTouch = false;
+    m_touch = m_touches = m_event = {};
 }
 
 void Finger::recognized(UIGestureRecognizer& winner)
 {
     if (!isDown())
         return;
-    for (const UI::GestureRecognizer& recognizer : recognizers_) {
+    for (const UI::GestureRecognizer& recognizer : m_recognizers) {
         auto& other = standIn<UIGestureRecognizer>(recognizer.raw());
         if (&other != &winner)
             other.fail();
@@ -154,7 +155,7 @@ void Finger::recognized(UIGestureRecognizer& winner)
     if (!winner.cancelsTouchesInView)
         return;
     tellView<"touchesCancelled:withEvent:">();
-    viewHasTouch_ = false;
+    m_viewHasTouch = false;
 }
 
 }

@@ -15,7 +15,7 @@ class Finger {
 public:
     static Finger& shared();
 
-    bool isDown() const { return static_cast<bool>(touch_); }
+    bool isDown() const { return static_cast<bool>(m_touch); }
     /// Points are the window's. A finger that is down already is lifted from where it was, without effect, first.
     void down(UIWindow& window, CGPoint point);
     void move(CGPoint point);
@@ -38,16 +38,16 @@ private:
     void tellView();
     void lift();
 
-    NS::Object touch_;
-    NS::Object touches_;
-    NS::Object event_;
+    NS::Object m_touch;
+    NS::Object m_touches;
+    NS::Object m_event;
     /// Those of the view under the finger first, then of the views around it.
-    std::vector<UI::GestureRecognizer> recognizers_;
-    bool viewHasTouch_ = false;
+    std::vector<UI::GestureRecognizer> m_recognizers;
+    bool m_viewHasTouch = false;
     /// Where and when the last tap ended, to count the next one with it.
-    CGPoint lastTap_;
-    double lastTapTime_ = -1;
-    unsigned long lastTapCount_ = 0;
+    CGPoint m_lastTap;
+    double m_lastTapTime = -1;
+    unsigned long m_lastTapCount = 0;
 };
 
 }

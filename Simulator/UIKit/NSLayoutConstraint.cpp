@@ -1,3 +1,4 @@
+// Anchors make constraints; active ones give their views a frame at layout.
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"

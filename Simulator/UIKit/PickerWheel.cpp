@@ -1,3 +1,4 @@
+// A wheel's offset by hand, by its own run, and at rest on a row.
 #include "Simulator/UIKit/PickerWheel.hpp"
 
 #include "Simulator/QuartzCore/LayerMotion.hpp"
@@ -26,18 +27,18 @@ constexpr double secondsOfATap = 0.3;
 void PickerWheel::setRowCount(long count)
 {
     stop();
-    rowCount_ = std::max(count, 0L);
-    offset_ = clamped(offset_);
+    m_rowCount = std::max(count, 0L);
+    m_offset = clamped(m_offset);
 }
 
 long PickerWheel::clamped(double row) const
 {
-    return std::clamp(std::lround(row), 0L, std::max(rowCount_ - 1, 0L));
+    return std::clamp(std::lround(row), 0L, std::max(m_rowCount - 1, 0L));
 }
 
 long PickerWheel::selectedRow() const
 {
-    return rowCount_ == 0 ? -1 : clamped(isRunning_ ? runTo_ : offset_);
+    return m_rowCount == 0 ? -1 : clamped(m_isRunning ? m_runTo : m_offset);
 }
 
 void PickerWheel::select(long row, bool animated)
@@ -48,69 +49,69 @@ void PickerWheel::select(long row, bool animated)
         return;
     }
     stop();
-    offset_ = target;
-    turns_.turned();
+    m_offset = target;
+    m_turns.turned();
 }
 
 void PickerWheel::hold()
 {
     stop();
-    unboundOffset_ = offset_;
-    speed_ = 0;
-    lastDrag_ = Loop::shared().uptime();
+    m_unboundOffset = m_offset;
+    m_speed = 0;
+    m_lastDrag = Loop::shared().uptime();
 }
 
 void PickerWheel::drag(double rows)
 {
     const double now = Loop::shared().uptime();
-    const double elapsed = now - std::exchange(lastDrag_, now);
+    const double elapsed = now - std::exchange(m_lastDrag, now);
     if (elapsed > 0)
-        speed_ = 0.6 * rows / elapsed + 0.4 * speed_;
-    unboundOffset_ += rows;
-    const double bound = std::clamp(unboundOffset_, 0.0, std::max(rowCount_ - 1.0, 0.0));
-    offset_ = bound + (unboundOffset_ - bound) * stretch;
-    turns_.turned();
+        m_speed = 0.6 * rows / elapsed + 0.4 * m_speed;
+    m_unboundOffset += rows;
+    const double bound = std::clamp(m_unboundOffset, 0.0, std::max(m_rowCount - 1.0, 0.0));
+    m_offset = bound + (m_unboundOffset - bound) * stretch;
+    m_turns.turned();
 }
 
 void PickerWheel::release()
 {
-    const bool hasRested = Loop::shared().uptime() - lastDrag_ > rest;
-    const double distance = hasRested ? 0 : speed_ * inertia;
-    const long target = clamped(offset_ + distance);
-    runTo(target, std::clamp(std::abs(target - offset_) * 0.1, shortestRun, longestRun), true);
+    const bool hasRested = Loop::shared().uptime() - m_lastDrag > rest;
+    const double distance = hasRested ? 0 : m_speed * inertia;
+    const long target = clamped(m_offset + distance);
+    runTo(target, std::clamp(std::abs(target - m_offset) * 0.1, shortestRun, longestRun), true);
 }
 
 void PickerWheel::tap(long rowsBelow)
 {
-    runTo(clamped(offset_ + static_cast<double>(rowsBelow)), secondsOfATap, true);
+    runTo(clamped(m_offset + static_cast<double>(rowsBelow)), secondsOfATap, true);
 }
 
 void PickerWheel::runTo(long row, double seconds, bool isChoice)
 {
     stop();
-    isRunning_ = true;
-    isChoice_ = isChoice;
-    runBegin_ = Loop::shared().uptime();
-    runSeconds_ = seconds;
-    runFrom_ = offset_;
-    runTo_ = static_cast<double>(row);
-    timer_ = Loop::shared().schedule(
-        frame, [this] { tick(); }, WorkKind::Animation);
+    m_isRunning = true;
+    m_isChoice = isChoice;
+    m_runBegin = Loop::shared().uptime();
+    m_runSeconds = seconds;
+    m_runFrom = m_offset;
+    m_runTo = static_cast<double>(row);
+    m_timer = Loop::shared().schedule(
+        frame, [this] { tick(); }, WorkKind::animation);
 }
 
 void PickerWheel::tick()
 {
-    timer_ = 0;
-    const double fraction = (Loop::shared().uptime() - runBegin_) / runSeconds_;
-    isRunning_ = fraction < 1;
-    offset_ = isRunning_ ? runFrom_ + (runTo_ - runFrom_) * progress(AnimationCurve::easeOut, fraction) : runTo_;
-    if (isRunning_)
-        timer_ = Loop::shared().schedule(
-            frame, [this] { tick(); }, WorkKind::Animation);
+    m_timer = 0;
+    const double fraction = (Loop::shared().uptime() - m_runBegin) / m_runSeconds;
+    m_isRunning = fraction < 1;
+    m_offset = m_isRunning ? m_runFrom + (m_runTo - m_runFrom) * progress(AnimationCurve::easeOut, fraction) : m_runTo;
+    if (m_isRunning)
+        m_timer = Loop::shared().schedule(
+            frame, [this] { tick(); }, WorkKind::animation);
     // Nothing of the wheel is used after the calls: whoever is told may let the picker go.
-    const auto turns = turns_;
-    const bool isChosen = !isRunning_ && isChoice_ && rowCount_ > 0;
-    const long row = clamped(runTo_);
+    const auto turns = m_turns;
+    const bool isChosen = !m_isRunning && m_isChoice && m_rowCount > 0;
+    const long row = clamped(m_runTo);
     turns.turned();
     if (isChosen)
         turns.chosen(row);
@@ -118,8 +119,8 @@ void PickerWheel::tick()
 
 void PickerWheel::stop()
 {
-    Loop::shared().cancel(std::exchange(timer_, 0));
-    isRunning_ = false;
+    Loop::shared().cancel(std::exchange(m_timer, 0));
+    m_isRunning = false;
 }
 
 }

@@ -19,17 +19,17 @@ public:
     };
 
     explicit PickerWheel(Turns turns)
-        : turns_(std::move(turns))
+        : m_turns(std::move(turns))
     {
     }
     ~PickerWheel() { stop(); }
     PickerWheel(const PickerWheel&) = delete;
     PickerWheel& operator=(const PickerWheel&) = delete;
 
-    long rowCount() const { return rowCount_; }
+    long rowCount() const { return m_rowCount; }
     void setRowCount(long count);
     /// In rows: 2.5 is half-way from the third row to the fourth.
-    double offset() const { return offset_; }
+    double offset() const { return m_offset; }
     /// Where it stands, or will when it has come to rest.
     long selectedRow() const;
 
@@ -51,21 +51,21 @@ private:
     void stop();
     long clamped(double row) const;
 
-    Turns turns_;
-    long rowCount_ = 0;
-    double offset_ = 0;
+    Turns m_turns;
+    long m_rowCount = 0;
+    double m_offset = 0;
     /// Rows a second, from the finger's last movements.
-    double speed_ = 0;
-    double lastDrag_ = 0;
-    double unboundOffset_ = 0;
+    double m_speed = 0;
+    double m_lastDrag = 0;
+    double m_unboundOffset = 0;
 
-    bool isRunning_ = false;
-    bool isChoice_ = false;
-    double runBegin_ = 0;
-    double runSeconds_ = 0;
-    double runFrom_ = 0;
-    double runTo_ = 0;
-    TimerId timer_ = 0;
+    bool m_isRunning = false;
+    bool m_isChoice = false;
+    double m_runBegin = 0;
+    double m_runSeconds = 0;
+    double m_runFrom = 0;
+    double m_runTo = 0;
+    TimerId m_timer = 0;
 };
 
 }

@@ -89,22 +89,22 @@ struct UIButton : UIControl {
 
     void setTitle(const NS::String& title, unsigned long state)
     {
-        titles[state] = title.as<NS::String>().send<NS::String, "copy">();
+        m_titles[state] = title.as<NS::String>().send<NS::String, "copy">();
         update();
     }
 
-    NS::String titleForState(unsigned long state) const { return valueFor(titles, state); }
+    NS::String titleForState(unsigned long state) const { return valueFor(m_titles, state); }
     NS::String currentTitle() const { return titleForState(state()); }
 
     void setTitleColor(const UI::Color& color, unsigned long state)
     {
-        titleColors[state] = standInOrNull<UIColor>(color) ? color : UI::Color();
+        m_titleColors[state] = standInOrNull<UIColor>(color) ? color : UI::Color();
         update();
     }
 
     UI::Color titleColorForState(unsigned long state) const
     {
-        if (const UI::Color color = valueFor(titleColors, state))
+        if (const UI::Color color = valueFor(m_titleColors, state))
             return color;
         return type == UI::ButtonType::custom ? UI::Color::whiteColor() : tintColor();
     }
@@ -113,11 +113,11 @@ struct UIButton : UIControl {
 
     void setImage(const UI::Image& image, unsigned long state)
     {
-        images[state] = imageStandIn(image) ? image : UI::Image();
+        m_images[state] = imageStandIn(image) ? image : UI::Image();
         update();
     }
 
-    UI::Image imageForState(unsigned long state) const { return valueFor(images, state); }
+    UI::Image imageForState(unsigned long state) const { return valueFor(m_images, state); }
     UI::Image currentImage() const { return imageForState(state()); }
 
     void setContentEdgeInsets(UIEdgeInsets insets)
@@ -159,9 +159,9 @@ private:
 
     double gap() const { return currentImage() && currentTitle().length() ? gapBesideTitle : 0; }
 
-    ByState<NS::String> titles;
-    ByState<UI::Color> titleColors;
-    ByState<UI::Image> images;
+    ByState<NS::String> m_titles;
+    ByState<UI::Color> m_titleColors;
+    ByState<UI::Image> m_images;
 };
 
 }

@@ -126,7 +126,7 @@ void UIColor::initWithHue(double hue, double saturation, double brightness, doub
 
 const ColorComponents& UIColor::current() const
 {
-    return DeviceState::shared().style == InterfaceStyle::Dark ? dark : light;
+    return DeviceState::shared().style == InterfaceStyle::dark ? dark : light;
 }
 
 bool UIColor::getRed(double* red, double* green, double* blue, double* alpha) const
@@ -162,7 +162,7 @@ bool UIColor::getWhite(double* white, double* alpha) const
 CGColorRef UIColor::CGColor()
 {
     const bool isDark = &current() == &dark;
-    ObjC::Object& reference = isDark ? darkReference : lightReference;
+    ObjC::Object& reference = isDark ? m_darkReference : m_lightReference;
     if (!reference)
         reference = makeCGColor(current());
     return reinterpret_cast<CGColorRef>(reference.raw());

@@ -41,8 +41,8 @@ struct UIColor : StandIn {
     ColorComponents dark;
 
 private:
-    ObjC::Object lightReference;
-    ObjC::Object darkReference;
+    ObjC::Object m_lightReference;
+    ObjC::Object m_darkReference;
 };
 
 /// The colour as it is drawn; nothing for nil.

@@ -1,3 +1,4 @@
+// The well's look and its sheet.
 #include "Simulator/UIKit/UIColorWell.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
@@ -56,16 +57,16 @@ void UIColorWell::endTracking(const NS::Object&, const NS::Object&)
 void UIColorWell::openSheet()
 {
     const UIWindow* window = windowReference();
-    if (!window || sheet.superview())
+    if (!window || m_sheet.superview())
         return;
-    sheet = makeColorSheet(*this);
-    sheet.setFrame(window->bounds());
-    window->self<UI::View>().addSubview(sheet);
+    m_sheet = makeColorSheet(*this);
+    m_sheet.setFrame(window->bounds());
+    window->self<UI::View>().addSubview(m_sheet);
 }
 
 void UIColorWell::closeSheet()
 {
-    const UI::View closing = std::exchange(sheet, {});
+    const UI::View closing = std::exchange(m_sheet, {});
     if (auto* open = standInOrNull<UIColorSheetView>(closing))
         open->dismiss();
 }

@@ -27,7 +27,7 @@ struct UIColorWell : UIControl {
     bool supportsAlpha = true;
 
 private:
-    UI::View sheet;
+    UI::View m_sheet;
 };
 
 }

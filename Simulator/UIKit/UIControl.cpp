@@ -1,3 +1,4 @@
+// Tracking, and the events that are sent for it.
 #include "Simulator/UIKit/UIControl.hpp"
 
 #include "Simulator/Runtime/StandInClass.hpp"
@@ -24,30 +25,30 @@ void UIControl::addTarget(const ObjC::Object& target, SEL action, unsigned long 
     if (!action)
         return;
     const ActionTarget added{target.raw(), action};
-    for (Registration& registration : registrations) {
+    for (Registration& registration : m_registrations) {
         if (registration.target == added) {
             registration.events |= events;
             return;
         }
     }
-    registrations.push_back({added, events});
+    m_registrations.push_back({added, events});
 }
 
 void UIControl::removeTarget(const ObjC::Object& target, SEL action, unsigned long events)
 {
-    for (Registration& registration : registrations) {
+    for (Registration& registration : m_registrations) {
         const bool isMeant = (!target || registration.target.target == target.raw())
             && (!action || registration.target.action == action);
         if (isMeant)
             registration.events &= ~events;
     }
-    std::erase_if(registrations, [](const Registration& registration) { return registration.events == 0; });
+    std::erase_if(m_registrations, [](const Registration& registration) { return registration.events == 0; });
 }
 
 NS::Array UIControl::actionsForTarget(const ObjC::Object& target, unsigned long event) const
 {
     auto names = NS::MutableArray::make();
-    for (const Registration& registration : registrations) {
+    for (const Registration& registration : m_registrations) {
         if (registration.target.target == target.raw() && (registration.events & event))
             names.addObject(NS::String::fromUTF8(sel_getName(registration.target.action)));
     }
@@ -57,7 +58,7 @@ NS::Array UIControl::actionsForTarget(const ObjC::Object& target, unsigned long 
 void UIControl::sendActionsForControlEvents(unsigned long events)
 {
     const auto kept = self();
-    for (const Registration& registration : std::vector(registrations)) {
+    for (const Registration& registration : std::vector(m_registrations)) {
         if (registration.events & events)
             kept.send<void, "sendAction:to:forEvent:">(
                 registration.target.action, ObjC::Object(registration.target.target), NS::Object());

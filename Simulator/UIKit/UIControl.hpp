@@ -54,7 +54,7 @@ private:
     };
     bool isNear(const NS::Object& touches) const;
 
-    std::vector<Registration> registrations;
+    std::vector<Registration> m_registrations;
 };
 
 }

@@ -21,20 +21,20 @@ struct WeightStep {
 };
 
 constexpr std::array weightSteps = {
-    WeightStep{-0.8, Graphics::FontWeight::UltraLight},
-    WeightStep{-0.6, Graphics::FontWeight::Thin},
-    WeightStep{-0.4, Graphics::FontWeight::Light},
-    WeightStep{0, Graphics::FontWeight::Regular},
-    WeightStep{0.23, Graphics::FontWeight::Medium},
-    WeightStep{0.3, Graphics::FontWeight::Semibold},
-    WeightStep{0.4, Graphics::FontWeight::Bold},
-    WeightStep{0.56, Graphics::FontWeight::Heavy},
-    WeightStep{0.62, Graphics::FontWeight::Black},
+    WeightStep{-0.8, Graphics::FontWeight::ultraLight},
+    WeightStep{-0.6, Graphics::FontWeight::thin},
+    WeightStep{-0.4, Graphics::FontWeight::light},
+    WeightStep{0, Graphics::FontWeight::regular},
+    WeightStep{0.23, Graphics::FontWeight::medium},
+    WeightStep{0.3, Graphics::FontWeight::semibold},
+    WeightStep{0.4, Graphics::FontWeight::bold},
+    WeightStep{0.56, Graphics::FontWeight::heavy},
+    WeightStep{0.62, Graphics::FontWeight::black},
 };
 
 Graphics::FontWeight nearestWeight(double platformWeight)
 {
-    Graphics::FontWeight nearest = Graphics::FontWeight::Regular;
+    Graphics::FontWeight nearest = Graphics::FontWeight::regular;
     double distance = HUGE_VAL;
     for (const WeightStep& step : weightSteps) {
         const double difference = std::abs(step.platformWeight - platformWeight);
@@ -86,7 +86,7 @@ UI::Font UIFont::systemFontOfWeight(double size, double weight)
 UI::Font UIFont::boldSystemFont(double size)
 {
     // The interface's bold is a semibold.
-    return makeFont(fontCatalogue().systemFont(Graphics::FontWeight::Semibold), size);
+    return makeFont(fontCatalogue().systemFont(Graphics::FontWeight::semibold), size);
 }
 
 NS::Array UIFont::familyNames()

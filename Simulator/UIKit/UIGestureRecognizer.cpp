@@ -1,3 +1,4 @@
+// Targets, states and touches that all recognisers have in common.
 #include "Simulator/UIKit/UIGestureRecognizer.hpp"
 
 #include "Simulator/Runtime/StandInClass.hpp"
@@ -15,13 +16,13 @@ void UIGestureRecognizer::initWithTarget(const ObjC::Object& target, SEL action)
 void UIGestureRecognizer::addTarget(const ObjC::Object& target, SEL action)
 {
     const ActionTarget added{target.raw(), action};
-    if (action && std::ranges::find(targets, added) == targets.end())
-        targets.push_back(added);
+    if (action && std::ranges::find(m_targets, added) == m_targets.end())
+        m_targets.push_back(added);
 }
 
 void UIGestureRecognizer::removeTarget(const ObjC::Object& target, SEL action)
 {
-    std::erase_if(targets, [&](const ActionTarget& present) {
+    std::erase_if(m_targets, [&](const ActionTarget& present) {
         return (!target || present.target == target.raw()) && (!action || present.action == action);
     });
 }
@@ -34,7 +35,7 @@ UI::View UIGestureRecognizer::view() const
 CGPoint UIGestureRecognizer::locationInView(const UI::View& view) const
 {
     const auto* target = standInOrNull<UIView>(view);
-    return target ? target->convertPointFromView(location, window) : location;
+    return target ? target->convertPointFromView(m_location, m_window) : m_location;
 }
 
 void UIGestureRecognizer::setEnabled(bool wanted)
@@ -48,8 +49,8 @@ void UIGestureRecognizer::setEnabled(bool wanted)
 
 void UIGestureRecognizer::follow(const UITouch& touch)
 {
-    location = touch.location;
-    window = touch.window;
+    m_location = touch.location;
+    m_window = touch.window;
 }
 
 void UIGestureRecognizer::touchesBegan(const NS::Object& touches, const NS::Object&)
@@ -92,7 +93,7 @@ void UIGestureRecognizer::changeState(State next)
     const auto kept = self();
     if (isFirst)
         Finger::shared().recognized(*this);
-    for (const ActionTarget& target : std::vector(targets))
+    for (const ActionTarget& target : std::vector(m_targets))
         sendAction(target, kept, {});
 }
 

@@ -51,9 +51,9 @@ struct UIGestureRecognizer : StandIn {
 private:
     void follow(const UITouch& touch);
 
-    std::vector<ActionTarget> targets;
-    CGPoint location;
-    UI::View window;
+    std::vector<ActionTarget> m_targets;
+    CGPoint m_location;
+    UI::View m_window;
 };
 
 }

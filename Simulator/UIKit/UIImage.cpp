@@ -138,15 +138,15 @@ Graphics::Image::Pointer UIImage::pixels() const
     if (!isSymbol())
         return image;
     auto layer = Graphics::Layer::withFrame({0, 0, image->size().width, image->size().height});
-    layer.content = Graphics::ImageContent{image, Graphics::ContentMode::ScaleToFill, 1, {}};
+    layer.content = Graphics::ImageContent{image, Graphics::ContentMode::scaleToFill, 1, {}};
     return Graphics::rasterize(fontCatalogue(), layer, image->size(), scale);
 }
 
 CGImageRef UIImage::CGImage()
 {
-    if (!reference)
-        reference = makeCGImage(pixels());
-    return reinterpret_cast<CGImageRef>(reference.raw());
+    if (!m_reference)
+        m_reference = makeCGImage(pixels());
+    return reinterpret_cast<CGImageRef>(m_reference.raw());
 }
 
 UI::Image UIImage::withRenderingMode(long mode) const
@@ -161,7 +161,7 @@ UI::Image UIImage::withTintColor(const UI::Color& color) const
 {
     const CGSize points = size();
     auto layer = Graphics::Layer::withFrame({0, 0, points.width, points.height});
-    layer.content = Graphics::ImageContent{image, Graphics::ContentMode::ScaleToFill, scale, resolvedColor(color)};
+    layer.content = Graphics::ImageContent{image, Graphics::ContentMode::scaleToFill, scale, resolvedColor(color)};
     const auto tinted = Graphics::rasterize(fontCatalogue(), layer, {points.width, points.height}, scale);
     UI::Image result = makeImage(tinted, scale, path);
     if (auto* standing = imageStandIn(result))
@@ -174,7 +174,7 @@ void UIImage::drawInRect(CGRect rect) const
     if (!image || !isFinite(rect))
         return;
     auto layer = Graphics::Layer::withFrame(toGraphics(rect));
-    layer.content = Graphics::ImageContent{image, Graphics::ContentMode::ScaleToFill, scale, {}};
+    layer.content = Graphics::ImageContent{image, Graphics::ContentMode::scaleToFill, scale, {}};
     drawIntoImageContext(std::move(layer));
 }
 

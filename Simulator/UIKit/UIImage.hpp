@@ -43,7 +43,7 @@ struct UIImage : StandIn {
     std::string path;
 
 private:
-    ObjC::Object reference;
+    ObjC::Object m_reference;
 };
 
 /// Null for nil and for what is no image.

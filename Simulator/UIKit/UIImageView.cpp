@@ -14,13 +14,13 @@ Graphics::ContentMode contentModeOf(long mode)
 {
     switch (mode) {
     case 0:
-        return Graphics::ContentMode::ScaleToFill;
+        return Graphics::ContentMode::scaleToFill;
     case 1:
-        return Graphics::ContentMode::AspectFit;
+        return Graphics::ContentMode::aspectFit;
     case 2:
-        return Graphics::ContentMode::AspectFill;
+        return Graphics::ContentMode::aspectFill;
     default:
-        return Graphics::ContentMode::Center;
+        return Graphics::ContentMode::center;
     }
 }
 

@@ -49,57 +49,57 @@ void UILabel::initWithFrame(CGRect frame)
 
 NS::String UILabel::text() const
 {
-    return attributed ? attributed.string() : plainText;
+    return m_attributed ? m_attributed.string() : m_plainText;
 }
 
 void UILabel::setText(const NS::String& text)
 {
-    plainText = text.as<NS::String>().send<NS::String, "copy">();
-    attributed = {};
+    m_plainText = text.as<NS::String>().send<NS::String, "copy">();
+    m_attributed = {};
     contentChanged();
 }
 
 NS::AttributedString UILabel::attributedText() const
 {
-    if (attributed || !plainText)
-        return attributed;
+    if (m_attributed || !m_plainText)
+        return m_attributed;
     auto attributes = NS::MutableDictionary::dictionary();
     attributes.setObject(font(), NS::String::fromUTF8(fontAttribute));
     attributes.setObject(textColor(), NS::String::fromUTF8(colorAttribute));
-    return NS::AttributedString::make<"initWithString:attributes:">(plainText, attributes);
+    return NS::AttributedString::make<"initWithString:attributes:">(m_plainText, attributes);
 }
 
 void UILabel::setAttributedText(const NS::AttributedString& text)
 {
-    attributed = text.as<NS::AttributedString>().send<NS::AttributedString, "copy">();
-    plainText = {};
+    m_attributed = text.as<NS::AttributedString>().send<NS::AttributedString, "copy">();
+    m_plainText = {};
     contentChanged();
 }
 
 UI::Font UILabel::font() const
 {
-    return fontObject ? fontObject : UI::Font::systemFontOfSize(defaultFontSize);
+    return m_fontObject ? m_fontObject : UI::Font::systemFontOfSize(defaultFontSize);
 }
 
 void UILabel::setFont(const UI::Font& font)
 {
-    fontObject = standInOrNull<UIFont>(font) ? font : UI::Font();
+    m_fontObject = standInOrNull<UIFont>(font) ? font : UI::Font();
     // It holds for the whole text, whatever its parts had.
-    if (attributed)
-        attributed = withoutAttribute(attributed, fontAttribute);
+    if (m_attributed)
+        m_attributed = withoutAttribute(m_attributed, fontAttribute);
     contentChanged();
 }
 
 UI::Color UILabel::textColor() const
 {
-    return textColorObject ? textColorObject : namedColor("labelColor");
+    return m_textColorObject ? m_textColorObject : namedColor("labelColor");
 }
 
 void UILabel::setTextColor(const UI::Color& color)
 {
-    textColorObject = standInOrNull<UIColor>(color) ? color : UI::Color();
-    if (attributed)
-        attributed = withoutAttribute(attributed, colorAttribute);
+    m_textColorObject = standInOrNull<UIColor>(color) ? color : UI::Color();
+    if (m_attributed)
+        m_attributed = withoutAttribute(m_attributed, colorAttribute);
 }
 
 void UILabel::contentChanged()
@@ -124,18 +124,18 @@ Graphics::TextRun UILabel::plainRun() const
 Graphics::Text UILabel::graphicsText() const
 {
     Graphics::Text result;
-    result.alignment = styleOf(textAlignment, Graphics::TextAlignment::Natural, Graphics::TextAlignment::Natural);
+    result.alignment = styleOf(textAlignment, Graphics::TextAlignment::natural, Graphics::TextAlignment::natural);
     result.lineBreakMode
-        = styleOf(lineBreakMode, Graphics::LineBreakMode::TruncateMiddle, Graphics::LineBreakMode::TruncateTail);
+        = styleOf(lineBreakMode, Graphics::LineBreakMode::truncateMiddle, Graphics::LineBreakMode::truncateTail);
     result.numberOfLines = static_cast<int>(std::clamp(numberOfLines, 0L, 10000L));
     result.adjustsFontSizeToFitWidth = adjustsFontSizeToFitWidth;
     result.minimumScale = minimumScaleFactor;
     const Graphics::TextRun plain = plainRun();
-    if (plainText) {
+    if (m_plainText) {
         result.runs.push_back(plain);
-        result.runs.back().string = plainUtf8(plainText);
+        result.runs.back().string = plainUtf8(m_plainText);
     }
-    for (AttributedRun& run : runsOf(attributed)) {
+    for (AttributedRun& run : runsOf(m_attributed)) {
         result.runs.push_back(plain);
         Graphics::TextRun& drawn = result.runs.back();
         if (const auto* font = standInOrNull<UIFont>(run.attribute(fontAttribute))) {

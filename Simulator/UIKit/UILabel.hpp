@@ -43,10 +43,10 @@ private:
     /// A run without characters in the label's own font and colour.
     Graphics::TextRun plainRun() const;
 
-    NS::String plainText;
-    NS::AttributedString attributed;
-    UI::Font fontObject;
-    UI::Color textColorObject;
+    NS::String m_plainText;
+    NS::AttributedString m_attributed;
+    UI::Font m_fontObject;
+    UI::Color m_textColorObject;
 };
 
 }

@@ -14,15 +14,15 @@ struct UILongPressGestureRecognizer : UIGestureRecognizer {
 
     void began(const UITouch& touch) override
     {
-        start = touch.location;
+        m_start = touch.location;
         stopWaiting();
-        timer = Loop::shared().schedule(
+        m_timer = Loop::shared().schedule(
             minimumPressDuration,
             [this] {
                 if (enabled && viewReference && state == State::possible)
                     changeState(State::began);
             },
-            WorkKind::Timer);
+            WorkKind::timer);
     }
 
     /// The bound holds until the press is recognised; from then on each movement is a change.
@@ -32,7 +32,7 @@ struct UILongPressGestureRecognizer : UIGestureRecognizer {
             changeState(State::changed);
             return;
         }
-        if (std::hypot(touch.location.x - start.x, touch.location.y - start.y) > allowableMovement)
+        if (std::hypot(touch.location.x - m_start.x, touch.location.y - m_start.y) > allowableMovement)
             fail();
     }
 
@@ -54,10 +54,10 @@ struct UILongPressGestureRecognizer : UIGestureRecognizer {
     double allowableMovement = 10;
 
 private:
-    void stopWaiting() { Loop::shared().cancel(std::exchange(timer, 0)); }
+    void stopWaiting() { Loop::shared().cancel(std::exchange(m_timer, 0)); }
 
-    CGPoint start;
-    TimerId timer = 0;
+    CGPoint m_start;
+    TimerId m_timer = 0;
 };
 
 }

@@ -1,3 +1,4 @@
+// Asks data source and delegate, and lays the rows in sight around the middle.
 #include "Simulator/UIKit/UIPickerView.hpp"
 
 #include "Platform/UIKit/UILabel.hpp"
@@ -42,24 +43,24 @@ CGSize UIPickerView::sizeThatFits(CGSize) const
 
 void UIPickerView::setDelegate(const ObjC::Object& object)
 {
-    delegateReference = object.raw();
+    m_delegateReference = object.raw();
     forget();
 }
 
 void UIPickerView::setDataSource(const ObjC::Object& object)
 {
-    dataSourceReference = object.raw();
+    m_dataSourceReference = object.raw();
     forget();
 }
 
 /// What was loaded is of no use any more; it is asked for again when it is needed.
 void UIPickerView::forget()
 {
-    for (const auto& wheel : wheels) {
+    for (const auto& wheel : m_wheels) {
         for (const auto& [row, view] : std::exchange(wheel->views, {}))
             view.removeFromSuperview();
     }
-    isLoaded = false;
+    m_isLoaded = false;
     needsLayout = true;
 }
 
@@ -82,18 +83,18 @@ std::unique_ptr<PickerWheel> UIPickerView::makeWheel(long component)
 
 void UIPickerView::loadIfNeeded()
 {
-    if (isLoaded || !dataSourceReference)
+    if (m_isLoaded || !m_dataSourceReference)
         return;
-    isLoaded = true;
+    m_isLoaded = true;
     const auto picker = self();
     const ObjC::Object source = dataSource();
     const long count = std::clamp(source.send<long, "numberOfComponentsInPickerView:">(picker), 0L, 100L);
-    while (wheels.size() > static_cast<std::size_t>(count))
-        wheels.pop_back();
+    while (m_wheels.size() > static_cast<std::size_t>(count))
+        m_wheels.pop_back();
     for (long i = 0; i < count; ++i) {
-        if (i == static_cast<long>(wheels.size()))
-            wheels.push_back(makeWheel(i));
-        wheels[i]->setRowCount(source.send<long, "pickerView:numberOfRowsInComponent:">(picker, i));
+        if (i == static_cast<long>(m_wheels.size()))
+            m_wheels.push_back(makeWheel(i));
+        m_wheels[i]->setRowCount(source.send<long, "pickerView:numberOfRowsInComponent:">(picker, i));
     }
     needsLayout = true;
 }
@@ -101,13 +102,13 @@ void UIPickerView::loadIfNeeded()
 PickerWheel* UIPickerView::wheelAt(long component)
 {
     loadIfNeeded();
-    return component >= 0 && component < static_cast<long>(wheels.size()) ? wheels[component].get() : nullptr;
+    return component >= 0 && component < static_cast<long>(m_wheels.size()) ? m_wheels[component].get() : nullptr;
 }
 
 long UIPickerView::numberOfComponents()
 {
     loadIfNeeded();
-    return static_cast<long>(wheels.size());
+    return static_cast<long>(m_wheels.size());
 }
 
 long UIPickerView::numberOfRows(long component)
@@ -140,7 +141,7 @@ double UIPickerView::heightOfRow(long component) const
 Graphics::Rect UIPickerView::frameOf(long component) const
 {
     const Graphics::Rect area = toGraphics(bounds()).insetBy(sideMargin, 0);
-    const double width = area.width / std::max<std::size_t>(wheels.size(), 1);
+    const double width = area.width / std::max<std::size_t>(m_wheels.size(), 1);
     return {area.x + component * width, area.y, width, area.height};
 }
 
@@ -177,7 +178,7 @@ UI::View UIPickerView::viewForRow(long row, long component)
 /// The rows in sight stand around the wheel, seen from the front: nearer to its edge they are lower and paler.
 void UIPickerView::placeRows(long component)
 {
-    PickerWheel& wheel = *wheels[component];
+    PickerWheel& wheel = *m_wheels[component];
     const Graphics::Rect area = frameOf(component);
     const double rowHeight = heightOfRow(component);
     const double radius = area.height / 2 / std::sin(farthestAngle);
@@ -209,7 +210,7 @@ void UIPickerView::placeRows(long component)
 void UIPickerView::layoutSubviews()
 {
     loadIfNeeded();
-    for (long i = 0; i < static_cast<long>(wheels.size()); ++i)
+    for (long i = 0; i < static_cast<long>(m_wheels.size()); ++i)
         placeRows(i);
 }
 
@@ -217,7 +218,7 @@ void UIPickerView::decorate(Graphics::Layer& layer) const
 {
     if (!showsSelectionIndicator)
         return;
-    for (long i = 0; i < static_cast<long>(wheels.size()); ++i) {
+    for (long i = 0; i < static_cast<long>(m_wheels.size()); ++i) {
         const Graphics::Rect area = frameOf(i);
         const double height = heightOfRow(i);
         layer.children.push_back(makeBox({area.x, area.center().y - height / 2, area.width, height},
@@ -227,8 +228,8 @@ void UIPickerView::decorate(Graphics::Layer& layer) const
 
 void UIPickerView::describe(nlohmann::json& description) const
 {
-    description["rows"] = wheels.empty() ? 0 : wheels[0]->rowCount();
-    description["selected"] = wheels.empty() ? -1 : wheels[0]->selectedRow();
+    description["rows"] = m_wheels.empty() ? 0 : m_wheels[0]->rowCount();
+    description["selected"] = m_wheels.empty() ? -1 : m_wheels[0]->selectedRow();
 }
 
 static const StandInClass uiPickerView("UIPickerView", "UIView", [](Binder<UIPickerView>& binder) {

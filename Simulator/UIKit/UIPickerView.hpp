@@ -19,9 +19,9 @@ struct UIPickerView : UIView {
     void layoutSubviews();
     UI::View hitTest(CGPoint point, const NS::Object& event) const;
 
-    ObjC::Object delegate() const { return ObjC::Object(delegateReference); }
+    ObjC::Object delegate() const { return ObjC::Object(m_delegateReference); }
     void setDelegate(const ObjC::Object& object);
-    ObjC::Object dataSource() const { return ObjC::Object(dataSourceReference); }
+    ObjC::Object dataSource() const { return ObjC::Object(m_dataSourceReference); }
     void setDataSource(const ObjC::Object& object);
     void reloadAllComponents();
     void reloadComponent(long component);
@@ -54,14 +54,14 @@ private:
     Graphics::Rect frameOf(long component) const;
 
     /// Not retained.
-    id delegateReference = nullptr;
-    id dataSourceReference = nullptr;
-    bool isLoaded = false;
-    std::vector<std::unique_ptr<PickerWheel>> wheels;
+    id m_delegateReference = nullptr;
+    id m_dataSourceReference = nullptr;
+    bool m_isLoaded = false;
+    std::vector<std::unique_ptr<PickerWheel>> m_wheels;
     /// The wheel under the finger; −1 for none.
-    long heldComponent = -1;
-    CGPoint touchStart;
-    bool isDragging = false;
+    long m_heldComponent = -1;
+    CGPoint m_touchStart;
+    bool m_isDragging = false;
 };
 
 }

@@ -32,13 +32,13 @@ UI::View UIPickerView::hitTest(CGPoint point, const NS::Object& event) const
 
 void UIPickerView::touchesBegan(const NS::Object& touches, const NS::Object&)
 {
-    touchStart = touchOf(touches)->locationInView(self<UI::View>());
-    isDragging = false;
-    heldComponent = -1;
+    m_touchStart = touchOf(touches)->locationInView(self<UI::View>());
+    m_isDragging = false;
+    m_heldComponent = -1;
     for (long i = 0; i < numberOfComponents(); ++i) {
-        if (touchStart.x < frameOf(i).right() || i + 1 == numberOfComponents()) {
-            heldComponent = i;
-            wheels[i]->hold();
+        if (m_touchStart.x < frameOf(i).right() || i + 1 == numberOfComponents()) {
+            m_heldComponent = i;
+            m_wheels[i]->hold();
             break;
         }
     }
@@ -46,32 +46,32 @@ void UIPickerView::touchesBegan(const NS::Object& touches, const NS::Object&)
 
 void UIPickerView::touchesMoved(const NS::Object& touches, const NS::Object&)
 {
-    PickerWheel* wheel = wheelAt(heldComponent);
+    PickerWheel* wheel = wheelAt(m_heldComponent);
     if (!wheel)
         return;
     const UITouch& touch = *touchOf(touches);
     const auto view = self<UI::View>();
     const CGPoint point = touch.locationInView(view);
-    const bool begins = !isDragging && std::abs(point.y - touchStart.y) >= leastDrag;
-    isDragging |= begins;
-    if (isDragging) {
-        const double from = begins ? touchStart.y : touch.previousLocationInView(view).y;
-        wheel->drag((from - point.y) / heightOfRow(heldComponent));
+    const bool begins = !m_isDragging && std::abs(point.y - m_touchStart.y) >= leastDrag;
+    m_isDragging |= begins;
+    if (m_isDragging) {
+        const double from = begins ? m_touchStart.y : touch.previousLocationInView(view).y;
+        wheel->drag((from - point.y) / heightOfRow(m_heldComponent));
     }
 }
 
 void UIPickerView::touchesEnded(const NS::Object& touches, const NS::Object& event)
 {
-    PickerWheel* wheel = wheelAt(heldComponent);
+    PickerWheel* wheel = wheelAt(m_heldComponent);
     if (!wheel)
         return;
     UITouch& touch = *touchOf(touches);
     if (touch.location != touch.previousLocation)
         touchesMoved(touches, event);
-    const long component = std::exchange(heldComponent, -1);
+    const long component = std::exchange(m_heldComponent, -1);
     const double y = touch.locationInView(self<UI::View>()).y;
     const double below = (y - frameOf(component).center().y) / heightOfRow(component);
-    if (isDragging)
+    if (m_isDragging)
         wheel->release();
     else
         wheel->tap(std::lround(below));
@@ -79,7 +79,7 @@ void UIPickerView::touchesEnded(const NS::Object& touches, const NS::Object& eve
 
 void UIPickerView::touchesCancelled(const NS::Object&, const NS::Object&)
 {
-    if (PickerWheel* wheel = wheelAt(std::exchange(heldComponent, -1)))
+    if (PickerWheel* wheel = wheelAt(std::exchange(m_heldComponent, -1)))
         wheel->select(wheel->selectedRow(), true);
 }
 

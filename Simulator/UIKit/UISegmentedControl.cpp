@@ -1,3 +1,4 @@
+// Segments: inserted, removed, drawn and chosen by a finger.
 #include "Simulator/UIKit/UISegmentedControl.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
@@ -38,15 +39,15 @@ void UISegmentedControl::initWithItems(const NS::Array& items)
         const auto item = items.at<NS::Object>(i);
         const auto title = item.as<NS::String>();
         if (title || imageStandIn(item))
-            insert({title, title ? UI::Image() : UI::Image(item.raw())}, segments.size());
+            insert({title, title ? UI::Image() : UI::Image(item.raw())}, m_segments.size());
     }
     ObjC::sendMessage<id>(object(), ObjC::selector<"initWithFrame:">(), CGRect{{}, sizeThatFits({})});
 }
 
 void UISegmentedControl::insert(Segment segment, unsigned long index)
 {
-    const auto place = static_cast<long>(std::min<std::size_t>(index, segments.size()));
-    segments.insert(segments.begin() + place, std::move(segment));
+    const auto place = static_cast<long>(std::min<std::size_t>(index, m_segments.size()));
+    m_segments.insert(m_segments.begin() + place, std::move(segment));
     if (selectedSegmentIndex >= place)
         ++selectedSegmentIndex;
 }
@@ -64,10 +65,10 @@ void UISegmentedControl::insertSegmentWithImage(const UI::Image& image, unsigned
 /// An index beyond the end takes the last one.
 void UISegmentedControl::removeSegment(unsigned long index, bool)
 {
-    if (segments.empty())
+    if (m_segments.empty())
         return;
-    const auto place = static_cast<long>(std::min<std::size_t>(index, segments.size() - 1));
-    segments.erase(segments.begin() + place);
+    const auto place = static_cast<long>(std::min<std::size_t>(index, m_segments.size() - 1));
+    m_segments.erase(m_segments.begin() + place);
     if (selectedSegmentIndex == place)
         selectedSegmentIndex = noSegment;
     else if (selectedSegmentIndex > place)
@@ -76,46 +77,46 @@ void UISegmentedControl::removeSegment(unsigned long index, bool)
 
 void UISegmentedControl::removeAllSegments()
 {
-    segments.clear();
+    m_segments.clear();
     selectedSegmentIndex = noSegment;
 }
 
 NS::String UISegmentedControl::titleForSegment(unsigned long index) const
 {
-    return index < segments.size() ? segments[index].title : NS::String();
+    return index < m_segments.size() ? m_segments[index].title : NS::String();
 }
 
 void UISegmentedControl::setTitleForSegment(const NS::String& title, unsigned long index)
 {
-    if (index < segments.size())
-        segments[index] = {title.as<NS::String>(), {}};
+    if (index < m_segments.size())
+        m_segments[index] = {title.as<NS::String>(), {}};
 }
 
 UI::Image UISegmentedControl::imageForSegment(unsigned long index) const
 {
-    return index < segments.size() ? segments[index].image : UI::Image();
+    return index < m_segments.size() ? m_segments[index].image : UI::Image();
 }
 
 void UISegmentedControl::setImageForSegment(const UI::Image& image, unsigned long index)
 {
-    if (index < segments.size())
-        segments[index] = {{}, imageStandIn(image) ? image : UI::Image()};
+    if (index < m_segments.size())
+        m_segments[index] = {{}, imageStandIn(image) ? image : UI::Image()};
 }
 
 void UISegmentedControl::setSelectedSegmentIndex(long index)
 {
-    selectedSegmentIndex = index >= 0 && index < static_cast<long>(segments.size()) ? index : noSegment;
+    selectedSegmentIndex = index >= 0 && index < static_cast<long>(m_segments.size()) ? index : noSegment;
 }
 
 NS::Dictionary UISegmentedControl::titleTextAttributes(unsigned long state) const
 {
-    const auto found = attributes.find(state);
-    return found == attributes.end() ? NS::Dictionary() : found->second;
+    const auto found = m_attributes.find(state);
+    return found == m_attributes.end() ? NS::Dictionary() : found->second;
 }
 
 void UISegmentedControl::setTitleTextAttributes(const NS::Dictionary& wanted, unsigned long state)
 {
-    attributes[state] = wanted.as<NS::Dictionary>();
+    m_attributes[state] = wanted.as<NS::Dictionary>();
 }
 
 UI::Font UISegmentedControl::fontOf(bool isSelected) const
@@ -132,7 +133,7 @@ UI::Font UISegmentedControl::fontOf(bool isSelected) const
 std::vector<double> UISegmentedControl::naturalWidths() const
 {
     std::vector<double> widths;
-    for (const Segment& segment : segments) {
+    for (const Segment& segment : m_segments) {
         const double width
             = segment.image ? segment.image.size().width : measureText(plainUtf8(segment.title), fontOf(true)).width;
         widths.push_back(width + 2 * margin);
@@ -162,32 +163,32 @@ long UISegmentedControl::indexUnder(const NS::Object& touch) const
 {
     const CGPoint point = standIn<UITouch>(touch.raw()).locationInView(self<UI::View>());
     const CGRect area = bounds();
-    if (segments.empty() || !(area.size.width > 0))
+    if (m_segments.empty() || !(area.size.width > 0))
         return noSegment;
-    for (std::size_t i = 0; i + 1 < segments.size(); ++i) {
+    for (std::size_t i = 0; i + 1 < m_segments.size(); ++i) {
         const Graphics::Rect frame = frameOf(i);
         if (point.x < frame.x + frame.width)
             return static_cast<long>(i);
     }
-    return static_cast<long>(segments.size()) - 1;
+    return static_cast<long>(m_segments.size()) - 1;
 }
 
 bool UISegmentedControl::beginTracking(const NS::Object& touch, const NS::Object&)
 {
-    pressedIndex = indexUnder(touch);
+    m_pressedIndex = indexUnder(touch);
     return true;
 }
 
 bool UISegmentedControl::continueTracking(const NS::Object& touch, const NS::Object&)
 {
-    pressedIndex = touchInside ? indexUnder(touch) : noSegment;
+    m_pressedIndex = touchInside ? indexUnder(touch) : noSegment;
     return true;
 }
 
 /// The choice is made where the finger is lifted; the same one again is no change.
 void UISegmentedControl::endTracking(const NS::Object& touch, const NS::Object&)
 {
-    pressedIndex = noSegment;
+    m_pressedIndex = noSegment;
     const long index = indexUnder(touch);
     if (!touchInside || index == selectedSegmentIndex || index == noSegment)
         return;
@@ -197,12 +198,12 @@ void UISegmentedControl::endTracking(const NS::Object& touch, const NS::Object&)
 
 void UISegmentedControl::cancelTracking(const NS::Object&)
 {
-    pressedIndex = noSegment;
+    m_pressedIndex = noSegment;
 }
 
 Graphics::Layer UISegmentedControl::contentOf(std::size_t index) const
 {
-    const Segment& segment = segments[index];
+    const Segment& segment = m_segments[index];
     const bool isSelected = static_cast<long>(index) == selectedSegmentIndex;
     const Graphics::Rect area = frameOf(index).insetBy(inset, inset);
     Graphics::Color ink = systemColor("labelColor");
@@ -212,7 +213,7 @@ Graphics::Layer UISegmentedControl::contentOf(std::size_t index) const
     }
     Graphics::Layer layer = segment.image ? makePicture(area, segment.image, ink)
                                           : makeText(area, plainUtf8(segment.title), fontOf(isSelected), ink);
-    if (static_cast<long>(index) == pressedIndex && !isSelected)
+    if (static_cast<long>(index) == m_pressedIndex && !isSelected)
         layer.opacity = pressedOpacity;
     return layer;
 }
@@ -220,14 +221,14 @@ Graphics::Layer UISegmentedControl::contentOf(std::size_t index) const
 bool UISegmentedControl::isTruncated(std::size_t index) const
 {
     const bool isSelected = static_cast<long>(index) == selectedSegmentIndex;
-    return !textFits(plainUtf8(segments[index].title), fontOf(isSelected), frameOf(index).insetBy(inset, inset));
+    return !textFits(plainUtf8(m_segments[index].title), fontOf(isSelected), frameOf(index).insetBy(inset, inset));
 }
 
 /// Between two segments of which neither is the selected one.
 bool UISegmentedControl::hasDividerAfter(std::size_t index) const
 {
     const auto before = static_cast<long>(index);
-    return index + 1 < segments.size() && before != selectedSegmentIndex && before + 1 != selectedSegmentIndex;
+    return index + 1 < m_segments.size() && before != selectedSegmentIndex && before + 1 != selectedSegmentIndex;
 }
 
 void UISegmentedControl::decorate(Graphics::Layer& layer) const
@@ -235,14 +236,14 @@ void UISegmentedControl::decorate(Graphics::Layer& layer) const
     UIControl::decorate(layer);
     layer.children.push_back(makeBox(toGraphics(bounds()), systemColor("tertiarySystemFillColor"), cornerRadius));
     if (selectedSegmentIndex != noSegment) {
-        const bool isDark = DeviceState::shared().style == InterfaceStyle::Dark;
+        const bool isDark = DeviceState::shared().style == InterfaceStyle::dark;
         const Graphics::Color pill = isDark ? systemColor("systemGray2Color") : Graphics::Color{1, 1, 1, 1};
         const Graphics::Rect area = frameOf(selectedSegmentIndex).insetBy(inset, inset);
         Graphics::Layer box = makeBox(area, resolvedColor(selectedSegmentTint).value_or(pill), cornerRadius - inset);
         box.shadow = softShadow(4, 3);
         layer.children.push_back(std::move(box));
     }
-    for (std::size_t i = 0; i < segments.size(); ++i) {
+    for (std::size_t i = 0; i < m_segments.size(); ++i) {
         layer.children.push_back(contentOf(i));
         const Graphics::Rect area = frameOf(i);
         if (hasDividerAfter(i))
@@ -255,9 +256,9 @@ void UISegmentedControl::describe(nlohmann::json& description) const
 {
     description["segments"] = nlohmann::json::array();
     bool truncated = false;
-    for (std::size_t i = 0; i < segments.size(); ++i) {
-        const UIImage* picture = imageStandIn(segments[i].image);
-        description["segments"].push_back(picture ? picture->path : plainUtf8(segments[i].title));
+    for (std::size_t i = 0; i < m_segments.size(); ++i) {
+        const UIImage* picture = imageStandIn(m_segments[i].image);
+        description["segments"].push_back(picture ? picture->path : plainUtf8(m_segments[i].title));
         truncated = truncated || isTruncated(i);
     }
     description["truncated"] = truncated;

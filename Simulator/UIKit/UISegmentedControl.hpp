@@ -18,7 +18,7 @@ struct UISegmentedControl : UIControl {
     CGSize sizeThatFits(CGSize) const;
     CGSize intrinsicContentSize() const { return sizeThatFits({}); }
 
-    unsigned long numberOfSegments() const { return segments.size(); }
+    unsigned long numberOfSegments() const { return m_segments.size(); }
     void insertSegmentWithTitle(const NS::String& title, unsigned long index, bool animated);
     void insertSegmentWithImage(const UI::Image& image, unsigned long index, bool animated);
     void removeSegment(unsigned long index, bool animated);
@@ -55,9 +55,9 @@ private:
     bool isTruncated(std::size_t index) const;
     bool hasDividerAfter(std::size_t index) const;
 
-    std::vector<Segment> segments;
-    std::map<unsigned long, NS::Dictionary> attributes;
-    long pressedIndex = UI::SegmentedControl::noSegment;
+    std::vector<Segment> m_segments;
+    std::map<unsigned long, NS::Dictionary> m_attributes;
+    long m_pressedIndex = UI::SegmentedControl::noSegment;
 };
 
 }

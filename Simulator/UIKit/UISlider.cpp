@@ -1,3 +1,4 @@
+// The thumb's place for a value, and the value for a finger's place.
 #include "Simulator/UIKit/UISlider.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
@@ -107,13 +108,13 @@ bool UISlider::beginTracking(const NS::Object& touch, const NS::Object&)
 {
     const double x = standIn<UITouch>(touch.raw()).locationInView(self<UI::View>()).x;
     const Graphics::Rect held = thumb();
-    grip = x - held.center().x;
-    return std::abs(grip) <= held.width / 2 + reach;
+    m_grip = x - held.center().x;
+    return std::abs(m_grip) <= held.width / 2 + reach;
 }
 
 bool UISlider::continueTracking(const NS::Object& touch, const NS::Object&)
 {
-    const double x = standIn<UITouch>(touch.raw()).locationInView(self<UI::View>()).x - grip;
+    const double x = standIn<UITouch>(touch.raw()).locationInView(self<UI::View>()).x - m_grip;
     const Graphics::Rect rail = track();
     const double way = rail.width - thumbDiameter;
     const double share = way > 0 ? std::clamp((x - rail.x - thumbDiameter / 2) / way, 0.0, 1.0) : 0;

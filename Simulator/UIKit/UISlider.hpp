@@ -39,7 +39,7 @@ private:
     Graphics::Rect thumb() const;
 
     /// How far the finger is from the middle of the thumb that it holds.
-    double grip = 0;
+    double m_grip = 0;
 };
 
 }

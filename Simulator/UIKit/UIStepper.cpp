@@ -1,3 +1,4 @@
+// Steps by taps, and on their own while a finger stays.
 #include "Simulator/UIKit/UIStepper.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
@@ -93,45 +94,45 @@ bool UIStepper::canStep(int direction) const
 
 void UIStepper::step()
 {
-    if (!canStep(pressed))
+    if (!canStep(m_pressed))
         return;
-    const double next = value + pressed * stepValue;
+    const double next = value + m_pressed * stepValue;
     if (wraps && next > maximumValue)
         setValue(minimumValue);
     else if (wraps && next < minimumValue)
         setValue(maximumValue);
     else
         setValue(next);
-    hasStepped = true;
+    m_hasStepped = true;
     if (continuous)
         send(Events::valueChanged);
 }
 
 void UIStepper::repeatAfter(double seconds)
 {
-    timer = Loop::shared().schedule(
+    m_timer = Loop::shared().schedule(
         seconds,
         [this] {
             const auto kept = self();
-            timer = 0;
+            m_timer = 0;
             step();
-            if (pressed && canStep(pressed))
+            if (m_pressed && canStep(m_pressed))
                 repeatAfter(repeatInterval);
         },
-        WorkKind::Timer);
+        WorkKind::timer);
 }
 
 void UIStepper::stopRepeating()
 {
-    Loop::shared().cancel(std::exchange(timer, 0));
-    pressed = 0;
+    Loop::shared().cancel(std::exchange(m_timer, 0));
+    m_pressed = 0;
 }
 
 bool UIStepper::beginTracking(const NS::Object& touch, const NS::Object&)
 {
     const double x = standIn<UITouch>(touch.raw()).locationInView(self<UI::View>()).x;
-    pressed = x < bounds().origin.x + bounds().size.width / 2 ? -1 : 1;
-    hasStepped = false;
+    m_pressed = x < bounds().origin.x + bounds().size.width / 2 ? -1 : 1;
+    m_hasStepped = false;
     if (autorepeat)
         repeatAfter(pauseBeforeRepeating);
     step();
@@ -149,7 +150,7 @@ bool UIStepper::continueTracking(const NS::Object&, const NS::Object&)
 void UIStepper::endTracking(const NS::Object&, const NS::Object&)
 {
     stopRepeating();
-    if (hasStepped && !continuous)
+    if (m_hasStepped && !continuous)
         send(Events::valueChanged);
 }
 
@@ -167,7 +168,7 @@ void UIStepper::decorate(Graphics::Layer& layer) const
     for (int direction : {-1, 1}) {
         const Graphics::Rect half{
             direction < 0 ? area.x : area.x + area.width / 2, area.y, area.width / 2, area.height};
-        if (pressed == direction)
+        if (m_pressed == direction)
             layer.children.push_back(makeBox(half, systemColor("systemFillColor"), cornerRadius));
         Graphics::Color ink = systemColor("labelColor");
         ink.a = canStep(direction) ? 1 : 0.3;

@@ -43,9 +43,9 @@ private:
     bool canStep(int direction) const;
 
     /// −1 on the minus, 1 on the plus, 0 while no finger is on either.
-    int pressed = 0;
-    bool hasStepped = false;
-    TimerId timer = 0;
+    int m_pressed = 0;
+    bool m_hasStepped = false;
+    TimerId m_timer = 0;
 };
 
 }

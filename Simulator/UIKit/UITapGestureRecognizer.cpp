@@ -16,8 +16,8 @@ struct UITapGestureRecognizer : UIGestureRecognizer {
     /// A tap on a control is the control's, not that of a view around it.
     void began(const UITouch& touch) override
     {
-        start = touch.location;
-        startTime = touch.timestamp;
+        m_start = touch.location;
+        m_startTime = touch.timestamp;
         const auto* control = standInOrNull<UIControl>(touch.view);
         if (control && control != viewReference)
             fail();
@@ -25,7 +25,7 @@ struct UITapGestureRecognizer : UIGestureRecognizer {
 
     void moved(const UITouch& touch) override
     {
-        if (std::hypot(touch.location.x - start.x, touch.location.y - start.y) > greatestMovement)
+        if (std::hypot(touch.location.x - m_start.x, touch.location.y - m_start.y) > greatestMovement)
             fail();
     }
 
@@ -35,7 +35,7 @@ struct UITapGestureRecognizer : UIGestureRecognizer {
         if (state != State::possible)
             return;
         const unsigned long required = numberOfTapsRequired ? numberOfTapsRequired : 1;
-        if (touch.timestamp - startTime > longestTap || touch.tapCount % required != 0)
+        if (touch.timestamp - m_startTime > longestTap || touch.tapCount % required != 0)
             fail();
         else
             changeState(State::ended);
@@ -44,8 +44,8 @@ struct UITapGestureRecognizer : UIGestureRecognizer {
     unsigned long numberOfTapsRequired = 1;
 
 private:
-    CGPoint start;
-    double startTime = 0;
+    CGPoint m_start;
+    double m_startTime = 0;
 };
 
 }

@@ -1,3 +1,4 @@
+// Places of a touch in each view's own coordinates.
 #include "Simulator/UIKit/UITouch.hpp"
 
 #include "Simulator/Runtime/StandInClass.hpp"

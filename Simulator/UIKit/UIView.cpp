@@ -33,8 +33,8 @@ UIView::~UIView()
         standIn<UIGestureRecognizer>(recognizer.raw()).viewReference = nullptr;
     for (const UI::View& child : children)
         standIn<UIView>(child.raw()).parent = nullptr;
-    if (layerObject)
-        standIn<CALayer>(layerObject.raw()).detachFromView();
+    if (m_layerObject)
+        standIn<CALayer>(m_layerObject.raw()).detachFromView();
 }
 
 UI::Responder UIView::nextResponder() const
@@ -140,18 +140,18 @@ void UIView::notifyTintChange()
 
 CA::Layer UIView::layer()
 {
-    if (!layerObject) {
-        layerObject = CA::Layer::make();
-        auto& made = standIn<CALayer>(layerObject.raw());
+    if (!m_layerObject) {
+        m_layerObject = CA::Layer::make();
+        auto& made = standIn<CALayer>(m_layerObject.raw());
         made.viewProperties = &properties;
         made.viewObject = object();
     }
-    return layerObject;
+    return m_layerObject;
 }
 
 const CALayer* UIView::layerIfMade() const
 {
-    return standInOrNull<CALayer>(layerObject);
+    return standInOrNull<CALayer>(m_layerObject);
 }
 
 NS::Object UIView::traitCollection() const

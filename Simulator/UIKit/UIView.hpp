@@ -147,7 +147,7 @@ private:
     LayerProperties& changing();
     void followSuperviewSize(CGSize previous, CGSize current);
 
-    CA::Layer layerObject;
+    CA::Layer m_layerObject;
 };
 
 /// Lays out all views of the tree that need it, until none does.

@@ -10,7 +10,7 @@ namespace Simulator {
 
 UIViewController::~UIViewController()
 {
-    if (auto* view = standInOrNull<UIView>(viewObject))
+    if (auto* view = standInOrNull<UIView>(m_viewObject))
         view->controller = nullptr;
     for (const UI::ViewController& child : children)
         standIn<UIViewController>(child.raw()).parent = nullptr;
@@ -18,27 +18,27 @@ UIViewController::~UIViewController()
 
 UI::Responder UIViewController::nextResponder() const
 {
-    return viewObject.superview();
+    return m_viewObject.superview();
 }
 
 UI::View UIViewController::view()
 {
-    if (viewObject || isLoading)
-        return viewObject;
-    isLoading = true;
+    if (m_viewObject || m_isLoading)
+        return m_viewObject;
+    m_isLoading = true;
     self().send<void, "loadView">();
-    isLoading = false;
-    if (viewObject)
+    m_isLoading = false;
+    if (m_viewObject)
         self().send<void, "viewDidLoad">();
-    return viewObject;
+    return m_viewObject;
 }
 
 void UIViewController::setView(const UI::View& view)
 {
-    if (auto* previous = standInOrNull<UIView>(viewObject))
+    if (auto* previous = standInOrNull<UIView>(m_viewObject))
         previous->controller = nullptr;
     auto* next = standInOrNull<UIView>(view);
-    viewObject = next ? view : UI::View();
+    m_viewObject = next ? view : UI::View();
     if (next)
         next->controller = this;
 }
@@ -86,14 +86,14 @@ void UIViewController::endAppearanceTransition()
 
 bool UIViewController::isViewInParent() const
 {
-    return viewObject && parent && parent->viewObject
-        && standIn<UIView>(viewObject.raw()).isOrIsInside(standIn<UIView>(parent->viewObject.raw()));
+    return m_viewObject && parent && parent->m_viewObject
+        && standIn<UIView>(m_viewObject.raw()).isOrIsInside(standIn<UIView>(parent->m_viewObject.raw()));
 }
 
 void UIViewController::viewMovedToWindow()
 {
     const bool isShown = isViewInParent() && parent->appearance == Appearance::appeared
-        && standIn<UIView>(viewObject.raw()).windowReference();
+        && standIn<UIView>(m_viewObject.raw()).windowReference();
     const bool isOver = !isShown && parent && appearance == Appearance::appeared;
     if (!isOver && !(isShown && appearance == Appearance::disappeared))
         return;

@@ -17,8 +17,8 @@ struct UIViewController : UIResponder {
     void init() { }
     /// The view, loaded when first asked for: `loadView`, then `viewDidLoad`, by message.
     UI::View view();
-    UI::View viewIfLoaded() const { return viewObject; }
-    bool isViewLoaded() const { return static_cast<bool>(viewObject); }
+    UI::View viewIfLoaded() const { return m_viewObject; }
+    bool isViewLoaded() const { return static_cast<bool>(m_viewObject); }
     void loadViewIfNeeded() { view(); }
     void setView(const UI::View& view);
     void loadView();
@@ -49,8 +49,8 @@ struct UIViewController : UIResponder {
 private:
     bool isViewInParent() const;
 
-    UI::View viewObject;
-    bool isLoading = false;
+    UI::View m_viewObject;
+    bool m_isLoading = false;
 };
 
 }

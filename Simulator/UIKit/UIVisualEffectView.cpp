@@ -83,7 +83,7 @@ Graphics::LayerContent UIVisualEffectView::layerContent() const
         if (static_cast<long>(candidate.style) == style())
             material = &candidate;
     }
-    const bool isDark = DeviceState::shared().style == InterfaceStyle::Dark;
+    const bool isDark = DeviceState::shared().style == InterfaceStyle::dark;
     return Graphics::BackdropBlur{material->radius, isDark ? material->dark : material->light};
 }
 

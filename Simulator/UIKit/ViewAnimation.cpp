@@ -1,3 +1,4 @@
+// Runs the changes, lets the layers follow, and tells of the end by the loop.
 #include "Simulator/UIKit/ViewAnimation.hpp"
 
 #include "Simulator/Loop/Loop.hpp"
@@ -43,16 +44,16 @@ void keepFramesComing(double end)
 {
     constexpr double frame = 1.0 / 60;
     Loop& loop = Loop::shared();
-    if (loop.clockKind() == ClockKind::Real && loop.uptime() < end)
+    if (loop.clockKind() == ClockKind::realTime && loop.uptime() < end)
         loop.schedule(
-            frame, [end] { keepFramesComing(end); }, WorkKind::Animation);
+            frame, [end] { keepFramesComing(end); }, WorkKind::animation);
 }
 
 void runCompletion(double seconds, void* completion)
 {
     const KeptBlock<void(bool)> block(completion);
     Loop::shared().schedule(
-        seconds, [block] { block(true); }, WorkKind::Animation);
+        seconds, [block] { block(true); }, WorkKind::animation);
 }
 
 }

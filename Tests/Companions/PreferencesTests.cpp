@@ -184,7 +184,7 @@ TEST_F(Preferences, TellWhatTheLastBoundVariableHolds)
     preferences.registerObject(&size.object, "90"_ns, "boundSize"_ns);
     preferences.registerBool(&enabled, true, "boundFlag"_ns);
     EXPECT_EQ(jsonOfValue(boundValue("boundSize")->object), Json("90"));
-    EXPECT_EQ(boundValue("boundFlag")->kind, BoundValue::Kind::Boolean);
+    EXPECT_EQ(boundValue("boundFlag")->kind, BoundValue::Kind::boolean);
     EXPECT_TRUE(boundValue("boundFlag")->boolean);
     EXPECT_FALSE(boundValue("neverBound").has_value());
 }
@@ -209,7 +209,7 @@ TEST_F(Preferences, RecordWhatTheProgramStoresButNotWhatThePaneStores)
 
 TEST_F(Preferences, KeepValuesInMemoryWhileTheDiskFails)
 {
-    PhoneFiles::shared().setFault(file, FileOperation::Write, ENOSPC);
+    PhoneFiles::shared().setFault(file, FileOperation::write, ENOSPC);
     Bound size;
     const auto preferences = open();
     preferences.registerObject(&size.object, "90"_ns, "size"_ns);

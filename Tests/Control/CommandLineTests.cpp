@@ -24,10 +24,9 @@ TEST(CommandLine, SaysEverythingOnHelp)
     const Finished finished = runProgram({"--help"});
     EXPECT_EQ(finished.status, 0);
     EXPECT_EQ(finished.errors, "");
-    for (const char* word :
-        {"render", "serve", "--stdio", "--settings", "--colours", "--wallpaper", "--screen", "--time", "--time-zone",
-            "--locale", "--language", "--style", "--font", "--device", "--bare", "--strict", "--verbose", "-o", "--version",
-            "WxH@S"})
+    for (const char* word : {"render", "serve", "--stdio", "--settings", "--colours", "--wallpaper", "--screen",
+             "--time", "--time-zone", "--locale", "--language", "--style", "--font", "--device", "--bare", "--strict",
+             "--verbose", "-o", "--version", "WxH@S"})
         EXPECT_NE(finished.output.find(word), std::string::npos) << word;
     EXPECT_EQ(finished.output.find("--fd"), std::string::npos);
 }

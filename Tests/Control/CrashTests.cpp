@@ -6,7 +6,7 @@
 
 namespace {
 
-// The shell process, without asking it.
+/// The shell process, without asking it.
 pid_t onlyChild()
 {
     pid_t pid = 0;
@@ -20,7 +20,7 @@ TEST_F(SupervisorTest, BringsThePhoneBackInSafeModeAfterACrash)
 {
     call("phone.start");
     call("clock.advance", {{"seconds", 5}});
-    EXPECT_EQ(errorOf("fake.crash", {{"signal", SIGSEGV}}, ErrorCode::ShellEnded),
+    EXPECT_EQ(errorOf("fake.crash", {{"signal", SIGSEGV}}, ErrorCode::shellEnded),
         "the shell process ended during fake.crash: signal SIGSEGV (11); the phone is back in safe mode");
     const Json info = call("phone.info");
     EXPECT_EQ(info["running"], true);
@@ -35,11 +35,11 @@ TEST_F(SupervisorTest, BringsThePhoneBackInSafeModeAfterACrash)
 TEST_F(SupervisorTest, SaysHowTheShellEnded)
 {
     call("phone.start");
-    EXPECT_EQ(errorOf("fake.exit", {{"status", 3}}, ErrorCode::ShellEnded),
+    EXPECT_EQ(errorOf("fake.exit", {{"status", 3}}, ErrorCode::shellEnded),
         "the shell process ended during fake.exit: exit status 3; the phone is back in safe mode");
-    EXPECT_EQ(errorOf("fake.exit", {{"status", 0}}, ErrorCode::ShellEnded),
+    EXPECT_EQ(errorOf("fake.exit", {{"status", 0}}, ErrorCode::shellEnded),
         "the shell process ended during fake.exit: exit status 0; the phone is back in safe mode");
-    EXPECT_EQ(errorOf("fake.crash", {{"signal", SIGABRT}}, ErrorCode::ShellEnded),
+    EXPECT_EQ(errorOf("fake.crash", {{"signal", SIGABRT}}, ErrorCode::shellEnded),
         "the shell process ended during fake.crash: signal SIGABRT (6); the phone is back in safe mode");
     EXPECT_EQ(call("phone.info")["running"], true);
 }
@@ -47,7 +47,7 @@ TEST_F(SupervisorTest, SaysHowTheShellEnded)
 TEST_F(SupervisorTest, TakesTheStatusOfARelaunchForACrashWhenNobodyAskedForOne)
 {
     call("phone.start");
-    errorOf("fake.exit", {{"status", relaunchStatus}}, ErrorCode::ShellEnded);
+    errorOf("fake.exit", {{"status", relaunchStatus}}, ErrorCode::shellEnded);
     EXPECT_EQ(call("phone.info")["safeMode"], true);
     EXPECT_EQ(call("phone.info")["restarts"], 0);
 }
@@ -55,7 +55,7 @@ TEST_F(SupervisorTest, TakesTheStatusOfARelaunchForACrashWhenNobodyAskedForOne)
 TEST_F(SupervisorTest, LeavesSafeModeByARelaunch)
 {
     call("phone.start");
-    errorOf("fake.crash", {{"signal", SIGABRT}}, ErrorCode::ShellEnded);
+    errorOf("fake.crash", {{"signal", SIGABRT}}, ErrorCode::shellEnded);
     call("fake.relaunch");
     EXPECT_EQ(call("phone.info")["safeMode"], false);
     EXPECT_EQ(call("phone.info")["restarts"], 1);
@@ -89,12 +89,12 @@ TEST_F(SupervisorTest, NoticesACrashBetweenRequests)
 
 TEST_F(SupervisorTest, GivesUpWhenSafeModeCrashesAtItsStartToo)
 {
-    EXPECT_EQ(errorOf("phone.start", {{"settings", {{"crashAtStart", "always"}}}}, ErrorCode::ShellEnded),
+    EXPECT_EQ(errorOf("phone.start", {{"settings", {{"crashAtStart", "always"}}}}, ErrorCode::shellEnded),
         "no phone runs: the shell process ended again in safe mode: signal SIGABRT (6)");
     const Json info = call("phone.info");
     EXPECT_EQ(info["running"], false);
     EXPECT_EQ(info["starts"], 2);
-    EXPECT_EQ(errorOf("view.tree", Json::object(), ErrorCode::NoPhone),
+    EXPECT_EQ(errorOf("view.tree", Json::object(), ErrorCode::noPhone),
         "no phone runs: the shell process ended again in safe mode: signal SIGABRT (6)");
 }
 
@@ -112,7 +112,7 @@ TEST_F(SupervisorTest, GivesUpWhenSafeModeEndsBeforeItServedAnything)
 
 TEST_F(SupervisorTest, ComesUpInSafeModeWhenTheExtensionCrashesAtTheStart)
 {
-    EXPECT_EQ(errorOf("phone.start", {{"settings", {{"crashAtStart", "once"}}}}, ErrorCode::ShellEnded),
+    EXPECT_EQ(errorOf("phone.start", {{"settings", {{"crashAtStart", "once"}}}}, ErrorCode::shellEnded),
         "the shell process ended during phone.start: signal SIGABRT (6); the phone is back in safe mode");
     EXPECT_EQ(call("phone.info")["running"], true);
     EXPECT_EQ(call("phone.info")["safeMode"], true);
@@ -120,7 +120,7 @@ TEST_F(SupervisorTest, ComesUpInSafeModeWhenTheExtensionCrashesAtTheStart)
 
 TEST_F(SupervisorTest, DoesNotRelaunchForever)
 {
-    EXPECT_EQ(errorOf("phone.start", {{"settings", {{"relaunchAtStart", true}}}}, ErrorCode::ShellEnded),
+    EXPECT_EQ(errorOf("phone.start", {{"settings", {{"relaunchAtStart", true}}}}, ErrorCode::shellEnded),
         "the shell process ended during phone.start: a relaunch wanted again and again; the phone is back in safe "
         "mode");
     EXPECT_EQ(call("phone.info")["safeMode"], true);
@@ -130,7 +130,7 @@ TEST_F(SupervisorTest, DoesNotRelaunchForever)
 TEST_F(SupervisorTest, EndsAShellThatDoesNotMakeSense)
 {
     call("phone.start");
-    EXPECT_EQ(errorOf("fake.babble", Json::object(), ErrorCode::ShellEnded),
+    EXPECT_EQ(errorOf("fake.babble", Json::object(), ErrorCode::shellEnded),
         "the shell process ended during fake.babble: signal SIGKILL (9); the phone is back in safe mode");
     EXPECT_EQ(call("phone.info")["running"], true);
 }

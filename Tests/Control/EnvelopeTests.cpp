@@ -7,11 +7,11 @@ using namespace Simulator::Control;
 
 namespace {
 
-// Answers with the method and its parameters; "refuse" and "break" fail.
+/// Answers with the method and its parameters; "refuse" and "break" fail.
 Json echo(const std::string& method, const Json& parameters)
 {
     if (method == "refuse")
-        throw ProtocolError(ErrorCode::NotFound, "nothing there");
+        throw ProtocolError(ErrorCode::notFound, "nothing there");
     if (method == "break")
         throw std::runtime_error("broken");
     return {{"method", method}, {"params", parameters}};

@@ -21,32 +21,32 @@ public:
     void start(const ShellStart& start) override
     {
         const Json settings = start.parameters.value("settings", Json::object());
-        _start = start;
-        _isStarted = true;
+        m_start = start;
+        m_isStarted = true;
         if (start.state.is_object()) {
-            _time = start.state.at("time");
-            _notes = start.state.at("notes");
+            m_time = start.state.at("time");
+            m_notes = start.state.at("notes");
         }
         if (settings.contains("refuseToStart"))
             throw std::runtime_error("the fake phone refuses to start");
         if (settings.contains("crashAtStart") && (settings["crashAtStart"] == "always" || !start.isSafeMode))
             std::abort();
-        _wantsRelaunch = settings.contains("relaunchAtStart") && !start.isSafeMode;
+        m_wantsRelaunch = settings.contains("relaunchAtStart") && !start.isSafeMode;
     }
 
-    Json state() const override { return {{"time", _time}, {"notes", _notes}}; }
-    bool wantsRelaunch() const override { return _wantsRelaunch; }
-    std::optional<double> nextDue() const override { return _later.empty() ? std::nullopt : std::optional(0.0); }
+    Json state() const override { return {{"time", m_time}, {"notes", m_notes}}; }
+    bool wantsRelaunch() const override { return m_wantsRelaunch; }
+    std::optional<double> nextDue() const override { return m_later.empty() ? std::nullopt : std::optional(0.0); }
 
     void runDue() override
     {
-        if (!_isStarted)
+        if (!m_isStarted)
             std::abort(); // there is nothing yet that could be due
-        if (_later == "crash")
+        if (m_later == "crash")
             std::raise(SIGSEGV);
-        if (_later == "relaunch")
-            _wantsRelaunch = true;
-        _later.clear();
+        if (m_later == "relaunch")
+            m_wantsRelaunch = true;
+        m_later.clear();
     }
 
     void addMethods(Dispatcher& dispatcher) override
@@ -60,10 +60,10 @@ public:
         };
         add("fake.echo", [](const Json& parameters) { return parameters; });
         add("fake.note", [this](const Json& parameters) {
-            _notes.push_back(parameters.at("text"));
-            return Json{{"notes", _notes}};
+            m_notes.push_back(parameters.at("text"));
+            return Json{{"notes", m_notes}};
         });
-        add("fake.start", [this](const Json&) { return toJson(_start); });
+        add("fake.start", [this](const Json&) { return toJson(m_start); });
         add("fake.crash", [](const Json& parameters) {
             std::raise(parameters.at("signal").get<int>());
             return Json::object();
@@ -74,12 +74,12 @@ public:
                 pause();
         });
         add("fake.relaunch", [this](const Json&) {
-            _wantsRelaunch = true;
+            m_wantsRelaunch = true;
             return Json{{"asked", true}};
         });
         add("fake.babble", [this](const Json&) { return babble(); });
         add("fake.later", [this](const Json& parameters) {
-            _later = parameters.at("what");
+            m_later = parameters.at("what");
             return Json::object();
         });
     }
@@ -88,29 +88,29 @@ private:
     void addProtocolMethods(Dispatcher& dispatcher)
     {
         dispatcher.add("phone.info", [this](const Json&) {
-            return Json{{"time", _time}, {"screen", _start.parameters.value("screen", Json())}};
+            return Json{{"time", m_time}, {"screen", m_start.parameters.value("screen", Json())}};
         });
         const auto pass = [this](const Json& parameters) {
-            _time += parameters.value("seconds", 0.0);
+            m_time += parameters.value("seconds", 0.0);
             return Json::object();
         };
         dispatcher.add("phone.timer", [this](const Json& parameters) {
-            _timer = parameters.at("seconds");
+            m_timer = parameters.at("seconds");
             return Json::object();
         });
         dispatcher.add("clock.advance", pass);
         dispatcher.add("clock.settle", pass);
         dispatcher.add("screen.capture", [this](const Json& parameters) {
             const std::string path = parameters.at("path");
-            Json picture = toJson(_start);
-            if (!_timer.is_null())
-                picture["timer"] = _timer;
+            Json picture = toJson(m_start);
+            if (!m_timer.is_null())
+                picture["timer"] = m_timer;
             std::ofstream(path) << toLine(picture);
             return Json::object();
         });
     }
 
-    // Writes what is no document where the next reply is expected.
+    /// Writes what is no document where the next reply is expected.
     Json babble() const
     {
         // The supervisor's end is the one socket among what the process inherited.
@@ -123,13 +123,13 @@ private:
         return Json::object();
     }
 
-    ShellStart _start;
-    bool _isStarted = false;
-    double _time = 0;
-    Json _timer;
-    Json _notes = Json::array();
-    std::string _later;
-    bool _wantsRelaunch = false;
+    ShellStart m_start;
+    bool m_isStarted = false;
+    double m_time = 0;
+    Json m_timer;
+    Json m_notes = Json::array();
+    std::string m_later;
+    bool m_wantsRelaunch = false;
 };
 
 }
@@ -137,7 +137,7 @@ private:
 const std::vector<Method>& methods()
 {
     static const std::vector<Method> all = [] {
-        constexpr auto required = Presence::Required;
+        constexpr auto required = Presence::required;
         std::vector<Method> methods = protocolMethods();
         methods.insert(methods.end(),
             {{"fake.echo", {{"value", anything(), required}}}, {"fake.note", {{"text", text(), required}}},

@@ -263,7 +263,7 @@ TEST_F(OutputFiles, AreTheProcesssOwnStreamsUnlessItNeedsThem)
     EXPECT_EQ(write(stream.number(), "before ", 7), 7);
     EXPECT_EQ(complaintAbout(name), "");
     EXPECT_EQ(folder.read("stream"), "before new") << "a stream goes on where it was";
-    EXPECT_EQ(complaintAbout(name, OutputFile::OwnStreams::Refused),
+    EXPECT_EQ(complaintAbout(name, OutputFile::OwnStreams::refused),
         name + ": cannot be written: this program needs its streams for itself");
     EXPECT_TRUE(OutputFile("/dev/stdout").isStandardOutput());
     EXPECT_FALSE(OutputFile(name).isStandardOutput());

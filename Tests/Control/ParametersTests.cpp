@@ -9,8 +9,8 @@ using namespace Simulator::Control;
 namespace {
 
 const Method example{"example.do",
-    {{"name", text(), Presence::Required}, {"battery", object({{"level", number(0, 1)}, {"lowPower", boolean()}})},
-        {"events", listOf(object({{"title", text(), Presence::Required}}))}, {"alarm", orNull(localTime())},
+    {{"name", text(), Presence::required}, {"battery", object({{"level", number(0, 1)}, {"lowPower", boolean()}})},
+        {"events", listOf(object({{"title", text(), Presence::required}}))}, {"alarm", orNull(localTime())},
         {"settings", mapOf(storedText(), scalar())}, {"target", oneMemberOf({{"class", text()}, {"id", text()}})}}};
 
 std::string errorOf(const Json& parameters)
@@ -19,7 +19,7 @@ std::string errorOf(const Json& parameters)
         checkParameters(example, parameters);
         return "";
     } catch (const ProtocolError& error) {
-        EXPECT_EQ(error.code(), ErrorCode::BadParameters);
+        EXPECT_EQ(error.code(), ErrorCode::badParameters);
         return error.what();
     }
 }
@@ -102,7 +102,7 @@ TEST(Dispatcher, NamesAMethodThatItDoesNotKnow)
         Dispatcher().call("view.got", Json::object());
         FAIL();
     } catch (const ProtocolError& error) {
-        EXPECT_EQ(error.code(), ErrorCode::NoSuchMethod);
+        EXPECT_EQ(error.code(), ErrorCode::noSuchMethod);
         EXPECT_STREQ(error.what(), "no such method: \"view.got\"");
     }
 }

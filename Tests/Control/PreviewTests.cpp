@@ -11,7 +11,7 @@ namespace {
 
 class PreviewRoot : public testing::Test {
 protected:
-    // Whether the preview comes up and keeps its phone in the folder.
+    /// Whether the preview comes up and keeps its phone in the folder.
     void expectPhoneIn(const std::string& root)
     {
         Program preview({"preview", "--root", root});

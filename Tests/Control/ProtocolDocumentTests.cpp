@@ -24,7 +24,7 @@ std::string document()
 
 std::string nameOf(const Parameter& parameter)
 {
-    return "`" + parameter.name + "`" + (parameter.presence == Presence::Optional ? "?" : "");
+    return "`" + parameter.name + "`" + (parameter.presence == Presence::optional ? "?" : "");
 }
 
 void replace(std::string& text, const std::string& part, const std::string& by)

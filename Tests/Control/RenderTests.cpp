@@ -22,7 +22,7 @@ namespace {
 const std::string settingsOnPhone = "/var/mobile/Library/Preferences/com.ostrel.lyrprefs.plist";
 const std::string coloursOnPhone = "/var/mobile/Library/Preferences/com.ostrel.colorslyr.plist";
 
-// The host's time, so far east of UTC.
+/// The host's time, so far east of UTC.
 std::string timeInZone(std::chrono::hours east)
 {
     const std::time_t moment = std::chrono::system_clock::to_time_t(std::chrono::system_clock::now() + east);
@@ -40,7 +40,7 @@ protected:
         return runProgram(arguments);
     }
 
-    // The parameters of `phone.start` that the options lead to.
+    /// The parameters of `phone.start` that the options lead to.
     Json startedWith(std::vector<std::string> options)
     {
         const Finished finished = render(std::move(options));
@@ -66,8 +66,8 @@ protected:
 
 TEST_F(Render, StartsAPhoneWithWhatTheOptionsSay)
 {
-    EXPECT_EQ(startedWith({"--bare", "--screen", "414x896@2", "--time", "2020-11-15T21:41:00", "--time-zone", "Asia/Jerusalem",
-                  "--locale", "he_IL", "--language", "he", "--language", "en", "--style", "dark"}),
+    EXPECT_EQ(startedWith({"--bare", "--screen", "414x896@2", "--time", "2020-11-15T21:41:00", "--time-zone",
+                  "Asia/Jerusalem", "--locale", "he_IL", "--language", "he", "--language", "en", "--style", "dark"}),
         Json::parse(R"({"clock":"virtual","screen":{"width":414,"height":896,"scale":2},"time":"2020-11-15T21:41:00",
             "timeZone":"Asia/Jerusalem","locale":"he_IL","languages":["he","en"],"style":"dark"})"));
 }
@@ -217,10 +217,10 @@ TEST_F(Render, TakesNoPictureWhereItCannotBeWritten)
     mkfifo(folder.at("pipe").c_str(), 0600);
     folder.put("mine.png", "kept");
     chmod(folder.at("mine.png").c_str(), 0444);
-    for (const auto& [path, why] : {std::pair{std::string("/none/lock.png"), "a file name in a folder that exists is needed"},
-             std::pair{folder.at("pipe"), "nobody reads from this pipe"},
-             std::pair{folder.at("mine.png"), "it is read-only"},
-             std::pair{folder.path().string(), "it is a folder"}}) {
+    for (const auto& [path, why] :
+        {std::pair{std::string("/none/lock.png"), "a file name in a folder that exists is needed"},
+            std::pair{folder.at("pipe"), "nobody reads from this pipe"},
+            std::pair{folder.at("mine.png"), "it is read-only"}, std::pair{folder.path().string(), "it is a folder"}}) {
         const Finished finished = runProgram({"render", "-o", path});
         EXPECT_EQ(finished.status, 1);
         EXPECT_EQ(finished.output, "");

@@ -18,7 +18,7 @@ Json replyTo(Program& program, const std::string& line)
     return Json::parse(program.read().value_or("\"the end\""));
 }
 
-// The shell process of a program that serves, and its root.
+/// The shell process of a program that serves, and its root.
 struct Running {
     pid_t pid;
     std::string root;

@@ -29,7 +29,7 @@ protected:
         EXPECT_EQ(finished.errors, "");
     }
 
-    // In a line of its own, and the picture comes all the same; but not where everything has to be right.
+    /// In a line of its own, and the picture comes all the same; but not where everything has to be right.
     void expectDoubt(const std::string& option, const std::string& path, const std::string& doubt)
     {
         const Finished finished = render({option, path});

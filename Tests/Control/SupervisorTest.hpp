@@ -28,7 +28,7 @@ protected:
         }
     }
 
-    // What happens while no request is in hand.
+    /// What happens while no request is in hand.
     void waitForNews()
     {
         waitForever(supervisor.descriptor(), POLLIN);

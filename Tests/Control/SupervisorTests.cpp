@@ -5,7 +5,7 @@
 
 TEST_F(SupervisorTest, HasNoPhoneAtFirst)
 {
-    EXPECT_EQ(errorOf("view.tree", Json::object(), ErrorCode::NoPhone), "no phone started");
+    EXPECT_EQ(errorOf("view.tree", Json::object(), ErrorCode::noPhone), "no phone started");
     EXPECT_EQ(call("phone.info"),
         Json::parse(
             R"({"running":false,"safeMode":false,"starts":0,"restarts":0,"pid":null,"time":null,"screen":null})"));
@@ -54,7 +54,7 @@ TEST_F(SupervisorTest, StopsThePhoneAndRemovesItsTemporaryRoot)
     call("phone.stop");
     EXPECT_FALSE(isAlive(pid));
     EXPECT_FALSE(std::filesystem::exists(root));
-    EXPECT_EQ(errorOf("view.tree", Json::object(), ErrorCode::NoPhone), "no phone started");
+    EXPECT_EQ(errorOf("view.tree", Json::object(), ErrorCode::noPhone), "no phone started");
     EXPECT_EQ(call("phone.info")["running"], false);
 }
 
@@ -82,15 +82,15 @@ TEST_F(SupervisorTest, KeepsThePhoneWhenItsReplacementIsAskedForWrongly)
 {
     call("phone.start");
     const Json before = call("phone.info");
-    EXPECT_EQ(errorOf("phone.start", {{"wallpaper", "/none"}}, ErrorCode::BadParameters),
+    EXPECT_EQ(errorOf("phone.start", {{"wallpaper", "/none"}}, ErrorCode::badParameters),
         "parameter \"wallpaper\" takes the host path of a JPEG that exists or null, not \"/none\"");
-    errorOf("phone.start", {{"colour", 1}}, ErrorCode::BadParameters);
+    errorOf("phone.start", {{"colour", 1}}, ErrorCode::badParameters);
     EXPECT_EQ(call("phone.info"), before);
 }
 
 TEST_F(SupervisorTest, HasNoPhoneWhenTheShellRefusesToStart)
 {
-    EXPECT_EQ(errorOf("phone.start", {{"settings", {{"refuseToStart", true}}}}, ErrorCode::Internal),
+    EXPECT_EQ(errorOf("phone.start", {{"settings", {{"refuseToStart", true}}}}, ErrorCode::internal),
         "the fake phone refuses to start");
     EXPECT_EQ(call("phone.info")["running"], false);
 }

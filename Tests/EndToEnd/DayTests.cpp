@@ -18,8 +18,8 @@ constexpr int at(int hour, int minute = 0)
 class Day {
 public:
     Day(const std::string& start, const Json& settings)
-        : clock_(berlin, start)
-        , phone_(Phone::at(start)
+        : m_clock(berlin, start)
+        , m_phone(Phone::at(start)
                      .timeZone("Europe/Berlin")
                      .settings(settings)
                      .weather(sunnyWeather)
@@ -29,72 +29,72 @@ public:
         run(1);
     }
 
-    Phone& phone() { return phone_; }
-    Support::WallClock& clock() { return clock_; }
+    Phone& phone() { return m_phone; }
+    Support::WallClock& clock() { return m_clock; }
 
     void run(double seconds)
     {
-        phone_.advance(seconds);
-        clock_.advance(seconds);
+        m_phone.advance(seconds);
+        m_clock.advance(seconds);
     }
-    void runToNextMinute() { run(clock_.toNextMinute()); }
+    void runToNextMinute() { run(m_clock.toNextMinute()); }
 
     /// The cover sheet goes up and down again, and the refresh of its appearance is over.
     void look()
     {
-        phone_.call("phone.unlock");
-        phone_.call("phone.coverSheet");
+        m_phone.call("phone.unlock");
+        m_phone.call("phone.coverSheet");
         run(1);
     }
 
     void expectTime()
     {
-        EXPECT_EQ(phone_.label("_timeLabel").text, clock_.read("%I.%M"));
-        EXPECT_EQ(phone_.info().at("time"), clock_.read("%Y-%m-%dT%H:%M:%S"));
+        EXPECT_EQ(m_phone.label("_timeLabel").text, m_clock.read("%I.%M"));
+        EXPECT_EQ(m_phone.info().at("time"), m_clock.read("%Y-%m-%dT%H:%M:%S"));
     }
 
 private:
-    Support::WallClock clock_;
-    Phone phone_;
+    Support::WallClock m_clock;
+    Phone m_phone;
 };
 
 /// What the day brings, by the clock on the wall. It begins at noon on the 15th.
 class Plan {
 public:
     explicit Plan(const Support::WallClock& clock)
-        : tomorrow_(clock.read("%d") == "16")
-        , minute_(clock.minuteOfDay())
+        : m_tomorrow(clock.read("%d") == "16")
+        , m_minute(clock.minuteOfDay())
     {
     }
 
-    bool isAsleep() const { return (tomorrow_ && minute_ < at(5)) || (!tomorrow_ && between(at(13), at(13, 20))); }
-    bool isCharging() const { return tomorrow_ ? minute_ < at(7) : minute_ >= at(22); }
+    bool isAsleep() const { return (m_tomorrow && m_minute < at(5)) || (!m_tomorrow && between(at(13), at(13, 20))); }
+    bool isCharging() const { return m_tomorrow ? m_minute < at(7) : m_minute >= at(22); }
     /// Down from 90 by one percent in ten minutes, and up again by one in two minutes.
     double level() const
     {
         constexpr double atNoon = 0.9, atTen = atNoon - (22 - 12) * 6 * 0.01;
         const double charged = std::min(atTen + sinceTen() / 2 * 0.01, 1.0);
-        if (!tomorrow_ && minute_ < at(22))
-            return atNoon - (minute_ - at(12)) / 10 * 0.01;
-        return isCharging() ? charged : 1 - (minute_ - at(7)) / 10 * 0.01;
+        if (!m_tomorrow && m_minute < at(22))
+            return atNoon - (m_minute - at(12)) / 10 * 0.01;
+        return isCharging() ? charged : 1 - (m_minute - at(7)) / 10 * 0.01;
     }
 
-    std::string alarm() const { return tomorrow_ && minute_ >= at(6, 30) ? "No Alarms" : "6:30"; }
-    std::string half() const { return tomorrow_ && minute_ >= at(6, 30) ? "" : "AM"; }
+    std::string alarm() const { return m_tomorrow && m_minute >= at(6, 30) ? "No Alarms" : "6:30"; }
+    std::string half() const { return m_tomorrow && m_minute >= at(6, 30) ? "" : "AM"; }
     /// An event counts until it is over, an hour after its start, and from a day before it.
     std::string event() const
     {
-        if (!tomorrow_)
-            return minute_ < at(19) ? "6:00PM Concert" : "9:30AM Dentist";
-        return minute_ < at(10, 30) ? "9:30AM Dentist" : "No events today";
+        if (!m_tomorrow)
+            return m_minute < at(19) ? "6:00PM Concert" : "9:30AM Dentist";
+        return m_minute < at(10, 30) ? "9:30AM Dentist" : "No events today";
     }
 
 private:
-    bool between(int first, int end) const { return minute_ >= first && minute_ < end; }
-    int sinceTen() const { return tomorrow_ ? minute_ + at(2) : minute_ - at(22); }
+    bool between(int first, int end) const { return m_minute >= first && m_minute < end; }
+    int sinceTen() const { return m_tomorrow ? m_minute + at(2) : m_minute - at(22); }
 
-    bool tomorrow_;
-    int minute_;
+    bool m_tomorrow;
+    int m_minute;
 };
 
 void expectStrip(Phone& phone, const Plan& plan)

@@ -9,7 +9,7 @@
 struct GoldenScene {
     const char* name;
     const char* settings;
-    // On top of the weather, alarm and events that all scenes share.
+    /// On top of the weather, alarm and events that all scenes share.
     const char* device;
     std::vector<std::string> options;
 };
@@ -38,12 +38,12 @@ inline const GoldenScene goldenScenes[] = {
 };
 
 /// What of the screen a picture of the editor keeps.
-enum class EditorPart { Panel, Screen };
+enum class EditorPart { panel, screen };
 
 struct EditorPlace {
     const char* name;
     void (*go)(Phone&);
-    EditorPart part = EditorPart::Panel;
+    EditorPart part = EditorPart::panel;
     bool isNarrowToo = false; // on a small screen as well, in the light style
 };
 
@@ -75,20 +75,20 @@ inline void openSystemsSheet(Phone& phone)
 
 /// Each is drawn in the light and in the dark style.
 inline const EditorPlace editorPlaces[] = {
-    {"time-font", choosePanel<timeTab, fontSegment>, EditorPart::Panel, true},
+    {"time-font", choosePanel<timeTab, fontSegment>, EditorPart::panel, true},
     {"time-colour", choosePanel<timeTab, colourSegment>},
     {"time-position", choosePanel<timeTab, positionSegment>},
     {"date-font", choosePanel<dateTab, fontSegment>},
     {"date-colour", choosePanel<dateTab, colourSegment>},
     {"date-position", choosePanel<dateTab, positionSegment>},
-    {"date-option", choosePanel<dateTab, dateOptionSegment>, EditorPart::Panel, true},
-    {"widget-option", choosePanel<widgetTab, widgetOptionSegment>, EditorPart::Panel, true},
+    {"date-option", choosePanel<dateTab, dateOptionSegment>, EditorPart::panel, true},
+    {"widget-option", choosePanel<widgetTab, widgetOptionSegment>, EditorPart::panel, true},
     {"widget-colour", choosePanel<widgetTab, colourSegment>},
     {"widget-position", choosePanel<widgetTab, positionSegment>},
-    {"notice", openNotice, EditorPart::Panel, true},
+    {"notice", openNotice, EditorPart::panel, true},
     {"sheet", openSheet},
-    {"open", [](Phone&) {}, EditorPart::Screen},
-    {"system-sheet", openSystemsSheet, EditorPart::Screen},
+    {"open", [](Phone&) {}, EditorPart::screen},
+    {"system-sheet", openSystemsSheet, EditorPart::screen},
 };
 
 inline constexpr const char* goldenDevice = R"({

@@ -41,7 +41,7 @@ TEST_P(EditorGolden, PanelIsAsItWas)
     expectGolden(scene.name, drawn);
 }
 
-INSTANTIATE_TEST_SUITE_P(Scenes, EditorGolden, testing::ValuesIn(editorScenes(EditorPart::Panel)), testName);
+INSTANTIATE_TEST_SUITE_P(Scenes, EditorGolden, testing::ValuesIn(editorScenes(EditorPart::panel)), testName);
 
 TEST_P(EditorScreenGolden, ScreenIsAsItWas)
 {
@@ -51,7 +51,7 @@ TEST_P(EditorScreenGolden, ScreenIsAsItWas)
     expectGolden(scene.name, drawn);
 }
 
-INSTANTIATE_TEST_SUITE_P(Scenes, EditorScreenGolden, testing::ValuesIn(editorScenes(EditorPart::Screen)), testName);
+INSTANTIATE_TEST_SUITE_P(Scenes, EditorScreenGolden, testing::ValuesIn(editorScenes(EditorPart::screen)), testName);
 
 TEST(PictureComparison, NoticesALetterAndOverlooksTheShadeOfAnEdge)
 {

@@ -8,7 +8,7 @@ namespace {
 constexpr const char* lato = "/usr/share/fonts/truetype/lato/Lato-Bold.ttf";
 const std::string saidOfTheFont = "phone: Font path: /Library/Application Support/LYRFont/Lato-Bold.ttf\n";
 
-// A phone with a font, whose path the extension logs, and its log taken.
+/// A phone with a font, whose path the extension logs, and its log taken.
 Support::Finished serve(const std::vector<std::string>& options)
 {
     auto arguments = Support::servingArguments();

@@ -11,8 +11,8 @@ struct Screen {
 };
 constexpr Screen screens[] = {{320, 568}, {375, 812}, {390, 844}, {414, 896}, {480, 900}, {768, 1024}, {1024, 768}};
 
-// One drawing out of several: a gauge with its mark and the temperature in it, an outline with level and bolt, a phone
-// with a bolt, and a track with the part of it that is filled.
+/// One drawing out of several: a gauge with its mark and the temperature in it, an outline with level and bolt, a phone
+/// with a bolt, and a track with the part of it that is filled.
 const std::set<std::set<std::string>> drawnTogether
     = {{"_HL", "_HLo"}, {"_HL", "_tempLabel"}, {"_HLo", "_tempLabel"}, {"_BG", "_BL"}, {"_BG", "_BC"}, {"_BL", "_BC"},
         {"_phoneImage", "_BC2"}, {"_batteryBarBackground", "_batteryBarIndicator"}};

@@ -126,7 +126,7 @@ TEST_F(FileContentTest, AFileThatWasWrittenJustNowIsReadEachTime)
 {
     files.put("/Library/x", "one");
     const auto first = files.load("/Library/x");
-    files.write("/Library/x", "two", WriteMode::Direct);
+    files.write("/Library/x", "two", WriteMode::direct);
     EXPECT_EQ(first.value->bytes(), "one");
     EXPECT_EQ(files.load("/Library/x").value->bytes(), "two");
 }
@@ -143,7 +143,7 @@ TEST_F(FileContentTest, ReadersOfAnOldFileShareIt)
 TEST_F(FileContentTest, LoadingFailsAsReadingDoes)
 {
     files.put("/Library/x", "1");
-    files.setFault("/Library/x", FileOperation::Read, EIO);
+    files.setFault("/Library/x", FileOperation::read, EIO);
     std::filesystem::create_directory_symlink(outside, root + "/Library/away");
     std::filesystem::create_directory_symlink("../../", root + "/Library/up");
     std::filesystem::create_directory_symlink("../Library", root + "/Library/here");
@@ -162,10 +162,10 @@ TEST_F(FileContentTest, ThePresenceOfAPathFollowsLinksThatStayInside)
     files.put("/Library/x", "1");
     std::filesystem::create_directory_symlink(root + "/Library", root + "/whole");
     std::filesystem::create_directory_symlink(outside, root + "/away");
-    EXPECT_EQ(files.presence("/Library/x"), File);
-    EXPECT_EQ(files.presence("/whole"), Folder);
-    EXPECT_EQ(files.presence("/whole/x"), File);
-    EXPECT_EQ(files.presence("/away"), None);
-    EXPECT_EQ(files.presence("/none"), None);
-    EXPECT_EQ(files.presence("/"), Folder);
+    EXPECT_EQ(files.presence("/Library/x"), file);
+    EXPECT_EQ(files.presence("/whole"), folder);
+    EXPECT_EQ(files.presence("/whole/x"), file);
+    EXPECT_EQ(files.presence("/away"), none);
+    EXPECT_EQ(files.presence("/none"), none);
+    EXPECT_EQ(files.presence("/"), folder);
 }

@@ -13,20 +13,20 @@ struct FileFaults : TemporaryRoot {
 
 TEST_F(FileFaults, AReadFailsUntilTheFaultIsTakenAway)
 {
-    files.setFault("/Library/x", FileOperation::Read, EACCES);
+    files.setFault("/Library/x", FileOperation::read, EACCES);
     EXPECT_EQ(files.read("/Library/x").error, EACCES);
     EXPECT_EQ(files.fetch("/Library/x").value, "old");
-    files.setFault("/Library/x", FileOperation::Read, 0);
+    files.setFault("/Library/x", FileOperation::read, 0);
     EXPECT_EQ(files.read("/Library/x").value, "old");
 }
 
 TEST_F(FileFaults, AFailedAtomicWriteKeepsTheOldFileAndLeavesNoOther)
 {
-    for (const auto& [operation, error] : {std::pair(FileOperation::Write, ENOSPC),
-             std::pair(FileOperation::Write, EACCES), std::pair(FileOperation::Rename, EIO)}) {
+    for (const auto& [operation, error] : {std::pair(FileOperation::write, ENOSPC),
+             std::pair(FileOperation::write, EACCES), std::pair(FileOperation::rename, EIO)}) {
         files.clearFaults();
         files.setFault("/Library/x", operation, error);
-        EXPECT_EQ(files.write("/Library/x", "new", WriteMode::Atomic), error);
+        EXPECT_EQ(files.write("/Library/x", "new", WriteMode::atomic), error);
         EXPECT_EQ(files.read("/Library/x").value, "old");
         EXPECT_EQ(files.list("/Library").value, (std::vector<std::string>{"x"}));
     }
@@ -34,34 +34,34 @@ TEST_F(FileFaults, AFailedAtomicWriteKeepsTheOldFileAndLeavesNoOther)
 
 TEST_F(FileFaults, AFullDiskTruncatesAFileThatIsWrittenInPlace)
 {
-    files.setFault("/Library/x", FileOperation::Write, ENOSPC);
-    EXPECT_EQ(files.write("/Library/x", "new", WriteMode::Direct), ENOSPC);
+    files.setFault("/Library/x", FileOperation::write, ENOSPC);
+    EXPECT_EQ(files.write("/Library/x", "new", WriteMode::direct), ENOSPC);
     EXPECT_EQ(files.read("/Library/x").value, "");
 }
 
 TEST_F(FileFaults, MissingPermissionKeepsAFileThatIsWrittenInPlace)
 {
-    files.setFault("/Library/x", FileOperation::Write, EACCES);
-    EXPECT_EQ(files.write("/Library/x", "new", WriteMode::Direct), EACCES);
+    files.setFault("/Library/x", FileOperation::write, EACCES);
+    EXPECT_EQ(files.write("/Library/x", "new", WriteMode::direct), EACCES);
     EXPECT_EQ(files.remove("/Library/x"), EACCES);
     EXPECT_EQ(files.read("/Library/x").value, "old");
 }
 
 TEST_F(FileFaults, AFaultOfAFolderHoldsForAllThatIsInIt)
 {
-    files.setFault("/private/var/mobile/", FileOperation::Write, EACCES);
-    files.setFault("/Library", FileOperation::Read, EIO);
+    files.setFault("/private/var/mobile/", FileOperation::write, EACCES);
+    files.setFault("/Library", FileOperation::read, EIO);
     EXPECT_EQ(files.createFolder("/User/Library", true), EACCES);
     EXPECT_EQ(files.list("/Library").error, EIO);
     EXPECT_EQ(files.read("/Library/x").error, EIO);
     EXPECT_EQ(files.read("/LibraryX").error, ENOENT);
-    EXPECT_EQ(files.write("/Library/y", "", WriteMode::Atomic), 0);
+    EXPECT_EQ(files.write("/Library/y", "", WriteMode::atomic), 0);
 }
 
 TEST_F(FileFaults, AFaultOfTheTopHoldsEverywhere)
 {
-    files.setFault("/", FileOperation::Rename, EIO);
-    EXPECT_EQ(files.write("/Library/x", "new", WriteMode::Atomic), EIO);
+    files.setFault("/", FileOperation::rename, EIO);
+    EXPECT_EQ(files.write("/Library/x", "new", WriteMode::atomic), EIO);
     EXPECT_EQ(files.rename("/Library/x", "/Library/y"), EIO);
-    EXPECT_EQ(files.write("/Library/x", "new", WriteMode::Direct), 0);
+    EXPECT_EQ(files.write("/Library/x", "new", WriteMode::direct), 0);
 }

@@ -11,7 +11,7 @@ TEST_F(PhoneFilesTest, ReadsBackWhatWasWritten)
 {
     ASSERT_EQ(files.createFolder("/Library/Preferences", true), 0);
     const std::string bytes("a\0b\n", 4);
-    for (const WriteMode mode : {WriteMode::Direct, WriteMode::Atomic}) {
+    for (const WriteMode mode : {WriteMode::direct, WriteMode::atomic}) {
         EXPECT_EQ(files.write("/Library/Preferences/x", bytes, mode), 0);
         EXPECT_EQ(files.read("/Library/Preferences/x").value, bytes);
         EXPECT_EQ(files.write("/Library/Preferences/x", "", mode), 0);
@@ -35,16 +35,16 @@ TEST_F(PhoneFilesTest, DoesNotWaitForAPipe)
     files.createFolder("/var", true);
     ASSERT_EQ(::mkfifo((root + "/var/pipe").c_str(), 0600), 0);
     EXPECT_EQ(files.read("/var/pipe").error, EINVAL);
-    EXPECT_EQ(files.write("/var/pipe", "x", WriteMode::Direct), ENXIO);
+    EXPECT_EQ(files.write("/var/pipe", "x", WriteMode::direct), ENXIO);
 }
 
 TEST_F(PhoneFilesTest, WritesNothingWhereThereIsNoFolder)
 {
-    EXPECT_EQ(files.write("/Library/none/x", "x", WriteMode::Atomic), ENOENT);
-    EXPECT_EQ(files.write("/Library/none/x", "x", WriteMode::Direct), ENOENT);
+    EXPECT_EQ(files.write("/Library/none/x", "x", WriteMode::atomic), ENOENT);
+    EXPECT_EQ(files.write("/Library/none/x", "x", WriteMode::direct), ENOENT);
     files.createFolder("/Library/folder", true);
-    EXPECT_EQ(files.write("/Library/folder", "x", WriteMode::Atomic), EISDIR);
-    EXPECT_EQ(files.write("/Library/folder", "x", WriteMode::Direct), EISDIR);
+    EXPECT_EQ(files.write("/Library/folder", "x", WriteMode::atomic), EISDIR);
+    EXPECT_EQ(files.write("/Library/folder", "x", WriteMode::direct), EISDIR);
 }
 
 TEST_F(PhoneFilesTest, ListsNamesInBytewiseOrder)
@@ -92,7 +92,7 @@ TEST_F(PhoneFilesTest, RecordsWhatTheShellWritesButNotWhatTheTesterPuts)
     std::vector<std::pair<std::string, int>> record;
     files.setWriteObserver([&](const std::string& path, int error) { record.emplace_back(path, error); });
     files.put("/Library/a", "1");
-    files.write("/Library/b", "1", WriteMode::Atomic);
-    files.write("/none/b", "1", WriteMode::Atomic);
+    files.write("/Library/b", "1", WriteMode::atomic);
+    files.write("/none/b", "1", WriteMode::atomic);
     EXPECT_EQ(record, (std::vector<std::pair<std::string, int>>{{"/Library/b", 0}, {"/none/b", ENOENT}}));
 }

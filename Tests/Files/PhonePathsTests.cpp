@@ -70,14 +70,14 @@ TEST_F(PhonePaths, LinksInTheRootDoNotLeadOutOfIt)
     fs::create_directory_symlink(outside, root + "/Library/away");
     fs::create_symlink(outside + "/new", root + "/Library/dangling");
     fs::create_directory_symlink(root + "/Library", root + "/Library/inside");
-    EXPECT_EQ(files.write("/Library/away/new", "x", WriteMode::Direct), EACCES);
-    EXPECT_EQ(files.write("/Library/away/new", "x", WriteMode::Atomic), EACCES);
-    EXPECT_EQ(files.write("/Library/dangling", "x", WriteMode::Direct), ENOENT);
+    EXPECT_EQ(files.write("/Library/away/new", "x", WriteMode::direct), EACCES);
+    EXPECT_EQ(files.write("/Library/away/new", "x", WriteMode::atomic), EACCES);
+    EXPECT_EQ(files.write("/Library/dangling", "x", WriteMode::direct), ENOENT);
     EXPECT_EQ(files.createFolder("/Library/away/folder", true), EACCES);
     EXPECT_EQ(files.list("/Library/away").error, EACCES);
     EXPECT_FALSE(files.exists("/Library/away"));
     EXPECT_FALSE(fs::exists(outside + "/new"));
-    EXPECT_EQ(files.write("/Library/inside/new", "x", WriteMode::Direct), 0);
+    EXPECT_EQ(files.write("/Library/inside/new", "x", WriteMode::direct), 0);
     EXPECT_EQ(files.read("/Library/new").value, "x");
 }
 

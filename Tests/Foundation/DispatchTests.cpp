@@ -23,7 +23,7 @@ TEST_F(MainQueue, RunsDelayedWorkWhenItIsDue)
 {
     int runs = 0;
     Dispatch::afterMilliseconds(250, &runs, count);
-    EXPECT_EQ(Loop::shared().pending(WorkKind::Delayed), 1u);
+    EXPECT_EQ(Loop::shared().pending(WorkKind::delayed), 1u);
     Loop::shared().advance(0.249);
     EXPECT_EQ(runs, 0);
     Loop::shared().advance(0.001);

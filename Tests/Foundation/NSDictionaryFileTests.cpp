@@ -94,10 +94,10 @@ TEST_F(NSDictionaryFile, IsNotWrittenIfItHoldsWhatNoPropertyListMay)
 TEST_F(NSDictionaryFile, FailsWhereTheFileSystemDoes)
 {
     sample().writeToFile("/Library/colours.plist"_ns, true);
-    files.setFault("/Library/colours.plist", FileOperation::Read, EACCES);
+    files.setFault("/Library/colours.plist", FileOperation::read, EACCES);
     EXPECT_FALSE(read("/Library/colours.plist"));
     files.clearFaults();
-    files.setFault("/Library/colours.plist", FileOperation::Rename, EIO);
+    files.setFault("/Library/colours.plist", FileOperation::rename, EIO);
     EXPECT_FALSE(NS::MutableDictionary::dictionary().writeToFile("/Library/colours.plist"_ns, true));
     EXPECT_EQ(read("/Library/colours.plist").count(), 4u);
 }

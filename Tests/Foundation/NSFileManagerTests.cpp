@@ -120,7 +120,7 @@ TEST_F(NSFileManager, DataThatCannotBeReadIsNilWithoutAWord)
         NS::URL::sendClass<NS::URL, "URLWithString:">("https://example.com/"_ns))));
     id error = nullptr;
     files.put("/Library/x", "1");
-    files.setFault("/Library/x", FileOperation::Read, EACCES);
+    files.setFault("/Library/x", FileOperation::read, EACCES);
     EXPECT_FALSE(
         (NS::Data::sendClass<NS::Data, "dataWithContentsOfFile:options:error:">("/Library/x"_ns, 0UL, &error)));
     EXPECT_EQ((ObjC::Object(error).send<long, "code">()), 257);

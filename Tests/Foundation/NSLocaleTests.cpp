@@ -42,8 +42,8 @@ TEST_F(NSLocale, HyphensMeanWhatUnderscoresDo)
 TEST_F(NSLocale, IsMadeOfAnyIdentifier)
 {
     for (const std::string& identifier : {std::string(), std::string("-"), std::string("_"), std::string("en-"),
-             std::string("en--US"), std::string("-US"), std::string("@calendar"), std::string("e n"), std::string("zh-_-"),
-             std::string(5000, 'e'), "en" + std::string(5000, '-')}) {
+             std::string("en--US"), std::string("-US"), std::string("@calendar"), std::string("e n"),
+             std::string("zh-_-"), std::string(5000, 'e'), "en" + std::string(5000, '-')}) {
         const NS::Locale made = NS::Locale::make<"initWithLocaleIdentifier:">(stringOf(identifier));
         EXPECT_NO_THROW(made.localeIdentifier()) << identifier;
         EXPECT_NO_THROW((part(identifier.c_str(), "kCFLocaleLanguageCodeKey"))) << identifier;

@@ -51,7 +51,7 @@ TEST_F(NSTimer, FiresOnceAndIsThenInvalid)
     Loop::shared().advance(10);
     EXPECT_EQ(counts().ticks, 1);
     EXPECT_FALSE(timer.isValid());
-    EXPECT_EQ(Loop::shared().pending(WorkKind::Timer), 0u);
+    EXPECT_EQ(Loop::shared().pending(WorkKind::timer), 0u);
 }
 
 TEST_F(NSTimer, RepeatsUntilInvalidated)
@@ -146,7 +146,7 @@ TEST_F(NSTimer, RunsOnlyOnceItIsAddedToTheRunLoop)
     const auto loop = classNamed("NSRunLoop").send<ObjC::Object, "mainRunLoop">();
     for (int times = 0; times < 2; ++times)
         loop.send<void, "addTimer:forMode:">(timer, "kCFRunLoopCommonModes"_ns);
-    EXPECT_EQ(Loop::shared().pending(WorkKind::Timer), 1u);
+    EXPECT_EQ(Loop::shared().pending(WorkKind::timer), 1u);
     Loop::shared().advance(1);
     EXPECT_GE(counts().ticks, 1);
 }

@@ -16,7 +16,7 @@ std::vector<std::uint8_t> blurredEdge(int size, double sigma)
     std::vector<std::uint8_t> pixels(static_cast<std::size_t>(size * size));
     for (int i = 0; i < size * size; ++i)
         pixels[static_cast<std::size_t>(i)] = i % size < size / 2 ? 255 : 0;
-    blur(pixels.data(), size, size, size, BlurKind::Alpha, sigma);
+    blur(pixels.data(), size, size, size, BlurKind::alpha, sigma);
     return pixels;
 }
 
@@ -56,7 +56,7 @@ TEST(Blur, LeavesAPlainPictureAsItIs)
 {
     for (const double sigma : {0.0, 2.0, 30.0, 1e9}) {
         std::vector<std::uint8_t> pixels(37 * 19 * 4, 201);
-        blur(pixels.data(), 37, 19, 37 * 4, BlurKind::Color, sigma);
+        blur(pixels.data(), 37, 19, 37 * 4, BlurKind::color, sigma);
         EXPECT_EQ(std::accumulate(pixels.begin(), pixels.end(), 0), 37 * 19 * 4 * 201) << sigma;
     }
 }

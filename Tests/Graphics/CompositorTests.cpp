@@ -32,7 +32,7 @@ TEST(Compositor, BeginsInBlackOrWithNothing)
     Screen opaque({4, 4});
     opaque.show(std::vector<Layer>{});
     EXPECT_EQ(opaque.at(2, 2), (Rgba{0, 0, 0, 255}));
-    Screen transparent({4, 4}, 1, Backing::Transparent);
+    Screen transparent({4, 4}, 1, Backing::transparent);
     transparent.show(std::vector<Layer>{});
     EXPECT_EQ(transparent.at(2, 2), (Rgba{0, 0, 0, 0}));
 }

@@ -11,7 +11,7 @@ using namespace Samples;
 
 namespace {
 
-// Trees of all kinds of layers, and small changes to them; the same for the same seed on every machine.
+/// Trees of all kinds of layers, and small changes to them; the same for the same seed on every machine.
 class TreeMaker {
 public:
     explicit TreeMaker(unsigned seed)
@@ -125,7 +125,7 @@ bool areDisjoint(const std::vector<PixelRect>& rects)
     return true;
 }
 
-// Pixels that differ although they are not reported as damaged.
+/// Pixels that differ although they are not reported as damaged.
 int unreportedChanges(const std::vector<std::uint8_t>& before, const std::vector<std::uint8_t>& after, int width,
     const std::vector<PixelRect>& damage)
 {

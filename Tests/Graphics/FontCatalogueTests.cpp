@@ -36,10 +36,10 @@ TEST(FontCatalogue, RefusesAFontThatIsRegisteredAlready)
     TemporaryFolder folder;
     FontCatalogue catalogue({});
     EXPECT_TRUE(catalogue.registerFile(latoBlack));
-    EXPECT_EQ(catalogue.registerFile(latoBlack).error, RegistrationError::AlreadyRegistered);
+    EXPECT_EQ(catalogue.registerFile(latoBlack).error, RegistrationError::alreadyRegistered);
     const auto copy = folder.write("Other.ttf", read(latoBlack));
-    EXPECT_EQ(catalogue.registerFile(copy).error, RegistrationError::AlreadyRegistered);
-    EXPECT_EQ(catalogue.registerData(read(latoBlack)).error, RegistrationError::AlreadyRegistered);
+    EXPECT_EQ(catalogue.registerFile(copy).error, RegistrationError::alreadyRegistered);
+    EXPECT_EQ(catalogue.registerData(read(latoBlack)).error, RegistrationError::alreadyRegistered);
 }
 
 TEST(FontCatalogue, RefusesWhatIsNoFont)
@@ -51,13 +51,13 @@ TEST(FontCatalogue, RefusesWhatIsNoFont)
         noise[i] = std::byte(i * 2'654'435'761u >> 13 & 0xFF);
     Bytes head = read(latoBlack);
     head.resize(100);
-    EXPECT_EQ(catalogue.registerFile(folder.write("noise.ttf", noise)).error, RegistrationError::Invalid);
-    EXPECT_EQ(catalogue.registerFile(folder.write("empty.ttf", {})).error, RegistrationError::Invalid);
-    EXPECT_EQ(catalogue.registerFile(folder.write("cut.ttf", head)).error, RegistrationError::Invalid);
-    EXPECT_EQ(catalogue.registerFile(folder.path()).error, RegistrationError::FileNotFound);
-    EXPECT_EQ(catalogue.registerFile(folder.path() / "none.ttf").error, RegistrationError::FileNotFound);
-    EXPECT_EQ(catalogue.registerData({}).error, RegistrationError::Invalid);
-    EXPECT_EQ(catalogue.registerData(noise).error, RegistrationError::Invalid);
+    EXPECT_EQ(catalogue.registerFile(folder.write("noise.ttf", noise)).error, RegistrationError::invalid);
+    EXPECT_EQ(catalogue.registerFile(folder.write("empty.ttf", {})).error, RegistrationError::invalid);
+    EXPECT_EQ(catalogue.registerFile(folder.write("cut.ttf", head)).error, RegistrationError::invalid);
+    EXPECT_EQ(catalogue.registerFile(folder.path()).error, RegistrationError::fileNotFound);
+    EXPECT_EQ(catalogue.registerFile(folder.path() / "none.ttf").error, RegistrationError::fileNotFound);
+    EXPECT_EQ(catalogue.registerData({}).error, RegistrationError::invalid);
+    EXPECT_EQ(catalogue.registerData(noise).error, RegistrationError::invalid);
     EXPECT_TRUE(catalogue.familyNames().empty());
 }
 
@@ -71,7 +71,7 @@ TEST(FontCatalogue, RegistersEveryFaceOfACollection)
     EXPECT_EQ(catalogue.find("Quicksand-Light")->faceIndex(), 1);
 }
 
-// A font that is read in parts, and how much of it was read.
+/// A font that is read in parts, and how much of it was read.
 struct Parts {
     Bytes bytes;
     std::size_t copied = 0;
@@ -96,15 +96,15 @@ TEST(FontCatalogue, RegistersAFileOfWhichOnlyPartsAreRead)
     whole.registerFile(latoBlack);
     EXPECT_EQ(inParts.find("Lato-Black")->ascender(10), whole.find("Lato-Black")->ascender(10));
     EXPECT_EQ(inParts.find("Lato-Black")->capHeight(10), whole.find("Lato-Black")->capHeight(10));
-    EXPECT_EQ(inParts.registerFile(latoBlack, parts.reader()).error, RegistrationError::AlreadyRegistered);
+    EXPECT_EQ(inParts.registerFile(latoBlack, parts.reader()).error, RegistrationError::alreadyRegistered);
     const Bytes fonts[] = {read(latoHairline), read(quicksand)};
     Parts two{collection(fonts)};
     EXPECT_EQ(inParts.registerFile(quicksand, two.reader()).postScriptNames,
         (std::vector<std::string>{"Lato-Hairline", "Quicksand-Light"}));
     Parts noise{Bytes(1'000, std::byte{7})};
-    EXPECT_EQ(inParts.registerFile(latoHairline, noise.reader()).error, RegistrationError::Invalid);
+    EXPECT_EQ(inParts.registerFile(latoHairline, noise.reader()).error, RegistrationError::invalid);
     Parts empty;
-    EXPECT_EQ(inParts.registerFile(latoHairline, empty.reader()).error, RegistrationError::Invalid);
+    EXPECT_EQ(inParts.registerFile(latoHairline, empty.reader()).error, RegistrationError::invalid);
 }
 
 TEST(FontCatalogue, ForgetsAnUnregisteredFileAndTakesItAgain)
@@ -115,7 +115,7 @@ TEST(FontCatalogue, ForgetsAnUnregisteredFileAndTakesItAgain)
     EXPECT_EQ(catalogue.unregisterFile(latoBlack).postScriptNames, std::vector<std::string>{"Lato-Black"});
     EXPECT_FALSE(catalogue.find("Lato-Black"));
     EXPECT_EQ(catalogue.fontNamesForFamily("Lato"), std::vector<std::string>{"Lato-Hairline"});
-    EXPECT_EQ(catalogue.unregisterFile(latoBlack).error, RegistrationError::NotRegistered);
+    EXPECT_EQ(catalogue.unregisterFile(latoBlack).error, RegistrationError::notRegistered);
     EXPECT_TRUE(catalogue.registerFile(latoBlack));
 }
 
@@ -124,7 +124,7 @@ TEST(FontCatalogue, ForgetsAFontByName)
     FontCatalogue catalogue({});
     catalogue.registerFile(latoBlack);
     EXPECT_TRUE(catalogue.unregisterFont("Lato-Black"));
-    EXPECT_EQ(catalogue.unregisterFont("Lato-Black").error, RegistrationError::NotRegistered);
+    EXPECT_EQ(catalogue.unregisterFont("Lato-Black").error, RegistrationError::notRegistered);
     EXPECT_TRUE(catalogue.familyNames().empty());
     EXPECT_TRUE(catalogue.registerFile(latoBlack));
 }
@@ -165,8 +165,8 @@ TEST(FontCatalogue, ChoosesTheSystemFontByWeight)
 {
     const FontCatalogue& catalogue = systemCatalogue();
     EXPECT_EQ(catalogue.systemFont()->postScriptName(), "Inter-Regular");
-    EXPECT_EQ(catalogue.systemFont(FontWeight::Semibold)->postScriptName(), "Inter-SemiBold");
-    EXPECT_EQ(catalogue.systemFont(FontWeight::UltraLight)->postScriptName(), "Inter-Thin");
+    EXPECT_EQ(catalogue.systemFont(FontWeight::semibold)->postScriptName(), "Inter-SemiBold");
+    EXPECT_EQ(catalogue.systemFont(FontWeight::ultraLight)->postScriptName(), "Inter-Thin");
     EXPECT_TRUE(catalogue.systemFont()->isSystemFont());
 }
 
@@ -180,8 +180,8 @@ TEST(FontCatalogue, KeepsTheSystemsFonts)
 {
     const std::filesystem::path files[] = {latoBlack};
     FontCatalogue catalogue(files);
-    EXPECT_EQ(catalogue.unregisterFont("Lato-Black").error, RegistrationError::NotRegistered);
-    EXPECT_EQ(catalogue.registerFile(latoBlack).error, RegistrationError::AlreadyRegistered);
+    EXPECT_EQ(catalogue.unregisterFont("Lato-Black").error, RegistrationError::notRegistered);
+    EXPECT_EQ(catalogue.registerFile(latoBlack).error, RegistrationError::alreadyRegistered);
     EXPECT_TRUE(catalogue.find("Lato-Black"));
 }
 

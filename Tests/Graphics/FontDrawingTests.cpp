@@ -128,7 +128,7 @@ TEST(FontDrawing, FallsBackToTheSystemFontIfTheFileIsGoneBeforeItsFirstUse)
     const auto path = folder.write("Own.ttf", read(quicksand));
     catalogue.registerFile(path);
     std::filesystem::remove(path);
-    Layer system = labelIn(catalogue.systemFont(FontWeight::Light), "9:41");
+    Layer system = labelIn(catalogue.systemFont(FontWeight::light), "9:41");
     EXPECT_EQ(picture(catalogue, labelIn(catalogue.find("Quicksand-Light"), "9:41")), picture(catalogue, system));
 }
 

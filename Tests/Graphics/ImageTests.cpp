@@ -15,7 +15,7 @@ Image::Pointer fromCanvas(Canvas& canvas)
     return Image::fromPixels(canvas.bytes.data(), canvas.width, canvas.height, canvas.width * 4);
 }
 
-// Every alpha with every premultiplied component that it allows.
+/// Every alpha with every premultiplied component that it allows.
 Canvas everyPixel()
 {
     Canvas canvas(256, 256);

@@ -20,7 +20,7 @@ void expectNear(const Rgba& color, const Rgba& expected)
     EXPECT_EQ(color.a, expected.a);
 }
 
-// The colours of the four quarters, by rows.
+/// The colours of the four quarters, by rows.
 std::array<Rgba, 4> quartersOf(const Image& image, bool upright = true)
 {
     const Canvas canvas = drawn(image, 40, 40, upright);
@@ -52,7 +52,7 @@ TEST(Jpeg, KnowsItsSizeAndKeepsItsBytes)
     const auto image = Image::fromBytes(bytes);
     ASSERT_TRUE(image);
     EXPECT_EQ(image->size(), (Size{37, 21}));
-    EXPECT_EQ(image->orientation(), Orientation::Up);
+    EXPECT_EQ(image->orientation(), Orientation::up);
     EXPECT_EQ(Bytes(image->encodedBytes().begin(), image->encodedBytes().end()), bytes);
 }
 
@@ -103,7 +103,7 @@ TEST(Jpeg, StandsUprightInEveryOrientation)
 
 TEST(Jpeg, TakesAnUnknownOrientationForUpright)
 {
-    EXPECT_EQ(Image::fromBytes(jpeg(8, 8, plain({}), {.orientation = 9}))->orientation(), Orientation::Up);
+    EXPECT_EQ(Image::fromBytes(jpeg(8, 8, plain({}), {.orientation = 9}))->orientation(), Orientation::up);
 }
 
 TEST(Jpeg, ReadsGreyProgressiveAndFourInkFiles)

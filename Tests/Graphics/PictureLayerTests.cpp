@@ -33,14 +33,14 @@ TEST(PictureLayer, ScalesToFillItsBounds)
 TEST(PictureLayer, FitsIntoItsBounds)
 {
     Screen screen({60, 60});
-    screen.show(picture({10, 10, 40, 20}, quarteredPicture(), ContentMode::AspectFit));
+    screen.show(picture({10, 10, 40, 20}, quarteredPicture(), ContentMode::aspectFit));
     EXPECT_EQ(screen.lit(), (PixelRect{20, 10, 20, 20}));
 }
 
 TEST(PictureLayer, FillsItsBoundsAndBeyond)
 {
     Screen screen({60, 60});
-    Layer layer = picture({10, 20, 40, 20}, quarteredPicture(), ContentMode::AspectFill);
+    Layer layer = picture({10, 20, 40, 20}, quarteredPicture(), ContentMode::aspectFill);
     screen.show(layer);
     EXPECT_EQ(screen.lit(), (PixelRect{10, 10, 40, 40}));
     layer.clipsToBounds = true;
@@ -53,7 +53,7 @@ TEST(PictureLayer, FillsItsBoundsAndBeyond)
 TEST(PictureLayer, CentresAtItsOwnSize)
 {
     Screen screen({60, 60}, 2);
-    Layer layer = picture({10, 10, 40, 40}, quarteredPicture(), ContentMode::Center);
+    Layer layer = picture({10, 10, 40, 40}, quarteredPicture(), ContentMode::center);
     screen.show(layer);
     EXPECT_EQ(screen.lit(), (PixelRect{40, 40, 40, 40}));
     std::get<ImageContent>(layer.content).scale = 2;

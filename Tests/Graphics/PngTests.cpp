@@ -29,7 +29,7 @@ void setNumber(Bytes& bytes, std::size_t offset, std::uint32_t value)
         bytes[offset + i] = std::byte(value >> (24 - 8 * i) & 0xFF);
 }
 
-// With a header that is right but for its claim.
+/// With a header that is right but for its claim.
 Bytes withSize(Bytes bytes, std::uint32_t width, std::uint32_t height)
 {
     setNumber(bytes, 16, width);

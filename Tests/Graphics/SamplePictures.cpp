@@ -15,7 +15,7 @@ namespace Simulator::Graphics::Samples {
 
 namespace {
 
-// The camera's block with nothing but the orientation, its numbers with the low byte first.
+/// The camera's block with nothing but the orientation, its numbers with the low byte first.
 void writeOrientation(jpeg_compress_struct& encoder, int orientation)
 {
     unsigned char block[] = {'E', 'x', 'i', 'f', 0, 0, 'I', 'I', 42, 0, 8, 0, 0, 0, 1, 0, 0x12, 0x01, 3, 0, 1, 0, 0, 0,

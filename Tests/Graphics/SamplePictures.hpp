@@ -34,14 +34,14 @@ struct PngOptions {
     int bitDepth = 8;
 };
 
-// The colours are not premultiplied.
+/// The colours are not premultiplied.
 std::vector<std::byte> png(int width, int height, const Paint& paint, const PngOptions& options = {});
 
 Paint plain(Rgba color);
-// Red, green, blue and white quarters, from the top left by rows.
+/// Red, green, blue and white quarters, from the top left by rows.
 Paint quarters(int width, int height);
 
-// Pixels as the platform holds them: red first, premultiplied.
+/// Pixels as the platform holds them: red first, premultiplied.
 struct Canvas {
     int width = 0;
     int height = 0;
@@ -53,7 +53,7 @@ struct Canvas {
     bool isBlank() const;
 };
 
-// What the picture looks like at a size.
+/// What the picture looks like at a size.
 Canvas drawn(const Image& image, int width, int height, bool upright = true);
 
 }

@@ -14,18 +14,18 @@ namespace Simulator::Graphics::Samples {
 
 class Screen {
 public:
-    explicit Screen(Size points, double scale = 1, Backing backing = Backing::OpaqueBlack);
-    Screen(Size points, double scale, FontCatalogue& catalogue, Backing backing = Backing::OpaqueBlack);
+    explicit Screen(Size points, double scale = 1, Backing backing = Backing::opaqueBlack);
+    Screen(Size points, double scale, FontCatalogue& catalogue, Backing backing = Backing::opaqueBlack);
 
-    // The layers lie in the screen's coordinates.
+    /// The layers lie in the screen's coordinates.
     std::vector<PixelRect> show(std::vector<Layer> layers);
     std::vector<PixelRect> show(const Layer& layer) { return show(std::vector<Layer>{layer}); }
     Compositor& compositor() { return m_compositor; }
 
     Rgba at(int x, int y) const;
-    // Around every pixel that is not black; empty if all are.
+    /// Around every pixel that is not black; empty if all are.
     PixelRect lit() const;
-    // The sum of the green channel: how much is covered by white drawing.
+    /// The sum of the green channel: how much is covered by white drawing.
     long light() const;
     std::vector<std::uint8_t> bytes() const;
 
@@ -37,7 +37,7 @@ private:
 Layer box(const Rect& frame, const Color& color);
 Layer label(const Rect& frame, std::string text, double size = 20);
 Text& textOf(Layer& layer);
-Layer picture(const Rect& frame, Image::Pointer image, ContentMode mode = ContentMode::ScaleToFill);
+Layer picture(const Rect& frame, Image::Pointer image, ContentMode mode = ContentMode::scaleToFill);
 
 constexpr Color white{1, 1, 1, 1};
 constexpr Color red{1, 0, 0, 1};

@@ -49,11 +49,11 @@ TEST(TextLayer, StandsInTheMiddleOfItsHeight)
 TEST(TextLayer, AlignsLeftCentreAndRight)
 {
     Layer layer = label({0, 0, 200, 60}, "HH");
-    textOf(layer).alignment = TextAlignment::Left;
+    textOf(layer).alignment = TextAlignment::left;
     const PixelRect left = litBy(layer);
-    textOf(layer).alignment = TextAlignment::Center;
+    textOf(layer).alignment = TextAlignment::center;
     const PixelRect center = litBy(layer);
-    textOf(layer).alignment = TextAlignment::Right;
+    textOf(layer).alignment = TextAlignment::right;
     const PixelRect right = litBy(layer);
     EXPECT_LT(left.x, 5);
     EXPECT_NEAR(center.x + center.width / 2.0, 100, 1);
@@ -64,7 +64,7 @@ TEST(TextLayer, NaturalAlignmentFollowsTheScript)
 {
     Layer layer = label({0, 0, 200, 60}, "שלום");
     EXPECT_GT(litBy(layer).x, 100);
-    textOf(layer).alignment = TextAlignment::Left;
+    textOf(layer).alignment = TextAlignment::left;
     EXPECT_LT(litBy(layer).x, 10);
     EXPECT_LT(litBy(label({0, 0, 200, 60}, "Hello")).x, 10);
 }
@@ -93,21 +93,21 @@ TEST(TextLayer, TruncatesAtTheTail)
     const PixelRect cut = litBy(layer);
     EXPECT_LE(cut.right(), 101);
     EXPECT_GT(cut.right(), 80);
-    textOf(layer).lineBreakMode = LineBreakMode::TruncateHead;
+    textOf(layer).lineBreakMode = LineBreakMode::truncateHead;
     EXPECT_NE(shown(layer), shown(label({0, 0, 100, 60}, "A text that is far too long for the line")));
 }
 
 TEST(TextLayer, ClipsAtItsBoundsIfAskedTo)
 {
     Layer layer = label({0, 0, 50, 60}, "WWWWWWWWWW");
-    textOf(layer).lineBreakMode = LineBreakMode::Clip;
+    textOf(layer).lineBreakMode = LineBreakMode::clip;
     EXPECT_EQ(litBy(layer).right(), 50);
 }
 
 TEST(TextLayer, ShowsNoMoreLinesThanAllowed)
 {
     Layer layer = label({0, 0, 60, 200}, "one two three four five six seven");
-    textOf(layer).lineBreakMode = LineBreakMode::WordWrap;
+    textOf(layer).lineBreakMode = LineBreakMode::wordWrap;
     std::vector<int> heights;
     for (const int lines : {1, 2, 0}) {
         textOf(layer).numberOfLines = lines;
@@ -120,9 +120,9 @@ TEST(TextLayer, ShowsNoMoreLinesThanAllowed)
 TEST(TextLayer, ShowsTheFirstParagraphOnlyOnOneLine)
 {
     Layer layer = label({0, 0, 200, 60}, "H\nH");
-    textOf(layer).lineBreakMode = LineBreakMode::WordWrap;
+    textOf(layer).lineBreakMode = LineBreakMode::wordWrap;
     EXPECT_EQ(shown(layer), shown(label({0, 0, 200, 60}, "H")));
-    textOf(layer).lineBreakMode = LineBreakMode::TruncateTail;
+    textOf(layer).lineBreakMode = LineBreakMode::truncateTail;
     EXPECT_EQ(shown(layer), shown(label({0, 0, 200, 60}, "H…")));
 }
 
@@ -201,7 +201,7 @@ TEST(TextLayer, AVeryLongTextCutAtItsHeadLooksLikeItsEnd)
         text += std::to_string(i) + " ";
     Layer whole = label({0, 0, 200, 60}, text);
     Layer end = label({0, 0, 200, 60}, text.substr(text.size() - 2'000));
-    textOf(whole).lineBreakMode = textOf(end).lineBreakMode = LineBreakMode::TruncateHead;
+    textOf(whole).lineBreakMode = textOf(end).lineBreakMode = LineBreakMode::truncateHead;
     EXPECT_EQ(shown(whole), shown(end));
 }
 

@@ -54,7 +54,7 @@ TEST(TextMeasure, WrapsWithinTheLimit)
 {
     Text wrapped = text("one two three four five six");
     wrapped.numberOfLines = 0;
-    wrapped.lineBreakMode = LineBreakMode::WordWrap;
+    wrapped.lineBreakMode = LineBreakMode::wordWrap;
     const Size free = measured(wrapped);
     const Size narrow = measured(wrapped, {100, 0});
     EXPECT_LE(narrow.width, 100);

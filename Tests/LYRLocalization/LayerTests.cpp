@@ -101,7 +101,7 @@ TEST_F(CatalogueLayers, LeaveOutAFileThatCannotBeRead)
 {
     putFile("en", R"({"a": "en"})");
     putFile("fr", R"({"a": "fr"})");
-    files.setFault(bundle + "fr.json", Simulator::FileOperation::Read, EACCES);
+    files.setFault(bundle + "fr.json", Simulator::FileOperation::read, EACCES);
     auto catalogue = catalogueFor({"fr"});
     EXPECT_EQ(textOf(catalogue.getLanguage()), "en");
     EXPECT_EQ(textFor(catalogue, "a"), "en");

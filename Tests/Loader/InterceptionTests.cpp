@@ -1,3 +1,4 @@
+// Interceptions, of methods that a class has and of those that it inherits.
 #include "Platform/Foundation/NSString.hpp"
 #include "Platform/ObjC/Hook.hpp"
 #include "Simulator/Loader/HookRecord.hpp"

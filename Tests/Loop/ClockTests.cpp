@@ -64,7 +64,7 @@ TEST(Clock, AdvancesByAYearAtMostAtOnce)
 TEST(Clock, ARealClockMovesByItselfAndRunsWhatIsDue)
 {
     Loop loop;
-    loop.reset(1000, ClockKind::Real);
+    loop.reset(1000, ClockKind::realTime);
     int runs = 0;
     loop.schedule(0, [&] { ++runs; });
     loop.schedule(3600, [&] { runs += 100; });
@@ -82,9 +82,9 @@ TEST(Clock, KeepsItsTimeWhenItsKindChanges)
     Loop loop;
     loop.reset(1000);
     loop.advance(50);
-    loop.setClockKind(ClockKind::Real);
+    loop.setClockKind(ClockKind::realTime);
     EXPECT_GE(loop.now(), 1050);
-    loop.setClockKind(ClockKind::Virtual);
+    loop.setClockKind(ClockKind::virtualTime);
     const double stopped = loop.now();
     EXPECT_EQ(loop.now(), stopped);
     EXPECT_GE(stopped, 1050);
@@ -93,7 +93,7 @@ TEST(Clock, KeepsItsTimeWhenItsKindChanges)
 TEST(Clock, LateRepeatingWorkRunsOnceAndSkipsWhatItMissed)
 {
     Loop loop;
-    loop.reset(0, ClockKind::Real);
+    loop.reset(0, ClockKind::realTime);
     int runs = 0;
     const TimerId id = loop.scheduleRepeating(0.0001, [&] { ++runs; });
     const double before = loop.uptime();

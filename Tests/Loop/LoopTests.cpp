@@ -211,16 +211,16 @@ TEST_F(LoopTest, TellsWhenTheNextCallbackIsDue)
 
 TEST_F(LoopTest, CountsPendingWorkByKind)
 {
-    loop.schedule(0, note('m'), WorkKind::MainQueue);
+    loop.schedule(0, note('m'), WorkKind::mainQueue);
     loop.schedule(1, note('d'));
     loop.scheduleRepeating(1, note('t'));
-    loop.schedule(1, note('a'), WorkKind::Animation);
-    loop.scheduleRepeating(1, note('a'), WorkKind::Animation);
+    loop.schedule(1, note('a'), WorkKind::animation);
+    loop.scheduleRepeating(1, note('a'), WorkKind::animation);
     EXPECT_EQ(loop.pending(), 5u);
-    EXPECT_EQ(loop.pending(WorkKind::MainQueue), 1u);
-    EXPECT_EQ(loop.pending(WorkKind::Delayed), 1u);
-    EXPECT_EQ(loop.pending(WorkKind::Timer), 1u);
-    EXPECT_EQ(loop.pending(WorkKind::Animation), 2u);
+    EXPECT_EQ(loop.pending(WorkKind::mainQueue), 1u);
+    EXPECT_EQ(loop.pending(WorkKind::delayed), 1u);
+    EXPECT_EQ(loop.pending(WorkKind::timer), 1u);
+    EXPECT_EQ(loop.pending(WorkKind::animation), 2u);
     EXPECT_EQ(loop.pendingRepeating(), 2u);
 }
 

@@ -10,18 +10,18 @@
 class Setting {
 public:
     Setting(const char* name, const std::string& value)
-        : _name(name)
-        , _before(std::getenv(name) ? std::optional<std::string>(std::getenv(name)) : std::nullopt)
+        : m_name(name)
+        , m_before(std::getenv(name) ? std::optional<std::string>(std::getenv(name)) : std::nullopt)
     {
         setenv(name, value.c_str(), true);
     }
-    ~Setting() { _before ? setenv(_name, _before->c_str(), true) : unsetenv(_name); }
+    ~Setting() { m_before ? setenv(m_name, m_before->c_str(), true) : unsetenv(m_name); }
     Setting(const Setting&) = delete;
     Setting& operator=(const Setting&) = delete;
 
 private:
-    const char* _name;
-    std::optional<std::string> _before;
+    const char* m_name;
+    std::optional<std::string> m_before;
 };
 
 inline bool isEmulated()

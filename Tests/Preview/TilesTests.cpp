@@ -10,7 +10,7 @@ namespace {
 
 using Rectangles = std::vector<std::vector<int>>;
 
-// Three tiles across and three down; those at the edges are smaller.
+/// Three tiles across and three down; those at the edges are smaller.
 class TilesOfAFrame : public testing::Test {
 protected:
     TilesOfAFrame() { frame.resize(150, 140); }

@@ -22,7 +22,7 @@ Icon way(int step)
     return read(std::string("HL16/") + static_cast<char>('a' + 2 * step));
 }
 
-// On the arc, which opens downwards, at so many elevenths from the low at the left to the high at the right.
+/// On the arc, which opens downwards, at so many elevenths from the low at the left to the high at the right.
 int alphaAt(const Icon& icon, double step)
 {
     const double angle = (150 + 24 * step) * std::numbers::pi / 180;

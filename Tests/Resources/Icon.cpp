@@ -1,3 +1,4 @@
+// Reads an icon by the phone's own decoder.
 #include "Icon.hpp"
 
 #include <png.h>

@@ -21,7 +21,7 @@ Icon glyph(const std::string& name)
     return readFile(GLYPH_FOLDER "/" + name + ".png");
 }
 
-// How much of the two differs where only transparency counts.
+/// How much of the two differs where only transparency counts.
 double difference(const Icon& one, const Icon& other)
 {
     double sum = 0;

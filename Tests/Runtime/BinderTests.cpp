@@ -1,3 +1,4 @@
+// Stand-ins as the runtime sees them: initialisers, properties, arguments.
 #include "Tests/Runtime/Probe.hpp"
 
 #include <gtest/gtest.h>

@@ -19,8 +19,8 @@ protected:
 
 TEST_F(Counts, AreTakenByNameAndStartAgainFromZero)
 {
-    counts.add(Count::FileOpens);
-    counts.add(Count::AlarmReads, 3);
+    counts.add(Count::fileOpens);
+    counts.add(Count::alarmReads, 3);
     EXPECT_EQ(counts.take(),
         (ExtensionCounts::Json{{"fontRegistrations", 0}, {"fileOpens", 1}, {"calendarStores", 0},
             {"calendarQueries", 0}, {"weatherRequests", 0}, {"alarmReads", 3}}));
@@ -33,10 +33,10 @@ TEST_F(Counts, LeaveOutWhatTheShellDoesOnItsOwnAccount)
         const OwnWork outer;
         {
             const OwnWork inner;
-            counts.add(Count::FileOpens);
+            counts.add(Count::fileOpens);
         }
-        counts.add(Count::FileOpens);
+        counts.add(Count::fileOpens);
     }
-    counts.add(Count::FileOpens);
+    counts.add(Count::fileOpens);
     EXPECT_EQ(counts.take().at("fileOpens"), 1);
 }

@@ -1,3 +1,4 @@
+// Messages through the facades: to nil, to missing classes, with values that are owned.
 #include "Platform/Foundation/NSArray.hpp"
 #include "Tests/Runtime/Probe.hpp"
 

@@ -22,7 +22,7 @@ struct DerivedRowProbe : RowProbe {
 
 bool isInstalled = false;
 
-// By name, and by place, what derives comes first.
+/// By name, and by place, what derives comes first.
 const StandInClass derivedProbe("AADerivedRowProbe", "MMRowProbe",
     [](Binder<DerivedRowProbe>& binder) { binder.def<"generation", &DerivedRowProbe::generation>().add(); });
 const StandInClass installedProbe(

@@ -1,3 +1,4 @@
+// Variables that own an object.
 #include "Tests/Runtime/Probe.hpp"
 
 #include <gtest/gtest.h>

@@ -13,7 +13,7 @@ protected:
 
 TEST_F(StockBattery, ShowsTheDevicesBattery)
 {
-    DeviceState::shared().battery = {0.5, BatteryState::Charging, true};
+    DeviceState::shared().battery = {0.5, BatteryState::charging, true};
     start();
     EXPECT_EQ(shown().chargePercent, 0.5);
     EXPECT_TRUE(shown().charging);
@@ -36,7 +36,7 @@ TEST_F(StockBattery, HearsOfTheSaverModeByMessage)
 
 TEST_F(StockBattery, IsWhatTheDeviceTells)
 {
-    DeviceState::shared().battery = {0.25, BatteryState::Full, false};
+    DeviceState::shared().battery = {0.25, BatteryState::full, false};
     start();
     const UI::Device device = UI::Device::currentDevice();
     device.setBatteryMonitoringEnabled(true);

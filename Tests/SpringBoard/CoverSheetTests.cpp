@@ -68,7 +68,7 @@ TEST_F(CoverSheet, TakesTheChargingViewAwayWhenUnplugged)
     shell().charge(true);
     shell().charge(false);
     EXPECT_FALSE(find("stock.charging"));
-    EXPECT_EQ(DeviceState::shared().battery.state, BatteryState::Unplugged);
+    EXPECT_EQ(DeviceState::shared().battery.state, BatteryState::unplugged);
 }
 
 TEST_F(CoverSheet, LightsUpWhenPluggedIn)
@@ -118,7 +118,7 @@ TEST_F(CoverSheet, ShowsThePadlockOnlyWhileCovered)
 TEST_F(CoverSheet, ChangesItsAppearance)
 {
     start();
-    shell().setStyle(InterfaceStyle::Dark);
+    shell().setStyle(InterfaceStyle::dark);
     EXPECT_EQ(UI::Screen::mainScreen().traitCollection().userInterfaceStyle(), UI::UserInterfaceStyle::dark);
-    EXPECT_EQ(DeviceState::shared().style, InterfaceStyle::Dark);
+    EXPECT_EQ(DeviceState::shared().style, InterfaceStyle::dark);
 }

@@ -28,11 +28,11 @@ protected:
     Shell& start(CGSize size = {375, 812})
     {
         screenSettings().size = size;
-        shell_ = std::make_unique<Shell>();
-        shell_->start();
-        return *shell_;
+        m_shell = std::make_unique<Shell>();
+        m_shell->start();
+        return *m_shell;
     }
-    Shell& shell() { return *shell_; }
+    Shell& shell() { return *m_shell; }
 
     UIView* find(const std::string& identifier) { return findView(shell().window(), identifier); }
     UI::View view(const std::string& identifier)
@@ -61,7 +61,7 @@ protected:
     }
 
 private:
-    std::unique_ptr<Shell> shell_;
+    std::unique_ptr<Shell> m_shell;
 };
 
 }

@@ -19,7 +19,7 @@ public:
     Spy() { current() = this; }
     ~Spy()
     {
-        for (const Place& place : places_)
+        for (const Place& place : m_places)
             setMethod(place.type, place.selector, place.stock, place.types);
         current() = nullptr;
     }
@@ -31,13 +31,13 @@ public:
         Class type = objc_getClass(className);
         SEL selector = sel_registerName(selectorName);
         const Method method = class_getInstanceMethod(type, selector);
-        if (!method || places_.size() == most)
+        if (!method || m_places.size() == most)
             throw std::invalid_argument(std::string("cannot listen to ") + className + " " + selectorName);
         const char* types = method_getTypeEncoding(method);
-        places_.push_back({type, selector, class_getMethodImplementation(type, selector), types});
-        setMethod(type, selector, notes(std::make_index_sequence<most>())[places_.size() - 1], types);
+        m_places.push_back({type, selector, class_getMethodImplementation(type, selector), types});
+        setMethod(type, selector, notes(std::make_index_sequence<most>())[m_places.size() - 1], types);
     }
-    std::vector<std::string> take() { return std::exchange(messages_, {}); }
+    std::vector<std::string> take() { return std::exchange(m_messages, {}); }
 
 private:
     static constexpr std::size_t most = 24;
@@ -59,8 +59,8 @@ private:
     template <std::size_t index>
     static void* note(id object, SEL selector, void* first, void* second, void* third)
     {
-        const Place place = current()->places_[index];
-        current()->messages_.push_back(std::string(class_getName(place.type)) + " " + sel_getName(place.selector));
+        const Place place = current()->m_places[index];
+        current()->m_messages.push_back(std::string(class_getName(place.type)) + " " + sel_getName(place.selector));
         return reinterpret_cast<void* (*)(id, SEL, void*, void*, void*)>(place.stock)(
             object, selector, first, second, third);
     }
@@ -70,8 +70,8 @@ private:
         return {reinterpret_cast<IMP>(&note<indices>)...};
     }
 
-    std::vector<Place> places_;
-    std::vector<std::string> messages_;
+    std::vector<Place> m_places;
+    std::vector<std::string> m_messages;
 };
 
 }

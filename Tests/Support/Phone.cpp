@@ -17,13 +17,13 @@ PhoneStart& PhoneStart::screen(double width, double height, double scale)
 
 PhoneStart& PhoneStart::file(const std::string& phonePath, const std::string& hostPath)
 {
-    _parameters["files"][phonePath] = hostPath;
+    m_parameters["files"][phonePath] = hostPath;
     return *this;
 }
 
 PhoneStart& PhoneStart::with(const std::string& parameter, const Json& value)
 {
-    _parameters[parameter] = value;
+    m_parameters[parameter] = value;
     return *this;
 }
 
@@ -36,7 +36,7 @@ Phone PhoneStart::start() const
 
 Json Phone::call(const std::string& method, const Json& parameters)
 {
-    return _program->call(method, parameters);
+    return m_program->call(method, parameters);
 }
 
 int Phone::errorCode(const std::string& method, const Json& parameters)

@@ -11,7 +11,7 @@ namespace Support {
 
 class Phone;
 
-// Every parameter of `phone.start`, one call each.
+/// Every parameter of `phone.start`, one call each.
 class PhoneStart {
 public:
     PhoneStart& screen(double width, double height, double scale);
@@ -36,24 +36,24 @@ public:
     PhoneStart& withoutExtension() { return with("extension", false); }
     PhoneStart& with(const std::string& parameter, const Json& value);
 
-    const Json& parameters() const { return _parameters; }
+    const Json& parameters() const { return m_parameters; }
     Phone start() const;
 
 private:
-    Json _parameters = Json::object();
+    Json m_parameters = Json::object();
 };
 
 class Phone {
 public:
     static PhoneStart at(const std::string& localTime) { return PhoneStart().time(localTime); }
-    // A program that serves, and no phone in it yet.
+    /// A program that serves, and no phone in it yet.
     static Phone notStarted() { return Phone(); }
 
-    // A method of the control protocol; throws a ControlError.
+    /// A method of the control protocol; throws a ControlError.
     Json call(const std::string& method, const Json& parameters = Json::object());
-    // The code of the error that the call ends in; 0 if it succeeds.
+    /// The code of the error that the call ends in; 0 if it succeeds.
     int errorCode(const std::string& method, const Json& parameters = Json::object());
-    Program& program() { return *_program; }
+    Program& program() { return *m_program; }
 
     void start(const PhoneStart& start) { call("phone.start", start.parameters()); }
     Json info() { return call("phone.info"); }
@@ -71,7 +71,7 @@ public:
     ColourWell colourWell(const std::string& id) { return ColourWell(get(id)); }
     Json get(const std::string& id) { return call("view.get", {{"id", id}}); }
 
-    // A finger: on a view's middle, at a point of the screen, or in steps.
+    /// A finger: on a view's middle, at a point of the screen, or in steps.
     void tap(const std::string& id) { call("touch.tap", {{"id", id}}); }
     void tapAt(double x, double y) { call("touch.tap", {{"at", {x, y}}}); }
     void press(const std::string& id, double seconds = 0.6) { call("touch.press", {{"id", id}, {"seconds", seconds}}); }
@@ -80,11 +80,11 @@ public:
     void down(double x, double y) { call("touch.down", {{"at", {x, y}}}); }
     void move(double x, double y) { call("touch.move", {{"at", {x, y}}}); }
     void up(double x, double y) { call("touch.up", {{"at", {x, y}}}); }
-    // Leaves a control as a finger would.
+    /// Leaves a control as a finger would.
     void setControl(const std::string& id, const Json& value) { call("control.set", {{"id", id}, {"value", value}}); }
     void trackControl(const std::string& id, const Json& value);
 
-    // What is stored, and what the extension's variable holds of it.
+    /// What is stored, and what the extension's variable holds of it.
     Json settings() { return call("settings.get").at("values"); }
     void set(const Json& values) { call("settings.set", {{"values", values}}); }
     Json bound(const std::string& key) { return call("settings.bound", {{"key", key}}).at("value"); }
@@ -93,24 +93,24 @@ public:
 
     Json global(const std::string& name) { return call("global.get", {{"name", name}}).at("value"); }
     Json send(const Json& target, const std::string& selector, const Json& arguments = Json::array());
-    // Records of a kind, or all; what is read is taken.
+    /// Records of a kind, or all; what is read is taken.
     std::vector<Json> takeLog(const std::string& kind = "");
 
     std::string readFile(const std::string& path);
     void writeFile(const std::string& path, const std::string& bytes);
-    // A PNG.
+    /// A PNG.
     std::string capture();
 
-    // Ends the program; answers its exit status.
-    int end() { return _program->end(); }
+    /// Ends the program; answers its exit status.
+    int end() { return m_program->end(); }
 
 private:
     Phone()
-        : _program(std::make_unique<Program>())
+        : m_program(std::make_unique<Program>())
     {
     }
 
-    std::unique_ptr<Program> _program;
+    std::unique_ptr<Program> m_program;
 };
 
 }

@@ -23,22 +23,22 @@ protected:
     explicit PhoneTest(
         double now = sundayEvening, void (*prepare)() = [] {})
     {
-        std::filesystem::create_directories(root_);
-        PhoneFiles::shared().setRoot(root_);
+        std::filesystem::create_directories(m_root);
+        PhoneFiles::shared().setRoot(m_root);
         Loop::shared().reset(now);
         prepare();
-        phone_.start();
+        m_phone.start();
         pool.emplace();
     }
     ~PhoneTest() override { Loop::shared().reset(0); }
 
     /// The host folder that is the phone's disk.
-    const std::string& root() const { return root_; }
+    const std::string& root() const { return m_root; }
 
 private:
-    Support::TemporaryFolder folder_;
-    const std::string root_ = folder_.at("root");
-    Phone phone_;
+    Support::TemporaryFolder m_folder;
+    const std::string m_root = m_folder.at("root");
+    Phone m_phone;
 
 protected:
     std::optional<ObjC::AutoreleasePool> pool;

@@ -1,3 +1,4 @@
+// Reads, writes and compares PNG files.
 #include "Tests/Support/Picture.hpp"
 
 #include <algorithm>

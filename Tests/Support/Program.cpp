@@ -87,11 +87,11 @@ Program::Program(const std::vector<std::string>& arguments)
     std::signal(SIGPIPE, SIG_IGN);
     const auto input = makePipe();
     const auto output = makePipe();
-    _pid = launch(arguments, {input[0], output[1], -1});
+    m_pid = launch(arguments, {input[0], output[1], -1});
     close(input[0]);
     close(output[1]);
-    _input = input[1];
-    _output = output[0];
+    m_input = input[1];
+    m_output = output[0];
 }
 
 Program::~Program()
@@ -104,7 +104,7 @@ void Program::write(const std::string& line)
 {
     const std::string text = line + '\n';
     for (std::size_t written = 0; written < text.size();) {
-        const auto count = ::write(_input, text.data() + written, text.size() - written);
+        const auto count = ::write(m_input, text.data() + written, text.size() - written);
         if (count < 0 && errno != EINTR)
             throw std::system_error(errno, std::generic_category(), "the program takes no input any more");
         written += count > 0 ? static_cast<std::size_t>(count) : 0;
@@ -115,45 +115,45 @@ std::optional<std::string> Program::read()
 {
     std::size_t searched = 0;
     for (;;) {
-        if (const auto newline = _unread.find('\n', searched); newline != std::string::npos) {
-            std::string line = _unread.substr(0, newline);
-            _unread.erase(0, newline + 1);
+        if (const auto newline = m_unread.find('\n', searched); newline != std::string::npos) {
+            std::string line = m_unread.substr(0, newline);
+            m_unread.erase(0, newline + 1);
             return line;
         }
-        searched = _unread.size();
+        searched = m_unread.size();
         std::array<char, 65536> bytes;
-        const auto count = ::read(_output, bytes.data(), bytes.size());
+        const auto count = ::read(m_output, bytes.data(), bytes.size());
         if (count < 0 && errno == EINTR)
             continue;
         if (count <= 0)
             return std::nullopt;
-        _unread.append(bytes.data(), static_cast<std::size_t>(count));
+        m_unread.append(bytes.data(), static_cast<std::size_t>(count));
     }
 }
 
 void Program::closeInput()
 {
-    if (_input >= 0)
-        close(std::exchange(_input, -1));
+    if (m_input >= 0)
+        close(std::exchange(m_input, -1));
 }
 
 void Program::closeOutput()
 {
-    if (_output >= 0)
-        close(std::exchange(_output, -1));
+    if (m_output >= 0)
+        close(std::exchange(m_output, -1));
 }
 
 int Program::end()
 {
-    if (_pid < 0)
+    if (m_pid < 0)
         return -1;
     closeInput();
-    return waitFor(std::exchange(_pid, -1));
+    return waitFor(std::exchange(m_pid, -1));
 }
 
 Json Program::call(const std::string& method, const Json& parameters)
 {
-    const int id = ++_lastId;
+    const int id = ++m_lastId;
     write(Json{{"jsonrpc", "2.0"}, {"id", id}, {"method", method}, {"params", parameters}}.dump());
     const auto line = read();
     if (!line)

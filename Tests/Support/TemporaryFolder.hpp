@@ -20,7 +20,7 @@ public:
     std::string at(const std::string& name) const { return (path() / name).string(); }
     bool has(const std::string& name) const { return std::filesystem::exists(path() / name); }
 
-    // Answers the path of the file.
+    /// Answers the path of the file.
     std::string put(const std::string& name, const std::string& bytes) const
     {
         std::filesystem::create_directories((path() / name).parent_path());

@@ -32,7 +32,7 @@ struct View {
 
     double centreX() const { return frame[0] + frame[2] / 2; }
     double centreY() const { return frame[1] + frame[3] / 2; }
-    // Itself or one further in.
+    /// Itself or one further in.
     const View* find(const std::string& id) const;
 };
 
@@ -48,7 +48,7 @@ struct Label : View {
     int lines;
 };
 
-// A slider or a stepper.
+/// A slider or a stepper.
 struct Range : View {
     explicit Range(const Json& reply);
 

@@ -1,3 +1,4 @@
+// Dates by the C library.
 #include "Tests/Support/WallClock.hpp"
 
 #include <cmath>
@@ -8,7 +9,7 @@ namespace Support {
 
 namespace {
 
-// The C library knows one zone at a time.
+/// The C library knows one zone at a time.
 void useZone(const std::string& zone)
 {
     setenv("TZ", zone.c_str(), 1);
@@ -18,27 +19,27 @@ void useZone(const std::string& zone)
 }
 
 WallClock::WallClock(const std::string& zone, const std::string& localTime)
-    : _zone(zone)
+    : m_zone(zone)
 {
     std::tm fields{};
     if (!strptime(localTime.c_str(), "%Y-%m-%dT%H:%M:%S", &fields))
         throw std::invalid_argument(localTime);
     fields.tm_isdst = -1;
     useZone(zone);
-    _moment = static_cast<double>(std::mktime(&fields));
+    m_moment = static_cast<double>(std::mktime(&fields));
 }
 
 double WallClock::toNextMinute() const
 {
     constexpr double little = 0.5;
-    const double since = _moment - little;
+    const double since = m_moment - little;
     return 60 - (since - 60 * std::floor(since / 60));
 }
 
 std::tm WallClock::fields() const
 {
-    useZone(_zone);
-    const auto seconds = static_cast<std::time_t>(std::floor(_moment));
+    useZone(m_zone);
+    const auto seconds = static_cast<std::time_t>(std::floor(m_moment));
     std::tm fields{};
     localtime_r(&seconds, &fields);
     return fields;

@@ -8,22 +8,22 @@ namespace Support {
 
 class WallClock {
 public:
-    // The zone as POSIX writes its rules, "CET-1CEST,M3.5.0,M10.5.0/3"; the local time as the protocol does.
+    /// The zone as POSIX writes its rules, "CET-1CEST,M3.5.0,M10.5.0/3"; the local time as the protocol does.
     WallClock(const std::string& zone, const std::string& localTime);
 
-    void setZone(const std::string& zone) { _zone = zone; }
-    void advance(double seconds) { _moment += seconds; }
-    // Seconds to the next whole minute, and a little more.
+    void setZone(const std::string& zone) { m_zone = zone; }
+    void advance(double seconds) { m_moment += seconds; }
+    /// Seconds to the next whole minute, and a little more.
     double toNextMinute() const;
-    // By strftime, in English.
+    /// By strftime, in English.
     std::string read(const char* format) const;
     int minuteOfDay() const;
 
 private:
     std::tm fields() const;
 
-    std::string _zone;
-    double _moment;
+    std::string m_zone;
+    double m_moment;
 };
 
 }

@@ -17,48 +17,48 @@ constexpr CalendarStyle gregorian{"gregorian", "en_US", "UTC"};
 
 TEST(CalendarMath, ReadsTheFieldsOfADate)
 {
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Year, gregorian), 2020);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Month, gregorian), 11);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Day, gregorian), 15);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Hour, gregorian), 21);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Minute, gregorian), 41);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Second, gregorian), 7);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Weekday, gregorian), 1);
-    EXPECT_EQ(calendarField(evening + 0.25, CalendarUnit::Nanosecond, gregorian), 250000000);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::year, gregorian), 2020);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::month, gregorian), 11);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::day, gregorian), 15);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::hour, gregorian), 21);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::minute, gregorian), 41);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::second, gregorian), 7);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::weekday, gregorian), 1);
+    EXPECT_EQ(calendarField(evening + 0.25, CalendarUnit::nanosecond, gregorian), 250000000);
 }
 
 TEST(CalendarMath, CountsInTheCalendarAndTheZone)
 {
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Year, {"hebrew", "en_US", "UTC"}), 5781);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Year, {"islamic-civil", "en_US", "UTC"}), 1442);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Year, {"buddhist", "en_US", "UTC"}), 2563);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Day, {"chinese", "en_US", "UTC"}), 1);
-    EXPECT_EQ(calendarField(evening, CalendarUnit::Hour, {"gregorian", "en_US", "Asia/Jerusalem"}), 23);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::year, {"hebrew", "en_US", "UTC"}), 5781);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::year, {"islamic-civil", "en_US", "UTC"}), 1442);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::year, {"buddhist", "en_US", "UTC"}), 2563);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::day, {"chinese", "en_US", "UTC"}), 1);
+    EXPECT_EQ(calendarField(evening, CalendarUnit::hour, {"gregorian", "en_US", "Asia/Jerusalem"}), 23);
 }
 
 TEST(CalendarMath, MovesADateByUnits)
 {
-    EXPECT_EQ(addToDate(evening, {{CalendarUnit::Day, 1}}, gregorian), evening + day);
+    EXPECT_EQ(addToDate(evening, {{CalendarUnit::day, 1}}, gregorian), evening + day);
     EXPECT_EQ(
-        addToDate(evening, {{CalendarUnit::Day, -15}, {CalendarUnit::Hour, 1}}, gregorian), evening - 15 * day + 3600);
-    EXPECT_EQ(addToDate(evening, {{CalendarUnit::Month, 1}}, gregorian), evening + 30 * day);
-    EXPECT_EQ(addToDate(evening + 0.123456, {{CalendarUnit::Day, 1}}, gregorian), evening + 0.123456 + day);
+        addToDate(evening, {{CalendarUnit::day, -15}, {CalendarUnit::hour, 1}}, gregorian), evening - 15 * day + 3600);
+    EXPECT_EQ(addToDate(evening, {{CalendarUnit::month, 1}}, gregorian), evening + 30 * day);
+    EXPECT_EQ(addToDate(evening + 0.123456, {{CalendarUnit::day, 1}}, gregorian), evening + 0.123456 + day);
 }
 
 TEST(CalendarMath, ADayAcrossSummerTimeKeepsTheHour)
 {
     const CalendarStyle berlin{"gregorian", "de_DE", "Europe/Berlin"};
     const auto before = dateFromFields(
-        {{CalendarUnit::Year, 2020}, {CalendarUnit::Month, 10}, {CalendarUnit::Day, 24}, {CalendarUnit::Hour, 12}},
+        {{CalendarUnit::year, 2020}, {CalendarUnit::month, 10}, {CalendarUnit::day, 24}, {CalendarUnit::hour, 12}},
         berlin);
     ASSERT_TRUE(before);
-    EXPECT_EQ(addToDate(*before, {{CalendarUnit::Day, 1}}, berlin), *before + 25 * 3600);
+    EXPECT_EQ(addToDate(*before, {{CalendarUnit::day, 1}}, berlin), *before + 25 * 3600);
 }
 
 TEST(CalendarMath, BuildsADateFromFields)
 {
-    EXPECT_EQ(dateFromFields({{CalendarUnit::Year, 2020}, {CalendarUnit::Month, 11}, {CalendarUnit::Day, 15},
-                                 {CalendarUnit::Hour, 21}, {CalendarUnit::Minute, 41}, {CalendarUnit::Second, 7}},
+    EXPECT_EQ(dateFromFields({{CalendarUnit::year, 2020}, {CalendarUnit::month, 11}, {CalendarUnit::day, 15},
+                                 {CalendarUnit::hour, 21}, {CalendarUnit::minute, 41}, {CalendarUnit::second, 7}},
                   gregorian),
         evening);
 }
@@ -66,9 +66,9 @@ TEST(CalendarMath, BuildsADateFromFields)
 TEST(CalendarMath, BadInputGivesNothing)
 {
     const double notANumber = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_FALSE(calendarField(evening, CalendarUnit::Day, {"no-such", "en_US", "UTC"}));
-    EXPECT_FALSE(calendarField(notANumber, CalendarUnit::Day, gregorian));
-    EXPECT_FALSE(addToDate(notANumber, {{CalendarUnit::Day, 1}}, gregorian));
+    EXPECT_FALSE(calendarField(evening, CalendarUnit::day, {"no-such", "en_US", "UTC"}));
+    EXPECT_FALSE(calendarField(notANumber, CalendarUnit::day, gregorian));
+    EXPECT_FALSE(addToDate(notANumber, {{CalendarUnit::day, 1}}, gregorian));
     EXPECT_FALSE(addToDate(evening, {}, {"", "en_US", "UTC"}));
 }
 
@@ -77,10 +77,10 @@ TEST(CalendarMath, AbsurdAmountsDoNotHang)
     const long most = std::numeric_limits<long>::max();
     for (const auto& identifier : calendarIdentifiers()) {
         const CalendarStyle style{identifier, "en_US", "UTC"};
-        for (const auto unit : {CalendarUnit::Day, CalendarUnit::Hour, CalendarUnit::Second}) {
+        for (const auto unit : {CalendarUnit::day, CalendarUnit::hour, CalendarUnit::second}) {
             EXPECT_GT(addToDate(evening, {{unit, most}}, style).value_or(evening + 1), evening) << identifier;
         }
-        EXPECT_TRUE(calendarField(1e300, CalendarUnit::Day, style)) << identifier;
+        EXPECT_TRUE(calendarField(1e300, CalendarUnit::day, style)) << identifier;
     }
 }
 
@@ -96,7 +96,7 @@ TEST(CalendarMath, KnowsTheCalendarOfALocale)
 TEST(CalendarMath, MeasuresTheWayBetweenDates)
 {
     const auto fields = fieldsBetween(evening, evening + 40 * day + 3661,
-        {CalendarUnit::Second, CalendarUnit::Minute, CalendarUnit::Hour, CalendarUnit::Day, CalendarUnit::Month},
+        {CalendarUnit::second, CalendarUnit::minute, CalendarUnit::hour, CalendarUnit::day, CalendarUnit::month},
         gregorian);
     std::vector<long> values;
     for (const auto& field : fields)

@@ -10,7 +10,7 @@ using namespace Simulator;
 
 namespace {
 
-// 2020-11-15 21:41:07 UTC, a Sunday.
+/// 2020-11-15 21:41:07 UTC, a Sunday.
 constexpr double evening = 627169267;
 
 std::string text(std::u16string_view pattern, std::string_view calendar = "gregorian",
@@ -145,10 +145,10 @@ TEST(DateText, KnowsTheLocalesOwnPatterns)
 
 TEST(DateText, KnowsTheNamesOfDaysAndMonths)
 {
-    const auto days = dateSymbols(DateSymbols::Weekdays, SymbolWidth::Short, false, "en_US", "gregorian");
+    const auto days = dateSymbols(DateSymbols::weekdays, SymbolWidth::abbreviated, false, "en_US", "gregorian");
     ASSERT_EQ(days.size(), 7u);
     EXPECT_EQ(days.front(), u"Sun");
-    EXPECT_EQ(dateSymbols(DateSymbols::Months, SymbolWidth::Wide, true, "de_DE", "gregorian").at(2), u"März");
-    EXPECT_EQ(dateSymbols(DateSymbols::HalvesOfDay, SymbolWidth::Wide, false, "en_US", "").back(), u"PM");
-    EXPECT_EQ(dateSymbols(DateSymbols::Eras, SymbolWidth::Short, false, "en_US", "buddhist").at(0), u"BE");
+    EXPECT_EQ(dateSymbols(DateSymbols::months, SymbolWidth::wide, true, "de_DE", "gregorian").at(2), u"März");
+    EXPECT_EQ(dateSymbols(DateSymbols::halvesOfDay, SymbolWidth::wide, false, "en_US", "").back(), u"PM");
+    EXPECT_EQ(dateSymbols(DateSymbols::eras, SymbolWidth::abbreviated, false, "en_US", "buddhist").at(0), u"BE");
 }

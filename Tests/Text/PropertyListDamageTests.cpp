@@ -17,7 +17,7 @@ std::string repeated(std::string_view piece, int count)
     return text;
 }
 
-// A binary list of one-byte offsets and references from the bytes of its objects.
+/// A binary list of one-byte offsets and references from the bytes of its objects.
 std::string binary(const std::vector<std::string>& objects)
 {
     std::string bytes = "bplist00";

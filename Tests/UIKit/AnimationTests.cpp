@@ -1,3 +1,4 @@
+// Animations of views: values, pictures and the end.
 #include "TouchTest.hpp"
 
 #include "Simulator/QuartzCore/LayerMotion.hpp"

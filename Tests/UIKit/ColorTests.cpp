@@ -1,3 +1,4 @@
+// UIColor and CGColor.
 #include "UIKitTest.hpp"
 
 #include <cmath>
@@ -112,7 +113,7 @@ TEST_F(Color, SystemColoursFollowTheAppearance)
     const auto label = named("labelColor");
     EXPECT_EQ(rgb(label), (Parts{0, 0, 0, 1}));
     const CGColorRef light = label.CGColor();
-    DeviceState::shared().style = InterfaceStyle::Dark;
+    DeviceState::shared().style = InterfaceStyle::dark;
     EXPECT_EQ(rgb(label), (Parts{1, 1, 1, 1}));
     EXPECT_EQ(rgb(named("systemYellowColor")), (Parts{1, 214 / 255.0, 10 / 255.0, 1}));
     EXPECT_EQ(CGColorGetComponents(light)[0], 0);

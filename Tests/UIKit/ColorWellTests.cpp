@@ -1,3 +1,4 @@
+// UIColorWell and the sheet that it opens.
 #include "TouchTest.hpp"
 
 #include "Platform/UIKit/UIColorWell.hpp"

@@ -1,3 +1,4 @@
+// NSLayoutConstraint and its anchors.
 #include "TouchTest.hpp"
 
 #include "Platform/QuartzCore/CAGradientLayer.hpp"

@@ -1,3 +1,4 @@
+// Bitmap contexts, pixel by pixel.
 #include "PhoneRoot.hpp"
 
 #include <cmath>

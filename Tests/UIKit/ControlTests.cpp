@@ -1,3 +1,4 @@
+// UIControl: events, targets, states.
 #include "TouchTest.hpp"
 
 #include "Platform/UIKit/UIButton.hpp"

@@ -1,3 +1,4 @@
+// How views describe themselves to who asks for the tree.
 #include "PhoneRoot.hpp"
 
 #include "Simulator/UIKit/ViewDescription.hpp"

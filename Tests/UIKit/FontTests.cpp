@@ -1,3 +1,4 @@
+// UIFont, and fonts that come and go while the phone runs.
 #include "PhoneRoot.hpp"
 #include "Platform/CoreText/CTFontManager.hpp"
 #include "Platform/Foundation/NSURL.hpp"
@@ -161,7 +162,7 @@ TEST_F(Fonts, AFileThatCannotBeReadIsNotRegistered)
     put("/Library/Picture.ttf", png(1, 1));
     EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf("/Library/Picture.ttf").raw(), 0, &error));
     EXPECT_NE(described(error).find("error 104"), std::string::npos);
-    PhoneFiles::shared().setFault(phoneFile, FileOperation::Read, EACCES);
+    PhoneFiles::shared().setFault(phoneFile, FileOperation::read, EACCES);
     EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf(phoneFile).raw(), 0, nullptr));
     EXPECT_FALSE(CTFontManagerRegisterFontsForURL(nullptr, 0, nullptr));
     EXPECT_FALSE(CTFontManagerRegisterFontsForURL(UI::Color::whiteColor().raw(), 0, nullptr));

@@ -1,3 +1,4 @@
+// Taps and long presses.
 #include "TouchTest.hpp"
 
 #include "Platform/UIKit/UIButton.hpp"

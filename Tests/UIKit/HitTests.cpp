@@ -1,3 +1,4 @@
+// Which view a finger hits.
 #include "TouchTest.hpp"
 
 namespace Simulator {

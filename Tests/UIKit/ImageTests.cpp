@@ -1,3 +1,4 @@
+// UIImage: files, scales, rendering modes.
 #include "PhoneRoot.hpp"
 
 #include "Simulator/UIKit/UIImage.hpp"

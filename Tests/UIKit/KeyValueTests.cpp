@@ -1,3 +1,4 @@
+// Values by their keys, on the platform's own classes.
 #include "Platform/Foundation/NSNumber.hpp"
 #include "Platform/UIKit/UIDevice.hpp"
 #include "Recorder.hpp"
@@ -60,7 +61,7 @@ TEST_F(KeyValue, AnInstanceVariableIsReleasedWithItsOwner)
 TEST_F(KeyValue, TheBatteryIsUnknownWhileNobodyWatchesIt)
 {
     const auto device = UI::Device::currentDevice();
-    DeviceState::shared().battery = {0.87, BatteryState::Charging};
+    DeviceState::shared().battery = {0.87, BatteryState::charging};
     DeviceState::shared().name = "Phone";
     device.setBatteryMonitoringEnabled(false);
     EXPECT_EQ(device.batteryLevel(), -1);

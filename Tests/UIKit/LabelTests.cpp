@@ -1,3 +1,4 @@
+// UILabel: defaults, texts, sizes.
 #include "PhoneRoot.hpp"
 
 #include "Platform/Foundation/NSDictionary.hpp"
@@ -53,7 +54,7 @@ TEST_F(Label, TheDefaultColourFollowsTheAppearance)
     const auto label = makeLabel();
     label.setText("9:41"_ns);
     EXPECT_EQ(drawn(label).runs[0].color, (Graphics::Color{0, 0, 0, 1}));
-    DeviceState::shared().style = InterfaceStyle::Dark;
+    DeviceState::shared().style = InterfaceStyle::dark;
     EXPECT_EQ(drawn(label).runs[0].color, (Graphics::Color{1, 1, 1, 1}));
 }
 
@@ -180,8 +181,8 @@ TEST_F(Label, NumbersThatAreNoStylesCountAsTheDefaults)
     label.setTextAlignment(static_cast<UI::TextAlignment>(99));
     label.setLineBreakMode(static_cast<UI::LineBreakMode>(-1));
     label.setNumberOfLines(-5);
-    EXPECT_EQ(drawn(label).alignment, Graphics::TextAlignment::Natural);
-    EXPECT_EQ(drawn(label).lineBreakMode, Graphics::LineBreakMode::TruncateTail);
+    EXPECT_EQ(drawn(label).alignment, Graphics::TextAlignment::natural);
+    EXPECT_EQ(drawn(label).lineBreakMode, Graphics::LineBreakMode::truncateTail);
     EXPECT_EQ(drawn(label).numberOfLines, 0);
 }
 

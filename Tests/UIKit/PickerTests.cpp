@@ -1,3 +1,4 @@
+// UIPickerView, turned by a finger and by messages.
 #include "TouchTest.hpp"
 
 #include "Platform/UIKit/UIPickerView.hpp"

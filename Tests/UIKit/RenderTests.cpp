@@ -1,3 +1,4 @@
+// Views as pixels.
 #include "PhoneRoot.hpp"
 
 #include "Simulator/UIKit/LayerTree.hpp"
@@ -122,7 +123,7 @@ TEST_F(Rendering, SystemColoursFollowTheAppearanceOfTheNextFrame)
     window.setBackgroundColor(UI::Color::sendClass<UI::Color, "labelColor">());
     renderer.render(windowOf(window));
     EXPECT_EQ(at(5, 5), black);
-    changeInterfaceStyle(windowOf(window), InterfaceStyle::Dark);
+    changeInterfaceStyle(windowOf(window), InterfaceStyle::dark);
     renderer.render(windowOf(window));
     EXPECT_EQ(at(5, 5), (Pixel{255, 255, 255}));
 }

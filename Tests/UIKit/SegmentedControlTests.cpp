@@ -1,3 +1,4 @@
+// UISegmentedControl.
 #include "TouchTest.hpp"
 
 #include "Platform/UIKit/UISegmentedControl.hpp"

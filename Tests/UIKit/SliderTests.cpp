@@ -1,3 +1,4 @@
+// UISlider.
 #include "TouchTest.hpp"
 
 #include "Platform/UIKit/UISlider.hpp"

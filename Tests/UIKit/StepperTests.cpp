@@ -1,3 +1,4 @@
+// UIStepper.
 #include "TouchTest.hpp"
 
 #include "Platform/UIKit/UIStepper.hpp"

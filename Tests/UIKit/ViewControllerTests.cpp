@@ -1,3 +1,4 @@
+// UIViewController: loading, appearance, presentation.
 #include "Recorder.hpp"
 #include "UIKitTest.hpp"
 

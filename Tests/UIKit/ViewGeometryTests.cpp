@@ -1,3 +1,4 @@
+// Frames, bounds, centres and transforms of views.
 #include "UIKitTest.hpp"
 
 #include <cmath>

@@ -1,3 +1,4 @@
+// When views are laid out, and in which order.
 #include "Recorder.hpp"
 #include "UIKitTest.hpp"
 

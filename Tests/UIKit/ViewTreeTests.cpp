@@ -1,3 +1,4 @@
+// Views that are put into each other and taken out.
 #include "Recorder.hpp"
 #include "UIKitTest.hpp"
 
@@ -179,8 +180,8 @@ TEST_F(ViewTree, AppearanceChangesAreToldToTheWholeWindow)
     const auto window = makeWindow();
     window.addSubview(recordingView());
     takeRecordedCalls();
-    changeInterfaceStyle(windowOf(window), InterfaceStyle::Dark);
-    changeInterfaceStyle(windowOf(window), InterfaceStyle::Dark);
+    changeInterfaceStyle(windowOf(window), InterfaceStyle::dark);
+    changeInterfaceStyle(windowOf(window), InterfaceStyle::dark);
     EXPECT_EQ(takeRecordedCalls(), Calls{"traitCollectionDidChange: something"});
     EXPECT_EQ((window.send<NS::Object, "traitCollection">().send<long, "userInterfaceStyle">()), 2);
 }

@@ -12,7 +12,7 @@
 namespace LYR {
 
 /// Failed expectations show the packed colours.
-void PrintTo(const PickedColors& colors, std::ostream* stream)
+void PrintTo(const PickedColours& colors, std::ostream* stream)
 {
     for (WKSColor color : {colors.background, colors.primary, colors.secondary, colors.detail})
         *stream << std::hex << color.packed() << ' ';
@@ -58,7 +58,7 @@ void addShades(std::vector<WKSColor>& pixels, WKSColor first, int count)
     }
 }
 
-PickedColors pick(std::initializer_list<Patch> patches)
+PickedColours pick(std::initializer_list<Patch> patches)
 {
     return pickPalette(picture(patches));
 }
@@ -81,9 +81,9 @@ TEST(PalettePick, TakesBlackOrWhiteAsBackgroundOfAPictureWithNothingElse)
 
 TEST(PalettePick, TakesTextColoursByFrequencyAmongThoseOfTheOtherDarkness)
 {
-    EXPECT_EQ(pick({{navy, 50}, {wine, 40}, {sky, 3}, {rose, 9}, {lime, 6}}), (PickedColors{navy, rose, lime, sky}));
+    EXPECT_EQ(pick({{navy, 50}, {wine, 40}, {sky, 3}, {rose, 9}, {lime, 6}}), (PickedColours{navy, rose, lime, sky}));
     EXPECT_EQ(
-        pick({{rose, 50}, {lime, 40}, {forest, 3}, {navy, 9}, {wine, 6}}), (PickedColors{rose, navy, wine, forest}));
+        pick({{rose, 50}, {lime, 40}, {forest, 3}, {navy, 9}, {wine, 6}}), (PickedColours{rose, navy, wine, forest}));
 }
 
 TEST(PalettePick, TakesBlackAndWhiteAsTextColours)
@@ -105,7 +105,7 @@ TEST(PalettePick, LeavesOutTextColoursTooCloseToOneAnother)
 {
     WKSColor almostRose = rgb(240, 160, 180);
     EXPECT_EQ(
-        pick({{navy, 50}, {rose, 9}, {almostRose, 8}, {lime, 6}, {sky, 3}}), (PickedColors{navy, rose, lime, sky}));
+        pick({{navy, 50}, {rose, 9}, {almostRose, 8}, {lime, 6}, {sky, 3}}), (PickedColours{navy, rose, lime, sky}));
 }
 
 TEST(PalettePick, FindsTheDetailDistinctFromPrimaryAndSecondary)
@@ -113,43 +113,43 @@ TEST(PalettePick, FindsTheDetailDistinctFromPrimaryAndSecondary)
     WKSColor almostRose = rgb(240, 160, 180);
     WKSColor almostLime = rgb(180, 230, 70);
     EXPECT_EQ(pick({{navy, 50}, {rose, 9}, {lime, 8}, {almostRose, 7}, {almostLime, 6}, {sky, 1}}),
-        (PickedColors{navy, rose, lime, sky}));
+        (PickedColours{navy, rose, lime, sky}));
 }
 
 TEST(PalettePick, FillsMissingTextColoursWithWhiteOnADarkBackground)
 {
-    EXPECT_EQ(pick({{navy, 50}, {wine, 9}}), (PickedColors{navy, white, white, white}));
-    EXPECT_EQ(pick({{navy, 50}, {rose, 9}}), (PickedColors{navy, rose, white, white}));
-    EXPECT_EQ(pick({{navy, 50}, {rose, 9}, {lime, 8}}), (PickedColors{navy, rose, lime, white}));
+    EXPECT_EQ(pick({{navy, 50}, {wine, 9}}), (PickedColours{navy, white, white, white}));
+    EXPECT_EQ(pick({{navy, 50}, {rose, 9}}), (PickedColours{navy, rose, white, white}));
+    EXPECT_EQ(pick({{navy, 50}, {rose, 9}, {lime, 8}}), (PickedColours{navy, rose, lime, white}));
 }
 
 TEST(PalettePick, FillsMissingTextColoursWithBlackOnALightBackground)
 {
-    EXPECT_EQ(pick({{rose, 50}, {lime, 9}}), (PickedColors{rose, black, black, black}));
-    EXPECT_EQ(pick({{rose, 50}, {navy, 9}}), (PickedColors{rose, navy, black, black}));
+    EXPECT_EQ(pick({{rose, 50}, {lime, 9}}), (PickedColours{rose, black, black, black}));
+    EXPECT_EQ(pick({{rose, 50}, {navy, 9}}), (PickedColours{rose, navy, black, black}));
 }
 
 TEST(PalettePick, AnswersForASingleColour)
 {
-    EXPECT_EQ(pick({{navy, 1350}}), (PickedColors{navy, white, white, white}));
-    EXPECT_EQ(pick({{black, 1350}}), (PickedColors{black, white, white, white}));
-    EXPECT_EQ(pick({{white, 1350}}), (PickedColors{white, black, black, black}));
+    EXPECT_EQ(pick({{navy, 1350}}), (PickedColours{navy, white, white, white}));
+    EXPECT_EQ(pick({{black, 1350}}), (PickedColours{black, white, white, white}));
+    EXPECT_EQ(pick({{white, 1350}}), (PickedColours{white, black, black, black}));
 }
 
 TEST(PalettePick, AnswersForASinglePixel)
 {
-    EXPECT_EQ(pick({{rose, 1}}), (PickedColors{rose, black, black, black}));
+    EXPECT_EQ(pick({{rose, 1}}), (PickedColours{rose, black, black, black}));
 }
 
 TEST(PalettePick, TreatsNoPixelsAsBlack)
 {
-    EXPECT_EQ(pickPalette({}), (PickedColors{black, white, white, white}));
+    EXPECT_EQ(pickPalette({}), (PickedColours{black, white, white, white}));
 }
 
 TEST(PalettePick, TreatsATransparentPictureAsTheTransparentBlackThatItIs)
 {
     WKSColor nothing{};
-    EXPECT_EQ(pick({{nothing, 300}}), (PickedColors{nothing, white, white, white}));
+    EXPECT_EQ(pick({{nothing, 300}}), (PickedColours{nothing, white, white, white}));
 }
 
 TEST(PalettePick, CountsEqualChannelsOfDifferentAlphaApart)
@@ -161,7 +161,7 @@ TEST(PalettePick, CountsEqualChannelsOfDifferentAlphaApart)
 TEST(PalettePick, TakesTheSmallerPackedValueOfEquallyFrequentColours)
 {
     EXPECT_EQ(pick({{wine, 5}, {forest, 5}, {navy, 5}}).background, forest);
-    EXPECT_EQ(pick({{navy, 50}, {rose, 5}, {lime, 5}, {sky, 5}}), (PickedColors{navy, sky, lime, rose}));
+    EXPECT_EQ(pick({{navy, 50}, {rose, 5}, {lime, 5}, {sky, 5}}), (PickedColours{navy, sky, lime, rose}));
 }
 
 TEST(PalettePick, TakesASmallerPackedValueWithHighAlphaAfterOneWithLowAlpha)
@@ -181,7 +181,7 @@ TEST(PalettePick, TakesThemOutOfTheFullestCellsOfAPictureInWhichNoTwoPixelsAreAl
     addShades(pixels, rgb(0x00, 0x60, 0x30), 9);
     addShades(pixels, rgb(0x40, 0xE0, 0xE0), 9);
     EXPECT_EQ(pickPalette(pixels),
-        (PickedColors{rgb(0x20, 0x50, 0xA0), rgb(0xE0, 0xC0, 0x90), rgb(0xA0, 0xE0, 0x50), rgb(0xE0, 0x90, 0xE0)}));
+        (PickedColours{rgb(0x20, 0x50, 0xA0), rgb(0xE0, 0xC0, 0x90), rgb(0xA0, 0xE0, 0x50), rgb(0xE0, 0x90, 0xE0)}));
 }
 
 TEST(PalettePick, PrefersAColourThatOccursTwiceToAFullCellOfColoursThatOccurOnce)
@@ -189,7 +189,7 @@ TEST(PalettePick, PrefersAColourThatOccursTwiceToAFullCellOfColoursThatOccurOnce
     std::vector<WKSColor> pixels = picture({{wine, 2}, {rose, 2}});
     addShades(pixels, rgb(0x20, 0x50, 0xA0), 40);
     addShades(pixels, rgb(0xE0, 0xC0, 0x90), 40);
-    PickedColors picked = pickPalette(pixels);
+    PickedColours picked = pickPalette(pixels);
     EXPECT_EQ(picked.background, wine);
     EXPECT_EQ(picked.primary, rose);
 }
@@ -233,7 +233,7 @@ TEST(PalettePick, DoesNotDependOnTheOrderOfThePixels)
         = picture({{navy, 40}, {wine, 40}, {rose, 7}, {lime, 7}, {sky, 7}, {white, 100}, {black, 100}, {forest, 40}});
     addShades(pixels, rgb(21, 30, 90), 20);
     addShades(pixels, rgb(121, 200, 248), 20);
-    PickedColors expected = pickPalette(pixels);
+    PickedColours expected = pickPalette(pixels);
     std::mt19937 random(1);
     for (int round = 0; round < 50; ++round) {
         std::shuffle(pixels.begin(), pixels.end(), random);
@@ -255,7 +255,7 @@ TEST(PalettePick, AgreesWithASlowCountOnNoise)
     std::vector<WKSColor> pixels;
     for (int i = 0; i < 1350; ++i)
         pixels.push_back(WKSColor::fromLong(0xFF000000 | (random() & 0x00F8F8F8)));
-    PickedColors picked = pickPalette(pixels);
+    PickedColours picked = pickPalette(pixels);
 
     // The first in this order is the winner: the counts are negative so that the largest comes first.
     using Rank = std::tuple<long, long, std::uint32_t>;

@@ -1,3 +1,4 @@
+// A full refresh, a quick one, a later one, and the stock messages that ask for them.
 #include "Tweak/Clock/ClockHooks.hpp"
 
 #include "Platform/Foundation/Dispatch.hpp"
@@ -53,7 +54,7 @@ SB::FLockScreenDateView SBFLockScreenDateView_initWithFrame(SB::FLockScreenDateV
     return view;
 }
 
-// The date line follows here too, so that it changes with the stock date's own updates.
+/// The date line follows here too, so that it changes with the stock date's own updates.
 void SBFLockScreenDateView_updateLabels(SB::FLockScreenDateView self, SEL cmd)
 {
     stock<SBFLockScreenDateView_updateLabels>(self, cmd);
@@ -65,7 +66,7 @@ void SBFLockScreenDateView_updateLabels(SB::FLockScreenDateView self, SEL cmd)
     settleTimerAndDate();
 }
 
-// The stock clock stays in the tree but never shows.
+/// The stock clock stays in the tree but never shows.
 void SBFLockScreenDateView_layoutSubviews(SB::FLockScreenDateView self, SEL cmd)
 {
     stock<SBFLockScreenDateView_layoutSubviews>(self, cmd);

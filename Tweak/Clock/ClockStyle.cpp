@@ -12,7 +12,7 @@
 
 namespace LYR {
 
-// Colours taken from the wallpaper at each full refresh; nil without a wallpaper.
+/// Colours taken from the wallpaper at each full refresh; nil without a wallpaper.
 LYR_VARIABLE(ObjC::Variable<UI::Color>, _bgWallColor);
 LYR_VARIABLE(ObjC::Variable<UI::Color>, _primaryWallColor);
 LYR_VARIABLE(ObjC::Variable<UI::Color>, _secondaryWallColor);

@@ -1,3 +1,4 @@
+// Reads an icon by its name and sizes it for the line.
 #include "Tweak/Clock/DateLineIcon.hpp"
 
 #include "Tweak/Settings.hpp"

@@ -1,3 +1,4 @@
+// The table of options, and the functions that its rows name.
 #include "Tweak/Clock/DateOptions.hpp"
 
 #include "Platform/UIKit/NSTextAttachment.hpp"
@@ -74,7 +75,7 @@ namespace Option {
 constexpr DateOption dateOnly{
     [](DateLine& line) { _dateLabel->setText(line.date); },
     []() -> NS::AttributedString { return attributed(dateText(NS::Date::date())); }, false};
-// A temperature has no case.
+/// A temperature has no case.
 constexpr DateOption temperature{[](DateLine& line) { setWeatherLine(line, line.items.weather().temperature); },
     previewWeather<&WeatherItems::temperature>, true};
 constexpr DateOption highLow{showWeather<&WeatherItems::highLow>, previewWeather<&WeatherItems::highLow>, true};

@@ -1,3 +1,4 @@
+// Finds out a timer by the text that the stock subtitle gets.
 #include "Tweak/Clock/SubtitleHooks.hpp"
 
 #include "Platform/Foundation/InstallPrefix.hpp"
@@ -54,7 +55,7 @@ void SBFLockScreenDateSubtitleDateView_didMoveToWindow(SB::FLockScreenDateSubtit
     stock<SBFLockScreenDateSubtitleDateView_didMoveToWindow>(self, cmd);
 }
 
-// Both signs are tried on the same line, so a text that has both stands in it twice, and the colon decides.
+/// Both signs are tried on the same line, so a text that has both stands in it twice, and the colon decides.
 void SBFLockScreenDateSubtitleView_setString(SB::FLockScreenDateSubtitleView self, SEL cmd, NS::String text)
 {
     stock<SBFLockScreenDateSubtitleView_setString>(self, cmd, text);

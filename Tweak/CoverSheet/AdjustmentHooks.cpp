@@ -1,3 +1,4 @@
+// One interception for each change, in the order of the screen from top to bottom.
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
 
 #include "Platform/ObjC/Hook.hpp"
@@ -20,7 +21,7 @@ void NCNotificationStructuredListViewController_viewDidLoad(NC::StructuredListVi
     _notifVC = self;
 }
 
-// The list makes room for the clock above it.
+/// The list makes room for the clock above it.
 UIEdgeInsets CSCombinedListViewController_listViewDefaultContentInsets(UI::ViewController self, SEL cmd)
 {
     auto insets = stock<CSCombinedListViewController_listViewDefaultContentInsets>(self, cmd);
@@ -80,7 +81,7 @@ void CSTeachableMomentsContainerViewController_updateText(UI::ViewController sel
         self, cmd, _enabledCT ? _customText.stringValue() : text);
 }
 
-// The stock layout is not run: what never shows needs none.
+/// The stock layout is not run: what never shows needs none.
 void NCNotificationListSectionHeaderView_layoutSubviews(UI::View self, SEL)
 {
     self.setHidden(true);

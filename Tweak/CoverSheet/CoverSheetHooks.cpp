@@ -1,3 +1,4 @@
+// The cover sheet's appearance brings clock, strip and editor onto it.
 #include "Tweak/CoverSheet/CoverSheetHooks.hpp"
 
 #include "Platform/ObjC/Hook.hpp"

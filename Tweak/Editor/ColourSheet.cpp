@@ -1,3 +1,4 @@
+// The sheet's life: opened over the lock screen, told of choices, closed.
 #include "Tweak/Editor/ColourSheet.hpp"
 
 #include "Platform/Foundation/NSNotificationCenter.hpp"

@@ -21,7 +21,8 @@ extern constinit ObjC::Variable<ColourSheet> _colorWellSheet;
 
 // What is on the sheet: a row for each element, with a well, a swatch and a caption.
 
-/// `colorWellView`, `colorWell`, `wellViewTime` and so on, as instance variables that own what they hold, with accessors.
+/// `colorWellView`, `colorWell`, `wellViewTime` and so on, as instance variables that own what they hold, with
+/// accessors.
 void addColourSheetProperties(ObjC::ClassBuilder& builder);
 void buildColourSheet(const ColourSheet& sheet);
 /// Shows a colour on the element's swatch.

@@ -1,3 +1,4 @@
+// The views of the sheet, and how its wells are placed.
 #include "Tweak/Editor/ColourSheet.hpp"
 
 #include "Platform/UIKit/UIScreen.hpp"
@@ -36,7 +37,7 @@ SEL action()
     return ObjC::selector<name>();
 }
 
-// Time, date, widgets. The widgets' colour is that of their battery.
+/// Time, date, widgets. The widgets' colour is that of their battery.
 const Row rows[tabCount] = {
     {"Time Color", "_colorWell", "_wellViewTime", action<"colorChanged:">, action<"colorTouch:">,
         [] { return _timeLabel->textColor(); }},

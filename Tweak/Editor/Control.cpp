@@ -1,3 +1,4 @@
+// Makes, places, shows and hides what the rows describe.
 #include "Tweak/Editor/Control.hpp"
 
 namespace LYR {

@@ -72,7 +72,7 @@ inline void playTap()
     AudioServicesPlaySystemSound(1519);
 }
 
-// The kinds of controls. What is empty or null is left out.
+/// The kinds of controls. What is empty or null is left out.
 UI::Button makeButton(const char* title, const char* symbol, CGFloat radius);
 UI::Label makeLabel(const char* text, CGFloat fontSize, UI::TextAlignment alignment, long lines);
 UI::Slider makeSlider(double minimum, double maximum, double value, const char* symbol);

@@ -21,7 +21,7 @@ void leaveEditor();
 /// Ends whatever a long press began, without a motion, and lets no other one follow. Nothing without an editor.
 void closeEditorAtOnce();
 
-// The panel and its buttons; the one of the widgets goes its own way.
+/// The panel and its buttons; the one of the widgets goes its own way.
 void hideOverlay();
 void removeOverlay();
 void removeWidgetButton();

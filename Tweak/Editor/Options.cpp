@@ -1,3 +1,4 @@
+// Fills the segments, and stores the one that is tapped.
 #include "Tweak/Editor/Options.hpp"
 
 #include "Tweak/State.hpp"

@@ -20,7 +20,7 @@ constexpr CGFloat buttonHeight = 40;
 constexpr int buttonRadius = 12;
 constexpr CGFloat tabWidth = 85;
 constexpr CGFloat doneWidth = 90;
-// Above the bottom of the screen; a parked panel is below that of every one.
+/// Above the bottom of the screen; a parked panel is below that of every one.
 constexpr CGFloat panelRise = 345;
 constexpr CGFloat buttonsRise = 395;
 constexpr CGFloat parking = 1200;

@@ -18,7 +18,7 @@ namespace {
 constexpr const Area* areas[] = {&batterySaverArea, &editModeArea, &tabArea, &colourSheetArea, &panelArea, &fontArea,
     &colourArea, &positionArea, &dateArea, &widgetArea, &noticeArea};
 
-// What a segment of a tab's panel shows.
+/// What a segment of a tab's panel shows.
 constexpr const Area* timeAreas[] = {&fontArea, &colourArea, &positionArea};
 constexpr const Area* dateAreas[] = {&fontArea, &colourArea, &positionArea, &dateArea};
 constexpr const Area* widgetAreas[] = {&widgetArea, &colourArea, &positionArea};

@@ -1,3 +1,4 @@
+// Writes one value or one colour, and tells the rest of the phone.
 #include "Tweak/Editor/Storing.hpp"
 
 #include "Platform/Foundation/CFNotificationCenter.hpp"

@@ -1,4 +1,5 @@
-// How the editor writes what the user chooses: the settings, the colours, and the texts that stand for numbers and colours.
+// How the editor writes what the user chooses: the settings, the colours, and the texts that stand for numbers and
+// colours.
 #pragma once
 
 #include "Platform/Foundation/NSNumber.hpp"

@@ -1,3 +1,4 @@
+// What runs when the phone is locked, lit, unlocked or short of memory.
 #include "Tweak/Lifecycle/LifecycleHooks.hpp"
 
 #include "Platform/ObjC/Hook.hpp"
@@ -74,7 +75,7 @@ void SpringBoard_frontDisplayDidChange(UI::Responder self, SEL cmd, NS::Object a
     removeOverlay();
 }
 
-// The stock dial never shows: the clock has a timer line of its own.
+/// The stock dial never shows: the clock has a timer line of its own.
 void SBLockScreenTimerDialView_didMoveToWindow(UI::View self, SEL cmd)
 {
     self.removeFromSuperview();
@@ -126,7 +127,7 @@ void SBBacklightController_turnOnScreenFully(SB::BacklightController self, SEL c
     refreshWeather();
 }
 
-// What counts is the clock timer's start, not that of the timer that is stopped.
+/// What counts is the clock timer's start, not that of the timer that is stopped.
 void SBBacklightController_requestUpdateWidget(SB::BacklightController, SEL)
 {
     updateDateViewAfterMilliseconds(widgetDelay);

@@ -1,3 +1,4 @@
+// Asks for alarms and events, and writes them in the user's words.
 #include "Tweak/Widgets/AgendaItems.hpp"
 
 #include "Platform/EventKit/EKEventStore.hpp"

@@ -12,14 +12,14 @@
 
 namespace LYR {
 
-// The glyph: outline, level, a bolt for each place.
+/// The glyph: outline, level, a bolt for each place.
 LYR_VIEW(UI::ImageView, _phoneImage);
 LYR_VIEW(UI::ImageView, _BG);
 LYR_VIEW(UI::ImageView, _BL);
 LYR_VIEW(UI::ImageView, _BC);
 LYR_VIEW(UI::ImageView, _BC2);
 LYR_VIEW(UI::Label, _batteryLabel);
-// The bar.
+/// The bar.
 LYR_VIEW(UI::ImageView, _batteryBarBackground);
 LYR_VIEW(UI::ImageView, _batteryBarIndicator);
 LYR_VIEW(UI::Label, _batteryBarName);
@@ -50,7 +50,7 @@ constexpr Place placesWithPercentage[] = {
 };
 constexpr Presentation percentage{1, placesWithPercentage};
 
-// The bolt stands at the right end of its picture, beside where the battery is; over the phone it is in the middle.
+/// The bolt stands at the right end of its picture, beside where the battery is; over the phone it is in the middle.
 constexpr CGFloat boltFromMiddle = -12;
 constexpr Place placesUnderPhone[] = {
     aboutMiddle(_phoneImage, 0, 32, 4, 32),

@@ -12,34 +12,34 @@ namespace LYR {
 class Items {
 public:
     explicit Items(const NS::Date& moment)
-        : moment_(moment)
+        : m_moment(moment)
     {
     }
 
     const WeatherItems& weather()
     {
-        if (!weather_)
-            weather_ = weatherItems();
-        return *weather_;
+        if (!m_weather)
+            m_weather = weatherItems();
+        return *m_weather;
     }
     const AlarmItem& alarm()
     {
-        if (!alarm_)
-            alarm_ = nextAlarm();
-        return *alarm_;
+        if (!m_alarm)
+            m_alarm = nextAlarm();
+        return *m_alarm;
     }
     const NS::String& event()
     {
-        if (!event_)
-            event_ = firstEventText(moment_);
-        return *event_;
+        if (!m_event)
+            m_event = firstEventText(m_moment);
+        return *m_event;
     }
 
 private:
-    NS::Date moment_;
-    std::optional<WeatherItems> weather_;
-    std::optional<AlarmItem> alarm_;
-    std::optional<NS::String> event_;
+    NS::Date m_moment;
+    std::optional<WeatherItems> m_weather;
+    std::optional<AlarmItem> m_alarm;
+    std::optional<NS::String> m_event;
 };
 
 }

@@ -1,3 +1,4 @@
+// Builds the strip, chooses its views, and fills and places them.
 #include "Tweak/Widgets/Strip.hpp"
 
 #include "Platform/UIKit/UIScreen.hpp"

@@ -18,7 +18,7 @@ constexpr CGFloat tabletScale = 0.8;
 /// Between two slots.
 constexpr CGFloat gap = 8;
 
-// One cell of weather beside a bar: the bar has a fixed place, for which the strip moves to the left.
+/// One cell of weather beside a bar: the bar has a fixed place, for which the strip moves to the left.
 constexpr CGFloat shiftForBar = 40;
 constexpr CGFloat barPlace = 260;
 /// The weather's place in the moved strip is on the screen.

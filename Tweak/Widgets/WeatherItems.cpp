@@ -1,3 +1,4 @@
+// Reads the weather library's values, each of which may be missing.
 #include "Tweak/Widgets/WeatherItems.hpp"
 
 #include "Platform/Companions/WeatherApp.hpp"
@@ -20,7 +21,7 @@ struct Indicator {
     const char* mark;
 };
 
-// The first row that holds counts, so the low comes before the high where the day's range is small.
+/// The first row that holds counts, so the low comes before the high where the day's range is small.
 constexpr Indicator indicators[] = {
     {End::low, 0, "1", "a"},
     {End::low, 1, "3", "c"},

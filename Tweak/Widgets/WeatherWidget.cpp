@@ -6,13 +6,13 @@
 
 namespace LYR {
 
-// In one cell: the day's scale, how far along it is, the temperature within and the day's ends below.
+/// In one cell: the day's scale, how far along it is, the temperature within and the day's ends below.
 LYR_VIEW(UI::ImageView, _HL);
 LYR_VIEW(UI::ImageView, _HLo);
 LYR_VIEW(UI::Label, _tempLabel);
 LYR_VIEW(UI::Label, _lowLabel);
 LYR_VIEW(UI::Label, _highLabel);
-// In two: the condition's icon, the temperature, and beside it the condition over the day's ends.
+/// In two: the condition's icon, the temperature, and beside it the condition over the day's ends.
 LYR_VIEW(UI::Label, _conditionLabel);
 LYR_VIEW(UI::Label, _temperatureLabel);
 LYR_VIEW(UI::Label, _conLabel);

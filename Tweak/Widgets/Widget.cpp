@@ -1,3 +1,4 @@
+// Finds the presentation that the settings choose, and hides the others.
 #include "Tweak/Widgets/Widget.hpp"
 
 #include <algorithm>

@@ -31,7 +31,8 @@ constexpr StripView pictureOf(ObjC::NamedVariable<UI::ImageView, name>& variable
 }
 
 template <ObjC::FixedString name>
-constexpr StripView labelOf(ObjC::NamedVariable<UI::Label, name>& variable, CGFloat fontSize, UI::TextAlignment alignment)
+constexpr StripView labelOf(
+    ObjC::NamedVariable<UI::Label, name>& variable, CGFloat fontSize, UI::TextAlignment alignment)
 {
     return {variable.address(), variable.name, {}, fontSize, alignment};
 }

@@ -16,7 +16,7 @@ namespace {
 
 [[noreturn]] void refuseValue(const std::string& takes, const Json& given)
 {
-    throw ProtocolError(ErrorCode::BadParameters, "parameter \"value\" takes " + takes + ", not " + quote(given));
+    throw ProtocolError(ErrorCode::badParameters, "parameter \"value\" takes " + takes + ", not " + quote(given));
 }
 
 double numberOf(const Json& value, double least, double most)
@@ -81,7 +81,7 @@ void setControl(PhoneContext& context, const Json& parameters)
     else if (auto* control = dynamic_cast<UIControl*>(&view); control && setValue(*control, value))
         finish(*control, parameters.value("tracking", false));
     else
-        throw ProtocolError(ErrorCode::BadParameters,
+        throw ProtocolError(ErrorCode::badParameters,
             "parameter \"id\" takes a slider, a stepper, a segmented control, a colour well or a picker; "
                 + quote(identifier) + " is a " + view.className());
 }

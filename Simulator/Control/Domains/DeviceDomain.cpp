@@ -15,9 +15,9 @@ struct BatteryStateName {
     const char* name;
     BatteryState state;
 };
-constexpr std::array batteryStates{BatteryStateName{"unknown", BatteryState::Unknown},
-    BatteryStateName{"unplugged", BatteryState::Unplugged}, BatteryStateName{"charging", BatteryState::Charging},
-    BatteryStateName{"full", BatteryState::Full}};
+constexpr std::array batteryStates{BatteryStateName{"unknown", BatteryState::unknown},
+    BatteryStateName{"unplugged", BatteryState::unplugged}, BatteryStateName{"charging", BatteryState::charging},
+    BatteryStateName{"full", BatteryState::full}};
 
 struct WeatherMember {
     const char* name;
@@ -120,7 +120,7 @@ void applyDevice(const Json& parameters)
         {"alarm", applyAlarm},
         {"style",
             [](const Json& json) {
-                DeviceState::shared().style = json == "dark" ? InterfaceStyle::Dark : InterfaceStyle::Light;
+                DeviceState::shared().style = json == "dark" ? InterfaceStyle::dark : InterfaceStyle::light;
             }},
         {"locale", [](const Json& json) { PhoneLocale::shared().locale = localeName(json.get<std::string>()); }},
         {"timeZone", [](const Json& json) { PhoneLocale::shared().timeZone = json; }},
@@ -137,7 +137,7 @@ Json describeDevice()
     const PhoneLocale& locale = PhoneLocale::shared();
     return {{"battery", describeBattery()}, {"weather", describeWeather()}, {"events", describeEvents()},
         {"alarm", device.alarm ? Json(*device.alarm) : Json()},
-        {"style", device.style == InterfaceStyle::Dark ? "dark" : "light"}, {"locale", locale.locale},
+        {"style", device.style == InterfaceStyle::dark ? "dark" : "light"}, {"locale", locale.locale},
         {"timeZone", locale.timeZone}, {"languages", locale.languages}};
 }
 

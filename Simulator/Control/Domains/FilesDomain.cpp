@@ -25,7 +25,7 @@ constexpr std::array faults{FaultName{"EACCES", EACCES}, FaultName{"ENOSPC", ENO
     const std::string message = path + ": " + strerror(error);
     if (error == ENOENT || error == ENOTDIR)
         throwNotFound(message);
-    throw ProtocolError(ErrorCode::Internal, message);
+    throw ProtocolError(ErrorCode::internal, message);
 }
 
 Json readFile(const std::string& path)
@@ -50,9 +50,9 @@ void setFault(const Json& parameters)
         if (parameters.at("error") == fault.name)
             error = fault.error;
     PhoneFiles::shared().setFault(parameters.at("path").get<std::string>(),
-        operation == "read"        ? FileOperation::Read
-            : operation == "write" ? FileOperation::Write
-                                   : FileOperation::Rename,
+        operation == "read"        ? FileOperation::read
+            : operation == "write" ? FileOperation::write
+                                   : FileOperation::rename,
         error);
 }
 

@@ -14,15 +14,15 @@ Json describeScreen();
 
 class FrameFeed {
 public:
-    // {"screen": {"width", "height", "scale"}, "pixels": [width, height], "tiles": indices, "seconds"}
+    /// {"screen": {"width", "height", "scale"}, "pixels": [width, height], "tiles": indices, "seconds"}
     Json draw(UIWindow&, const std::string& path);
 
 private:
     std::vector<std::size_t> write(const std::vector<Graphics::PixelRect>& damage, const Graphics::FrameView&);
     bool writeTile(std::size_t index, const Graphics::FrameView&, bool isNew);
 
-    ScreenRenderer _renderer;
-    std::unique_ptr<SharedFrame> _frame;
+    ScreenRenderer m_renderer;
+    std::unique_ptr<SharedFrame> m_frame;
 };
 
 }

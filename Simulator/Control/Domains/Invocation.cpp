@@ -130,7 +130,7 @@ Slot nextSlot(const char*& encoding)
 [[noreturn]] void refuse(std::size_t index, const std::string& takes, const Json& given)
 {
     throw ProtocolError(
-        ErrorCode::BadParameters, "args[" + std::to_string(index) + "] takes " + takes + ", not " + quote(given));
+        ErrorCode::badParameters, "args[" + std::to_string(index) + "] takes " + takes + ", not " + quote(given));
 }
 
 void fillStructure(Slot& slot, std::size_t index, const Json& json)
@@ -223,7 +223,7 @@ Json call(IMP implementation, Slot& result, std::deque<Slot>& slots)
     ffi_cif interface;
     if (ffi_prep_cif(&interface, FFI_DEFAULT_ABI, static_cast<unsigned>(types.size()), result.type, types.data())
         != FFI_OK)
-        throw ProtocolError(ErrorCode::Internal, "this method cannot be called by hand");
+        throw ProtocolError(ErrorCode::internal, "this method cannot be called by hand");
     ffi_call(&interface, reinterpret_cast<void (*)()>(implementation), result.bytes, values.data());
     return jsonOf(result);
 }
@@ -243,7 +243,7 @@ Json invoke(id target, const std::string& selectorName, const Json& arguments, b
     while (*encoding)
         slots.push_back(nextSlot(encoding));
     if (arguments.size() + 2 != slots.size())
-        throw ProtocolError(ErrorCode::BadParameters,
+        throw ProtocolError(ErrorCode::badParameters,
             "args takes " + std::to_string(slots.size() - 2) + " values for " + quote(selectorName));
     store(slots[0], target);
     store(slots[1], selector);

@@ -1,3 +1,4 @@
+// How a request is carried out: as one turn of the phone's loop, on the view that it names.
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 
 #include "Simulator/UIKit/ViewDescription.hpp"
@@ -6,12 +7,12 @@ namespace Simulator::Control {
 
 void PhoneContext::add(const std::string& method, Dispatcher::Handler handler)
 {
-    _dispatcher.add(method, asOneTurn(std::move(handler)));
+    m_dispatcher.add(method, asOneTurn(std::move(handler)));
 }
 
 void PhoneContext::add(const Method& method, Dispatcher::Handler handler)
 {
-    _dispatcher.add(method, asOneTurn(std::move(handler)));
+    m_dispatcher.add(method, asOneTurn(std::move(handler)));
 }
 
 Dispatcher::Handler PhoneContext::asOneTurn(Dispatcher::Handler handler)
@@ -34,7 +35,7 @@ UIView& PhoneContext::viewWithId(const std::string& identifier) const
 
 void throwNotFound(const std::string& message)
 {
-    throw ProtocolError(ErrorCode::NotFound, message);
+    throw ProtocolError(ErrorCode::notFound, message);
 }
 
 }

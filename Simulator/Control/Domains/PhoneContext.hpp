@@ -16,7 +16,7 @@ class PhoneContext {
 public:
     PhoneContext(Simulator::Shell& shell, Dispatcher& dispatcher)
         : shell(shell)
-        , _dispatcher(dispatcher)
+        , m_dispatcher(dispatcher)
     {
     }
 
@@ -38,7 +38,7 @@ public:
 private:
     Dispatcher::Handler asOneTurn(Dispatcher::Handler handler);
 
-    Dispatcher& _dispatcher;
+    Dispatcher& m_dispatcher;
 };
 
 [[noreturn]] void throwNotFound(const std::string& message);

@@ -99,7 +99,7 @@ Json globalValue(const std::string& name)
         return valueOf<double>(*variable);
     if (type == "Q")
         return valueOf<unsigned long>(*variable);
-    throw ProtocolError(ErrorCode::Internal,
+    throw ProtocolError(ErrorCode::internal,
         "the variable " + quote(name) + " is of a type that is not known: " + quote(variable->type));
 }
 

@@ -1,3 +1,4 @@
+// Which JSON stands for which object. Colours are told in components, everything unknown as its description.
 #include "Simulator/Control/Domains/RuntimeValues.hpp"
 
 #include "Platform/Foundation/NSDate.hpp"
@@ -31,7 +32,7 @@ Json jsonOfNumber(const NS::Number& number)
     return number.longValue();
 }
 
-Json jsonOfColor(const UI::Color& color)
+Json jsonOfColour(const UI::Color& color)
 {
     CGFloat components[4]{};
     color.getRed(&components[0], &components[1], &components[2], &components[3]);
@@ -68,12 +69,12 @@ Json jsonOfOther(const NS::Object& object)
     return json;
 }
 
-bool isColor(const std::string& text)
+bool isColour(const std::string& text)
 {
     return text.size() == 9 && text[0] == '#' && text.find_first_not_of("0123456789ABCDEF", 1) == std::string::npos;
 }
 
-NS::Object colorOfText(const std::string& text)
+NS::Object colourOfText(const std::string& text)
 {
     auto component = [&](int i) { return std::stoi(text.substr(1 + 2 * i, 2), nullptr, 16) / 255.0; };
     return UI::Color::colorWithRed(component(0), component(1), component(2), component(3));
@@ -81,8 +82,8 @@ NS::Object colorOfText(const std::string& text)
 
 NS::Object objectOfText(const std::string& text)
 {
-    if (isColor(text))
-        return colorOfText(text);
+    if (isColour(text))
+        return colourOfText(text);
     if (localTime().accepts(text))
         return NS::Date::dateWithTimeIntervalSinceReferenceDate(*momentOfLocalTime(text));
     return NS::String::fromUTF8(text);
@@ -126,7 +127,7 @@ Json jsonOfObject(const NS::Object& object)
     if (auto date = object.as<NS::Date>())
         return localTimeText(date.timeIntervalSinceReferenceDate());
     if (auto color = object.as<UI::Color>())
-        return jsonOfColor(color);
+        return jsonOfColour(color);
     if (auto array = object.as<NS::Array>())
         return jsonOfArray(array);
     if (auto dictionary = object.as<NS::Dictionary>())

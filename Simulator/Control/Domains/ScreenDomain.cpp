@@ -12,10 +12,10 @@ namespace Simulator::Control {
 static void writeFile(const std::string& path, const std::vector<std::byte>& bytes)
 {
     try {
-        OutputFile(path, OutputFile::OwnStreams::Refused)
+        OutputFile(path, OutputFile::OwnStreams::refused)
             .write({reinterpret_cast<const char*>(bytes.data()), bytes.size()});
     } catch (const std::runtime_error& error) {
-        throw ProtocolError(ErrorCode::BadParameters, std::string("parameter \"path\": ") + error.what());
+        throw ProtocolError(ErrorCode::badParameters, std::string("parameter \"path\": ") + error.what());
     }
 }
 
@@ -29,7 +29,7 @@ void addScreenMethods(PhoneContext& context)
         }
         return Json{{"base64", toBase64({reinterpret_cast<const char*>(png.data()), png.size()})}};
     });
-    const Method draw{std::string(drawMessage), {{"path", nonEmptyText(), Presence::Required}}};
+    const Method draw{std::string(drawMessage), {{"path", nonEmptyText(), Presence::required}}};
     context.add(draw, [&context](const Json& parameters) {
         return context.frameFeed.draw(context.shell.window(), parameters.at("path"));
     });

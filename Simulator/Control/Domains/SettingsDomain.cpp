@@ -33,7 +33,7 @@ Json boundJson(const std::string& key)
     auto bound = boundValue(key);
     if (!bound)
         throwNotFound("no setting " + quote(key) + " has been bound");
-    return bound->kind == BoundValue::Kind::Boolean ? Json(bound->boolean) : jsonOfObject(bound->object);
+    return bound->kind == BoundValue::Kind::boolean ? Json(bound->boolean) : jsonOfObject(bound->object);
 }
 
 Json storedColours()
@@ -47,7 +47,7 @@ void storeColours(const Json& values)
     all.update(values);
     auto bytes = xmlOfDictionary(valueOfJson(all).as<NS::Dictionary>());
     if (int error = PhoneFiles::shared().put(coloursPath, bytes))
-        throw ProtocolError(ErrorCode::Internal, "cannot write the colour file: " + std::string(strerror(error)));
+        throw ProtocolError(ErrorCode::internal, "cannot write the colour file: " + std::string(strerror(error)));
 }
 
 void announce(const Json& parameters, const char* notification)

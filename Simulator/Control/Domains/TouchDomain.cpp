@@ -22,7 +22,7 @@ struct Step {
 
 [[noreturn]] void refuse(const std::string& message)
 {
-    throw ProtocolError(ErrorCode::BadParameters, message);
+    throw ProtocolError(ErrorCode::badParameters, message);
 }
 
 CGPoint pointOf(const Json& json)
@@ -60,7 +60,7 @@ void perform(PhoneContext& context, const std::vector<Step>& steps)
             action(Finger::shared());
             context.shell.commit();
         };
-        if (loop.clockKind() == ClockKind::Real && begin > 0) {
+        if (loop.clockKind() == ClockKind::realTime && begin > 0) {
             loop.schedule(begin, act);
             continue;
         }
