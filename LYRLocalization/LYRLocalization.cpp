@@ -42,8 +42,8 @@ NS::MutableDictionary translations(id self, SEL)
 
 void setTranslations(id self, SEL, ObjC::Object texts)
 {
-    bool isMutable = texts.is<NS::MutableDictionary>();
-    ObjC::setOwnedVariable(self, translationsVariable, isMutable ? texts : texts.as<NS::Dictionary>().mutableCopy());
+    // A dictionary that cannot be changed may be of the other class all the same.
+    ObjC::setOwnedVariable(self, translationsVariable, texts.as<NS::Dictionary>().mutableCopy());
 }
 
 void loadLayers(const LYRLocalization& catalogue)
@@ -147,7 +147,7 @@ NS::String sharedStringWithNumber(ObjC::Object, SEL, ObjC::Object key, Number nu
 
 void registerLYRLocalization()
 {
-    ObjC::ClassBuilder("LYRLocalization", NS::Object::type())
+    ObjC::ClassBuilder::of<LYRLocalization>(NS::Object::type())
         .ivar<id>(languageVariable)
         .ivar<id>(translationsVariable)
         .classMethod<"sharedInstance", &sharedInstance>()

@@ -54,3 +54,7 @@ renderControl() {
     sed "s/@VERSION@/$1/; s/@KIND@/$kind/; s/@FIRST_SYSTEM@/$firstSystem/" \
         "$(dirname "${BASH_SOURCE[0]}")/Package/control.in"
 }
+# What runs on the phone once the package is unpacked.
+renderPostinst() {
+    sed "s|@PREFIX@|$prefix|" "$(dirname "${BASH_SOURCE[0]}")/Package/postinst.in"
+}

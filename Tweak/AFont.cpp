@@ -1,6 +1,7 @@
 // Both entries are written at every start, so that switching the setting off undoes them.
 #include "Tweak/AFont.hpp"
 
+#include "Platform/Companions/HBPreferences.hpp"
 #include "Platform/Foundation/InstallPrefix.hpp"
 #include "Platform/Foundation/NSFileManager.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
@@ -41,7 +42,11 @@ void updateAFontBlacklist()
     blacklist.setObject(excluded, "com.apple.Preferences"_ns);
     settings.setObject(blacklist, "blacklist"_ns);
     _prefsAFont = settings;
-    settings.copy().writeToFile(settingsFile, true);
+    // The settings service keeps what it has read, and would write that over a file of ours.
+    if (auto store = HB::Preferences::withIdentifier("com.rpgfarm.afontprefs"_ns))
+        store.setObject(blacklist.copy(), "blacklist"_ns);
+    else
+        settings.copy().writeToFile(settingsFile, true);
 }
 
 }

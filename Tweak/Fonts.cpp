@@ -61,6 +61,9 @@ const BuiltInFont builtInFonts[] = {
     {[] { return LYR_PREFIX LYR_RESOURCES "date.ttf"_ns; }, &_font5},
 };
 
+/// The families that the installed fonts were gathered from, and nothing was registered since.
+constinit ObjC::Variable<NS::Array> gatheredFamilies;
+
 /// What each of them was like when it was read last.
 constinit std::array<FileState, std::size(builtInFonts)> readStates;
 
@@ -98,6 +101,7 @@ NS::Data readFont(const NS::String& path)
 NS::String registerGraphicsFont(const NS::Data& data)
 {
     GraphicsFont font = graphicsFontFrom(data);
+    gatheredFamilies = NS::Array();
     id error = nullptr;
     if (!font || !CTFontManagerRegisterGraphicsFont(font.get(), &error))
         logFailure("Failed to load font: "_ns, error);
@@ -107,9 +111,9 @@ NS::String registerGraphicsFont(const NS::Data& data)
 void registerFile(const NS::String& path)
 {
     auto url = NS::URL::fileURLWithPath(path);
-    CTFontManagerUnregisterFontsForURL(url.raw(), 0, nullptr);
+    CTFontManagerUnregisterFontsForURL(url.raw(), CTFontManagerScope::process, nullptr);
     id error = nullptr;
-    if (!CTFontManagerRegisterFontsForURL(url.raw(), 0, &error))
+    if (!CTFontManagerRegisterFontsForURL(url.raw(), CTFontManagerScope::process, &error))
         logFailure("[LYRFont] Failed to load font: "_ns, error);
 }
 
@@ -156,8 +160,10 @@ void loadBuiltInFonts()
 
 unsigned long rebuildAvailableFonts()
 {
-    auto fonts = NS::MutableArray::make();
     auto families = UI::Font::familyNames();
+    if (availableFonts && gatheredFamilies && families.isEqualToArray(gatheredFamilies.reference()))
+        return availableFonts->count();
+    auto fonts = NS::MutableArray::make();
     for (unsigned long i = 0; i < families.count(); ++i) {
         auto names = UI::Font::fontNamesForFamilyName(families.at<NS::String>(i));
         for (unsigned long j = 0; j < names.count(); ++j)
@@ -165,6 +171,7 @@ unsigned long rebuildAvailableFonts()
     }
     fonts.sortUsingSelector<"localizedCaseInsensitiveCompare:">();
     availableFonts = fonts.mutableCopy();
+    gatheredFamilies = families;
     return availableFonts->count();
 }
 

@@ -17,7 +17,7 @@ extern constinit ObjC::Variable<NS::MutableArray> availableFonts;
 void registerUserFonts();
 /// Registers the fonts of the resource folder and stores their names. A file is read again only when it has changed.
 void loadBuiltInFonts();
-/// Gathers the installed fonts anew into `availableFonts` and answers their number.
+/// Gathers the installed fonts into `availableFonts`, anew if there are others since, and answers their number.
 unsigned long rebuildAvailableFonts();
 
 }

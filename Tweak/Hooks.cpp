@@ -2,11 +2,13 @@
 #include "Tweak/Hooks.hpp"
 
 #include "Platform/CoreGraphics/CGGeometry.hpp"
+#include "Platform/Foundation/NSLog.hpp"
 #include "Platform/ObjC/Hook.hpp"
 #include "Tweak/Clock/ClockHooks.hpp"
 #include "Tweak/Clock/SubtitleHooks.hpp"
 #include "Tweak/CoverSheet/AdjustmentHooks.hpp"
 #include "Tweak/CoverSheet/CoverSheetHooks.hpp"
+#include "Tweak/CoverSheet/MotionHooks.hpp"
 #include "Tweak/Editor/Editor.hpp"
 #include "Tweak/Lifecycle/LifecycleHooks.hpp"
 #include "Tweak/Settings.hpp"
@@ -75,6 +77,28 @@ std::span<const HookRow> hooksAfterEditor()
     return rows;
 }
 
+/// What the lock screen of one system or another does besides.
+std::span<const HookRow> furtherHooks()
+{
+    static const HookRow rows[] = {
+        hooked<"CSCoverSheetViewController", "viewDidAppear:", CSCoverSheetViewController_viewDidAppear>(),
+        hooked<"CSCoverSheetView", "layoutSubviews", CSCoverSheetView_layoutSubviews>(),
+        hooked<"SBFLockScreenDateView", "setContentAlpha:withSubtitleVisible:",
+            SBFLockScreenDateView_setContentAlpha>(),
+        hooked<"SBFLockScreenDateView", "setTimeAlpha:subtitleAlpha:", SBFLockScreenDateView_setTimeAlpha>(),
+        hooked<"SBFLockScreenDateViewController",
+            "updateTimerWithText:", SBFLockScreenDateViewController_updateTimerWithText>(),
+        hooked<"NCNotificationListSectionRevealHintView", "_configureRevealHintTitleIfNecessary",
+            NCNotificationListSectionRevealHintView_configureTitle>(),
+        hooked<"CSCoverSheetViewController",
+            "_transitionChargingViewToVisible:suppressedByPack:showBattery:animated:",
+            CSCoverSheetViewController_transitionChargingViewOrPack>(),
+        hooked<"SBLockScreenManager",
+            "lockUIFromSource:withOptions:completion:", SBLockScreenManager_lockUIFromSourceWithCompletion>(),
+    };
+    return rows;
+}
+
 /// What hides the header of the notifications.
 std::span<const HookRow> notificationHeaderHooks()
 {
@@ -97,18 +121,35 @@ std::span<const HookRow> axonHooks()
     return rows;
 }
 
+void noteLeftOut(const HookRow& row)
+{
+    NS::log("[LYR] not intercepted on this system: "_ns.stringByAppendingString(NS::String::fromUTF8(row.className))
+                .stringByAppendingString(" "_ns)
+                .stringByAppendingString(NS::String::fromUTF8(row.selectorName)));
 }
+
+void install(const char* name, std::span<const HookRow> rows)
+{
+    hookTables.tables[hookTables.count++] = {name, rows.data(), rows.size()};
+    ObjC::install(rows, noteLeftOut);
+}
+
+}
+
+constinit HookTables hookTables{};
 
 void installHooks()
 {
     if (_enabled) {
-        ObjC::install(hooksBeforeEditor());
-        installEditorActions();
-        ObjC::install(hooksAfterEditor());
+        install("main", hooksBeforeEditor());
+        install("editor", editorActionRows());
+        install("main", hooksAfterEditor());
     }
     if (hideNotifHeader)
-        ObjC::install(notificationHeaderHooks());
-    ObjC::install(axonHooks());
+        install("notificationHeader", notificationHeaderHooks());
+    install("axon", axonHooks());
+    if (_enabled)
+        install("further", furtherHooks());
 }
 
 }

@@ -71,17 +71,31 @@ UI::Color colourOfText(std::string_view text)
     return UI::Color::colorWithRed(component(16), component(8), component(0), std::min(alpha, 1.0));
 }
 
-}
-
-void loadPrefs()
+void bindSettings()
 {
-    _preferences = HB::Preferences::withIdentifier(LYR_SETTINGS_STORE ""_ns);
 #define LYR_BIND_FLAG(variable, key, fallback, ...) _preferences->registerBool(&variable, fallback, key##_ns);
 #define LYR_BIND_OBJECT(variable, key, fallback, ...)                                                                  \
     _preferences->registerObject(variable.address(), fallback##_ns, key##_ns);
     LYR_SETTINGS(LYR_BIND_FLAG, LYR_BIND_OBJECT)
 #undef LYR_BIND_FLAG
 #undef LYR_BIND_OBJECT
+}
+
+}
+
+void loadPrefs()
+{
+    auto preferences = HB::Preferences::withIdentifier(LYR_SETTINGS_STORE ""_ns);
+    // What is bound follows the stored values by itself, and each registration reads them all.
+    if (_preferences.reference() == preferences)
+        return;
+    _preferences = preferences;
+    bindSettings();
+}
+
+void readPrefs()
+{
+    bindSettings();
 }
 
 void loadColours()

@@ -52,6 +52,8 @@ extern constinit ObjC::Variable<NS::Dictionary> _preferencesDictionary;
 
 /// Binds every setting anew.
 void loadPrefs();
+/// Reads all of them again where the store could not be read before.
+void readPrefs();
 /// Reads the colour file into `_preferencesDictionary`; empty if there is none.
 void loadColours();
 /// A colour of the colour file as it was last read; white if it has none under that key. The colour library reads the

@@ -1,6 +1,8 @@
 // Storage of the shared state.
 #include "Tweak/State.hpp"
 
+#include "Tweak/StockMotion.hpp"
+
 namespace LYR {
 
 LYR_VIEW(UI::Label, _timeLabel);
@@ -14,6 +16,8 @@ LYR_VARIABLE(ObjC::Variable<SB::FLockScreenDateViewController>, dateView);
 LYR_VARIABLE(ObjC::Variable<SB::FLockScreenDateView>, lockscreenDateView);
 LYR_VARIABLE(ObjC::Variable<NC::StructuredListViewController>, _notifVC);
 LYR_VARIABLE(ObjC::Variable<CS::CoverSheetViewController>, coverView);
+
+constinit StockMotion stockMotion{};
 
 LYR_VARIABLE(bool, isTimerRunning, false);
 LYR_VARIABLE(bool, _screenOn, false);

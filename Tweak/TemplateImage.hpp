@@ -18,6 +18,15 @@ inline UI::Image templateThroughPNG(const UI::Image& picture)
                    : UI::Image();
 }
 
+/// A template in a colour of its own, for the beginning of a text, where some systems draw templates black. What has its
+/// own colours keeps them.
+inline UI::Image inkedImage(const UI::Image& picture, const UI::Color& colour)
+{
+    if (picture.renderingMode() != UI::ImageRenderingMode::alwaysTemplate)
+        return picture;
+    return picture.imageWithTintColor(colour).imageWithRenderingMode(UI::ImageRenderingMode::alwaysOriginal);
+}
+
 /// A picture of the resource folder as a template; nil without one. Read anew each time.
 inline UI::Image resourceIcon(const NS::String& path)
 {

@@ -3,9 +3,11 @@
 #include "Platform/Foundation/CFNotificationCenter.hpp"
 #include "Product/Names.hpp"
 #include "Tweak/AFont.hpp"
+#include "Tweak/Companions.hpp"
 #include "Tweak/Editor/Editor.hpp"
 #include "Tweak/Fonts.hpp"
 #include "Tweak/Hooks.hpp"
+#include "Tweak/Lifecycle/FirstUnlock.hpp"
 #include "Tweak/Respring.hpp"
 #include "Tweak/Settings.hpp"
 #include "WKSPalette/WKSColorUtils.hpp"
@@ -39,11 +41,13 @@ __attribute__((constructor)) void start()
     loadAFont();
     // Brings the weather classes into the process.
     dlopen("/System/Library/PrivateFrameworks/Weather.framework/Weather", RTLD_LAZY);
+    openCompanions();
     loadPrefs();
     observeNotifications();
     registerUserFonts();
     updateAFontBlacklist();
     installHooks();
+    awaitFirstUnlock();
 }
 
 }

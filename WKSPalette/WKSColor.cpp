@@ -151,7 +151,7 @@ UI::Color raisingSaturation(const UI::Color& color, double minimum)
 
 void registerWKSColor()
 {
-    ObjC::ClassBuilder("WKSColor", NS::Object::type())
+    ObjC::ClassBuilder::of<ColorObject>(NS::Object::type())
         .ivar<std::uint8_t>("_r")
         .ivar<std::uint8_t>("_g")
         .ivar<std::uint8_t>("_b")

@@ -111,7 +111,7 @@ void registerWKSPalette()
 {
     registerWKSColor();
     registerPaletteClass();
-    ObjC::ClassBuilder("WKSColorUtils", NS::Object::type())
+    ObjC::ClassBuilder::of<WKSColorUtils>(NS::Object::type())
         .classMethod<"averageColors:withAlpha:", &averageColors>()
         .classMethod<"averageColorNew:withAlpha:", &averageColorNew>()
         .classMethod<"averageColor:withAlpha:", &averageColor>()

@@ -33,7 +33,7 @@ void dealloc(id self, SEL command)
 
 void registerPaletteClass()
 {
-    ObjC::ClassBuilder builder("WKSPalette", NS::Object::type());
+    auto builder = ObjC::ClassBuilder::of<WKSPalette>(NS::Object::type());
     for (const char* name : entryVariables)
         builder.ivar<id>(name);
     builder.method<"background", &getEntry<background>>()

@@ -5,9 +5,9 @@
 
 namespace HB {
 
-class Preferences : public ObjC::Class_<Preferences, NS::Object, "HBPreferences"> {
+class Preferences : public ObjC::PrivateClass_<Preferences, NS::Object, "HBPreferences"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
 
     static Preferences withIdentifier(const NS::String& identifier) { return make<"initWithIdentifier:">(identifier); }
     /// Binds a variable: it receives the stored value or the default now, and later changes as they come.

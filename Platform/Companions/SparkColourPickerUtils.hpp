@@ -6,9 +6,9 @@
 
 namespace Spark {
 
-class ColourPickerUtils : public ObjC::Class_<ColourPickerUtils, NS::Object, "SparkColourPickerUtils"> {
+class ColourPickerUtils : public ObjC::PrivateClass_<ColourPickerUtils, NS::Object, "SparkColourPickerUtils"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
 
     /// The colour of "#RRGGBB" or "#RRGGBB:opacity"; that of the fallback text if there is none.
     static UI::Color colourWithString(const NS::String& text, const NS::String& fallback)

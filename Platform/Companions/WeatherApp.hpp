@@ -5,9 +5,9 @@
 
 namespace Weather {
 
-class WeatherApp : public ObjC::Class_<WeatherApp, NS::Object, "WeatherApp"> {
+class WeatherApp : public ObjC::PrivateClass_<WeatherApp, NS::Object, "WeatherApp"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
 
     static WeatherApp sharedManager() { return sendClass<WeatherApp, "sharedManager">(); }
     void refreshWeatherData() const { send<void, "refreshWeatherData">(); }

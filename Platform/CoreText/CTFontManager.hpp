@@ -6,10 +6,13 @@
 
 using CTFontRef = const struct __CTFont*;
 
+/// For whom a font is registered; none is no scope to register with.
+enum class CTFontManagerScope : std::uint32_t { none = 0, process = 1 };
+
 extern "C" {
-/// `scope` 0 lets the system choose. On failure `error` receives an error that the caller owns.
-bool CTFontManagerRegisterFontsForURL(id url, std::uint32_t scope, id* error);
-bool CTFontManagerUnregisterFontsForURL(id url, std::uint32_t scope, id* error);
+/// On failure `error` receives an error that the caller owns.
+bool CTFontManagerRegisterFontsForURL(id url, CTFontManagerScope scope, id* error);
+bool CTFontManagerUnregisterFontsForURL(id url, CTFontManagerScope scope, id* error);
 bool CTFontManagerRegisterGraphicsFont(CGFontRef, id* error);
 CTFontRef CTFontCreateWithGraphicsFont(
     CGFontRef, CGFloat size, const CGAffineTransform* matrix, const void* attributes);

@@ -16,10 +16,18 @@ public:
     bool isAllDay() const { return send<bool, "isAllDay">(); }
 };
 
+enum class AuthorizationStatus : long { notDetermined = 0, restricted = 1, denied = 2, authorized = 3 };
+
 class EventStore : public ObjC::Class_<EventStore, NS::Object, "EKEventStore"> {
 public:
     using Class_::Class_;
 
+    /// Whether the user lets this process read events.
+    static AuthorizationStatus authorizationStatusForEvents()
+    {
+        constexpr unsigned long events = 0;
+        return AuthorizationStatus(sendClass<long, "authorizationStatusForEntityType:">(events));
+    }
     /// `calendars` nil means all.
     NS::Object predicateForEvents(const NS::Date& start, const NS::Date& end) const
     {

@@ -14,6 +14,7 @@ public:
     /// An array of these objects; nil ones are left out.
     template <class... Objects>
     static Array of(const Objects&... objects);
+    bool isEqualToArray(const Array& other) const { return send<bool, "isEqualToArray:">(other); }
     unsigned long count() const { return send<unsigned long, "count">(); }
     /// The element at an index, as a facade of its class; nil beyond the end or if it is of another class.
     template <ObjC::Handle T>

@@ -10,6 +10,7 @@ public:
     using Class_::Class_;
 
     static Locale currentLocale() { return sendClass<Locale, "currentLocale">(); }
+    static Locale withIdentifier(const String& identifier) { return make<"initWithLocaleIdentifier:">(identifier); }
     /// The user's languages, the most preferred first.
     static Array preferredLanguages() { return sendClass<Array, "preferredLanguages">(); }
     /// Language, script and region of an identifier, each under its key.

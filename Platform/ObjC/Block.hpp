@@ -1,6 +1,7 @@
 // Blocks, the platform's callbacks, built by hand from their public layout: any compiler will do.
 #pragma once
 
+#include "Platform/ObjC/Encoding.hpp"
 #include "Platform/ObjC/Object.hpp"
 
 #include <concepts>
@@ -11,6 +12,13 @@ extern void* _NSConcreteStackBlock[];
 }
 
 namespace ObjC {
+
+/// A block of somebody else's, to be handed on as it came.
+struct BlockArgument {
+    const void* block;
+};
+template <>
+inline constexpr std::string_view structureEncoding<BlockArgument> = "@?";
 
 /// What stands before the values that a block carries, as every block has it.
 struct BlockDescriptor {

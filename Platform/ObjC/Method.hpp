@@ -35,7 +35,8 @@ struct Adapter<function, owned> {
                 std::remove_cvref_t<Self>(self), command, fromWire<std::remove_cvref_t<Arguments>>(arguments)...));
     }
     static IMP implementation() { return reinterpret_cast<IMP>(&call); }
-    static const char* types() { return methodEncoding<Result, Arguments...>.text.data(); }
+    static constexpr const EncodingText& encoding = methodEncoding<Result, Arguments...>;
+    static const char* types() { return encoding.text.data(); }
 };
 
 /// What a class of ours inherits for a message, to be called from its own method.
@@ -51,6 +52,21 @@ public:
     ClassBuilder(const char* name, Class superclass)
         : m_class(superclass ? objc_allocateClassPair(superclass, name, 0) : nullptr)
     {
+    }
+
+    /// The class of a facade, which stands for it once it is built. A name that a stranger's class has is not ours to
+    /// use: ours gets a longer one then. Where the class has been built already, nothing is done.
+    template <class Facade>
+    static ClassBuilder of(Class superclass)
+    {
+        if (Facade::kept)
+            return {"", nullptr};
+        listClass<Facade::nameOfClass>();
+        ClassBuilder builder(Facade::nameOfClass.text, superclass);
+        if (!builder.m_class)
+            builder = ClassBuilder(Facade::otherNameOfClass.data(), superclass);
+        builder.m_kept = &Facade::kept;
+        return builder;
     }
 
     template <class T>
@@ -77,8 +93,11 @@ public:
     /// The registered class; nil if the name was taken or the superclass is missing.
     Class build()
     {
-        if (m_class)
-            objc_registerClassPair(m_class);
+        if (!m_class)
+            return nullptr;
+        objc_registerClassPair(m_class);
+        if (m_kept)
+            *m_kept = m_class;
         return m_class;
     }
 
@@ -95,6 +114,7 @@ private:
     }
 
     Class m_class;
+    Class* m_kept = nullptr;
 };
 
 }

@@ -83,7 +83,7 @@ public:
     template <class T>
     InstanceVariable<T> variable(const char* name) const;
 
-    /// The object in the instance variable of that name; nil if the class has no such variable.
+    /// The object in the instance variable of that name; nil if the class has none, or something else in it.
     template <Handle T>
     T ivar(const char* name) const;
 
@@ -149,7 +149,9 @@ InstanceVariable<T> Object::variable(const char* name) const
 template <Handle T>
 T Object::ivar(const char* name) const
 {
-    return T(variable<id>(name).get());
+    Ivar found = m_object ? class_getInstanceVariable(object_getClass(m_object), name) : nullptr;
+    const char* encoding = found ? ivar_getTypeEncoding(found) : nullptr;
+    return encoding && encoding[0] == '@' ? T(variable<id>(name).get()) : T();
 }
 
 /// Base of every facade: the class by name, messages to its objects and to the class itself.
@@ -169,11 +171,15 @@ public:
     /// The class, looked up when first needed; nil where the system has none of that name.
     static Class type()
     {
-        static Class found = nullptr;
-        if (!found)
-            found = objc_getClass(className.text);
-        return found;
+        if (!kept)
+            kept = objc_getClass(className.text);
+        return kept;
     }
+    /// What `type` answers; nil before it was asked for. A class of ours is put here by its builder.
+    static inline constinit Class kept = nullptr;
+    static constexpr auto nameOfClass = className;
+    /// What a class of ours is called where a stranger has the name.
+    static constexpr auto otherNameOfClass = joined(className, FixedString("_LYR"));
 
     template <class Result, FixedString name, class... Arguments>
     Result send(const Arguments&... arguments) const
@@ -197,6 +203,51 @@ public:
         listMessage<'-', className, id, name, Arguments...>();
         id allocated = sendMessage<id>(reinterpret_cast<id>(type()), selector<"alloc">());
         return adopting(sendMessage<id>(allocated, selector<name>(), arguments...));
+    }
+};
+
+/// Base of the facades of classes that no documentation promises. A message that the object or the class does not answer
+/// does nothing and gives zero: on a system that differs, what needs it is missing, and the shell goes on.
+template <class Self, class Super, FixedString className>
+class PrivateClass_ : public Class_<Self, Super, className> {
+    using Public = Class_<Self, Super, className>;
+
+public:
+    using Public::Public;
+    constexpr PrivateClass_() = default;
+
+    template <class Result, FixedString name, class... Arguments>
+    Result send(const Arguments&... arguments) const
+    {
+        if (!this->template respondsTo<name>())
+            return Result();
+        return Public::template send<Result, name>(arguments...);
+    }
+
+    /// The object in the instance variable of that name; nil if the class has none, or something else in it.
+    template <Handle T, FixedString name>
+    T ivar() const
+    {
+        listVariable<className, name>();
+        return Object::ivar<T>(name.text);
+    }
+
+    template <class Result, FixedString name, class... Arguments>
+    static Result sendClass(const Arguments&... arguments)
+    {
+        if (!sendMessage<bool>(
+                reinterpret_cast<id>(Public::type()), selector<"respondsToSelector:">(), selector<name>()))
+            return Result();
+        return Public::template sendClass<Result, name>(arguments...);
+    }
+
+    template <FixedString name = "init", class... Arguments>
+    static Self make(const Arguments&... arguments)
+    {
+        Class type = Public::type();
+        if (!type || !class_getInstanceMethod(type, selector<name>()))
+            return Self();
+        return Public::template make<name>(arguments...);
     }
 };
 

@@ -33,6 +33,9 @@ bool class_addMethod(Class, SEL, IMP, const char* types);
 bool class_addIvar(Class, const char* name, std::size_t size, std::uint8_t alignment, const char* types);
 Ivar class_getInstanceVariable(Class, const char* name);
 std::ptrdiff_t ivar_getOffset(Ivar);
+const char* ivar_getTypeEncoding(Ivar);
+Method class_getInstanceMethod(Class, SEL);
+const char* method_getTypeEncoding(Method);
 SEL sel_registerName(const char* name);
 }
 

@@ -5,9 +5,9 @@
 
 namespace FB {
 
-class SystemService : public ObjC::Class_<SystemService, NS::Object, "FBSystemService"> {
+class SystemService : public ObjC::PrivateClass_<SystemService, NS::Object, "FBSystemService"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
     static SystemService sharedInstance() { return sendClass<SystemService, "sharedInstance">(); }
     void exitAndRelaunch(bool relaunch) const { send<void, "exitAndRelaunch:">(relaunch); }
 };

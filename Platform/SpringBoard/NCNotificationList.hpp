@@ -5,10 +5,17 @@
 
 namespace NC {
 
-class StructuredListViewController : public ObjC::Class_<StructuredListViewController, UI::ViewController,
+/// Says that there are no older notifications.
+class RevealHintView
+    : public ObjC::PrivateClass_<RevealHintView, UI::View, "NCNotificationListSectionRevealHintView"> {
+public:
+    using PrivateClass_::PrivateClass_;
+};
+
+class StructuredListViewController : public ObjC::PrivateClass_<StructuredListViewController, UI::ViewController,
                                          "NCNotificationStructuredListViewController"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
     UI::View scrollView() const { return send<UI::View, "scrollView">(); }
 };
 
@@ -16,9 +23,9 @@ public:
 
 namespace AXN {
 
-class View : public ObjC::Class_<View, UI::View, "AXNView"> {
+class View : public ObjC::PrivateClass_<View, UI::View, "AXNView"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
     NS::Array list() const { return send<NS::Array, "list">(); }
 };
 

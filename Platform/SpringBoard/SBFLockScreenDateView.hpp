@@ -6,29 +6,47 @@
 
 namespace SB {
 
-class UILegibilityLabel : public ObjC::Class_<UILegibilityLabel, UI::View, "SBUILegibilityLabel"> {
+class UILegibilityLabel : public ObjC::PrivateClass_<UILegibilityLabel, UI::View, "SBUILegibilityLabel"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
     NS::String string() const { return send<NS::String, "string">(); }
     void setString(const NS::String& text) const { send<void, "setString:">(text); }
     void setTextAlignment(UI::TextAlignment alignment) const { send<void, "setTextAlignment:">(alignment); }
 };
 
-class FLockScreenDateView : public ObjC::Class_<FLockScreenDateView, UI::View, "SBFLockScreenDateView"> {
+class FLockScreenDateSubtitleView
+    : public ObjC::PrivateClass_<FLockScreenDateSubtitleView, UI::View, "SBFLockScreenDateSubtitleView"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
+    UI::View label() const { return ivar<UI::View, "_label">(); }
 };
 
-class FLockScreenDateSubtitleView
-    : public ObjC::Class_<FLockScreenDateSubtitleView, UI::View, "SBFLockScreenDateSubtitleView"> {
+/// With the date in another calendar below it.
+class FLockScreenDateSubtitleDateView : public ObjC::PrivateClass_<FLockScreenDateSubtitleDateView,
+                                            FLockScreenDateSubtitleView, "SBFLockScreenDateSubtitleDateView"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
+    UI::View alternateDateLabel() const { return ivar<UI::View, "_alternateDateLabel">(); }
+};
+
+class FLockScreenDateView : public ObjC::PrivateClass_<FLockScreenDateView, UI::View, "SBFLockScreenDateView"> {
+public:
+    using PrivateClass_::PrivateClass_;
+    FLockScreenDateSubtitleDateView subtitleView() const
+    {
+        return ivar<FLockScreenDateSubtitleDateView, "_dateSubtitleView">();
+    }
+    /// Draws time and date since system 16; nil before.
+    UI::ViewController prominentDisplayViewController() const
+    {
+        return ivar<UI::ViewController, "_prominentDisplayViewController">();
+    }
 };
 
 class FLockScreenDateViewController
-    : public ObjC::Class_<FLockScreenDateViewController, UI::ViewController, "SBFLockScreenDateViewController"> {
+    : public ObjC::PrivateClass_<FLockScreenDateViewController, UI::ViewController, "SBFLockScreenDateViewController"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
     FLockScreenDateView dateView() const { return send<FLockScreenDateView, "dateView">(); }
     void updateView() const { send<void, "_updateView">(); }
     /// The extension's own: a full refresh of everything it shows.

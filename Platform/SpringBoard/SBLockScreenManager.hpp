@@ -5,16 +5,16 @@
 
 namespace SB {
 
-class LockScreenManager : public ObjC::Class_<LockScreenManager, NS::Object, "SBLockScreenManager"> {
+class LockScreenManager : public ObjC::PrivateClass_<LockScreenManager, NS::Object, "SBLockScreenManager"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
     static LockScreenManager sharedInstance() { return sendClass<LockScreenManager, "sharedInstance">(); }
     bool isLockScreenVisible() const { return send<bool, "isLockScreenVisible">(); }
 };
 
-class BacklightController : public ObjC::Class_<BacklightController, NS::Object, "SBBacklightController"> {
+class BacklightController : public ObjC::PrivateClass_<BacklightController, NS::Object, "SBBacklightController"> {
 public:
-    using Class_::Class_;
+    using PrivateClass_::PrivateClass_;
 };
 
 }

@@ -7,6 +7,14 @@ namespace UI {
 
 enum class GestureRecognizerState : long { possible = 0, began = 1, changed = 2, ended = 3, cancelled = 4, failed = 5 };
 
+/// A finger on the screen.
+class Touch : public ObjC::Class_<Touch, NS::Object, "UITouch"> {
+public:
+    using Class_::Class_;
+    /// The view that it came down in.
+    View view() const { return send<View, "view">(); }
+};
+
 class GestureRecognizer : public ObjC::Class_<GestureRecognizer, NS::Object, "UIGestureRecognizer"> {
 public:
     using Class_::Class_;
@@ -21,6 +29,8 @@ public:
     GestureRecognizerState state() const { return send<GestureRecognizerState, "state">(); }
     CGPoint locationInView(const View& view) const { return send<CGPoint, "locationInView:">(view); }
     View view() const { return send<View, "view">(); }
+    /// Asked whether a touch counts, among others. Not kept.
+    void setDelegate(const ObjC::Object& delegate) const { send<void, "setDelegate:">(delegate); }
     bool isEnabled() const { return send<bool, "isEnabled">(); }
     void setEnabled(bool enabled) const { send<void, "setEnabled:">(enabled); }
     /// Whether the view loses its touches once the gesture is recognised.

@@ -6,6 +6,7 @@
 #include "Simulator/App/Preview.hpp"
 #include "Simulator/App/Render.hpp"
 #include "Simulator/App/Serve.hpp"
+#include "Simulator/Base/SystemVersions.hpp"
 #include "Simulator/Control/Methods.hpp"
 #include "Simulator/Control/ShellProcess.hpp"
 #include "Simulator/Control/Types.hpp"
@@ -108,6 +109,8 @@ void addStartOptions(CLI::App& command, Values& values)
     add("--time", "time", localTime(), "TIME", "Local time on the phone, 2020-11-15T21:41:00 (default: now)");
     add("--time-zone", "timeZone", timeZone(), "ZONE", "Time zone, Asia/Jerusalem (default: UTC)");
     add("--locale", "locale", locale(), "LOCALE", "Region and formats, he_IL (default: en_US)");
+    add("--system", "system", oneOf({systemVersions.begin(), systemVersions.end()}), "VERSION",
+        "The phone's system: 13.4, 14.0, 15.0 or 16.0 (default: 14.0)");
     add("--style", "style", oneOf({"light", "dark"}), "STYLE", "light or dark (default: light)");
     takes(command.add_option("--language", values.languages, "Preferred language; may be repeated (default: en)"),
         locale(), "LANGUAGE")

@@ -12,6 +12,7 @@
 #include "Simulator/Loader/ExtensionLoader.hpp"
 #include "Simulator/Loader/LackingParts.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/Runtime/System.hpp"
 #include "Simulator/SpringBoard/Shell.hpp"
 #include "Simulator/SpringBoard/SpringBoard.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
@@ -58,11 +59,16 @@ public:
         setUpDevice(start);
         setUpClock(start);
         setUpSymbols(symbolFolder());
+        PhoneFiles::shared().runAsMobile();
+        PhoneFiles::shared().setUnlockedOnce(start.parameters.value("firstUnlock", true));
         m_phone.start();
         relaunchRequested() = [this] { m_wantsRelaunch = true; };
         if (!start.isSafeMode && start.parameters.value("extension", true))
             loadExtensions();
-        m_shell.start();
+        const std::string homeScreen = start.parameters.value("homeScreen", "");
+        m_shell.start(homeScreen == "before" ? HomeScreenAtStart::before
+                : homeScreen == "after"      ? HomeScreenAtStart::after
+                                             : HomeScreenAtStart::later);
         m_shell.commit();
         m_isStarted = true;
     }
@@ -102,7 +108,8 @@ private:
             Control::applyDevice(start.state.at("device"));
         DeviceState& device = DeviceState::shared();
         device.installed = start.parameters.value("installed", std::set<std::string>());
-        lackingParts() = start.parameters.value("lacking", std::set<std::string>());
+        System::current().choose(start.parameters.value("system", std::string(usualSystem)));
+        setLackingParts(start.parameters.value("lacking", std::set<std::string>()));
         if (start.parameters.contains("screen")) {
             const Json& given = start.parameters.at("screen");
             device.screen.size = {given.at("width"), given.at("height")};

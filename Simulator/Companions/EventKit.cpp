@@ -73,6 +73,9 @@ class EKEventStore : public StandIn {
 public:
     using Root = EKEventStore;
 
+    /// Of events and reminders alike: 2 for denied, 3 for granted.
+    static long authorizationStatus(unsigned long) { return DeviceState::shared().grantsCalendar ? 3 : 2; }
+
     void init() { ExtensionCounts::shared().add(Count::calendarStores); }
 
     NS::Object predicateForEvents(const NS::Date& start, const NS::Date& end, const NS::Object&)
@@ -89,7 +92,7 @@ public:
         ExtensionCounts::shared().add(Count::calendarQueries);
         const auto events = NS::MutableArray::make();
         const auto* interval = standInOrNull<EKEventPredicate>(predicate);
-        if (!interval)
+        if (!interval || !DeviceState::shared().grantsCalendar)
             return events;
         std::vector<Occurrence> found;
         for (const CalendarEvent& event : DeviceState::shared().events) {
@@ -97,7 +100,8 @@ public:
             if (occurrence && interval->matches(*occurrence))
                 found.push_back(*occurrence);
         }
-        std::ranges::stable_sort(found, {}, &Occurrence::start);
+        // In no order, the platform says; so never in the one that a reader may have hoped for.
+        std::ranges::stable_sort(found, std::ranges::greater(), &Occurrence::start);
         for (const Occurrence& occurrence : found)
             events.addObject(EKEvent::make(occurrence));
         return events;
@@ -106,7 +110,10 @@ public:
 
 }
 
-static const StandInClass ekEvent("EKEvent", "NSObject", [](Binder<EKEvent>& binder) {
+static const StandInClass ekCalendarItem(
+    "EKCalendarItem", "NSObject", [](Binder<EKEvent>& binder) { binder.add(); });
+
+static const StandInClass ekEvent("EKEvent", "EKCalendarItem", [](Binder<EKEvent>& binder) {
     binder.def<"title", &EKEvent::title>()
         .def<"startDate", &EKEvent::startDate>()
         .def<"endDate", &EKEvent::endDate>()
@@ -118,7 +125,8 @@ static const StandInClass ekEventPredicate(
     "EKEventPredicate", "NSObject", [](Binder<EKEventPredicate>& binder) { binder.add(); });
 
 static const StandInClass ekEventStore("EKEventStore", "NSObject", [](Binder<EKEventStore>& binder) {
-    binder.init<"init", &EKEventStore::init>()
+    binder.classMethod<"authorizationStatusForEntityType:", &EKEventStore::authorizationStatus>()
+        .init<"init", &EKEventStore::init>()
         .def<"predicateForEventsWithStartDate:endDate:calendars:", &EKEventStore::predicateForEvents>()
         .def<"eventsMatchingPredicate:", &EKEventStore::eventsMatchingPredicate>()
         .add();

@@ -6,6 +6,7 @@
 #include "Simulator/Companions/PropertyListValues.hpp"
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"
+#include "Simulator/Runtime/ExtensionCounts.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 
 #include <algorithm>
@@ -21,7 +22,8 @@ struct BoundVariable {
 
 /// The preferences service of a phone.
 struct Service {
-    std::vector<HBPreferences*> living;
+    /// The one object of each domain.
+    std::map<std::string, NS::Object> objects;
     std::map<std::string, BoundVariable> lastBound;
     /// What could not be written yet, by domain: the disk failed, the service has it in memory.
     std::map<std::string, NS::Dictionary> unwritten;
@@ -74,30 +76,25 @@ bool replaceStored(const std::string& domain, const NS::Dictionary& values)
         service().unwritten.erase(domain);
     else
         service().unwritten[domain] = values;
-    const std::vector<HBPreferences*> present = service().living;
-    for (HBPreferences* preferences : present) {
-        if (preferences->domain() == domain)
-            preferences->mirror(values);
-    }
+    const auto present = service().objects.find(domain);
+    if (present != service().objects.end())
+        standIn<HBPreferences>(present->second.raw()).mirror(values);
     return true;
 }
 
 }
 
-HBPreferences::~HBPreferences()
-{
-    if (auto* running = Phone::partIfMade<Service>())
-        std::erase(running->living, this);
-}
-
-bool HBPreferences::initWithIdentifier(const NS::String& identifier)
+NS::Object HBPreferences::initWithIdentifier(const NS::String& identifier)
 {
     if (!identifier.is<NS::String>())
-        return false;
-    m_domain = text(identifier);
-    m_stored = storedValues(m_domain);
-    service().living.push_back(this);
-    return true;
+        return {};
+    NS::Object& known = service().objects[text(identifier)];
+    if (!known) {
+        m_domain = text(identifier);
+        m_stored = storedValues(m_domain);
+        known = self<NS::Object>();
+    }
+    return known;
 }
 
 NS::String HBPreferences::identifier() const
@@ -122,8 +119,16 @@ void HBPreferences::bind(Binding binding)
     const std::string key = text(binding.key);
     m_fallbacks[key] = binding.fallback;
     service().lastBound[key] = {binding.boolean, binding.object};
-    give(binding);
+    std::erase_if(m_bindings, [&binding](const Binding& other) { return other.key.isEqualToString(binding.key); });
     m_bindings.push_back(std::move(binding));
+    readAll();
+}
+
+/// The library does so at each registration, not for the new key alone.
+void HBPreferences::readAll()
+{
+    ExtensionCounts::shared().add(Count::preferenceReads, m_bindings.size());
+    mirror(storedValues(m_domain));
 }
 
 /// A flag takes what can be read as true or false; an object variable takes whatever is stored.
@@ -213,17 +218,18 @@ std::optional<BoundValue> boundValue(const std::string& key)
     return BoundValue{BoundValue::Kind::object, false, NS::Object(*found->second.object)};
 }
 
-static const StandInClass hbPreferences("HBPreferences", "NSObject", [](Binder<HBPreferences>& binder) {
-    binder.init<"initWithIdentifier:", &HBPreferences::initWithIdentifier>()
-        .def<"identifier", &HBPreferences::identifier>()
-        .def<"registerBool:default:forKey:", &HBPreferences::registerBool>()
-        .def<"registerObject:default:forKey:", &HBPreferences::registerObject>()
-        .def<"objectForKey:", &HBPreferences::objectForKey>()
-        .def<"boolForKey:", &HBPreferences::boolForKey>()
-        .def<"setObject:forKey:", &HBPreferences::setObject>()
-        .def<"setBool:forKey:", &HBPreferences::setBool>()
-        .def<"removeObjectForKey:", &HBPreferences::removeObjectForKey>()
-        .add();
-});
+static const StandInClass hbPreferences("HBPreferences", "NSObject",
+    BroughtBy{"/Library/Frameworks/Cephei.framework/Cephei"}, [](Binder<HBPreferences>& binder) {
+        binder.init<"initWithIdentifier:", &HBPreferences::initWithIdentifier>()
+            .def<"identifier", &HBPreferences::identifier>()
+            .def<"registerBool:default:forKey:", &HBPreferences::registerBool>()
+            .def<"registerObject:default:forKey:", &HBPreferences::registerObject>()
+            .def<"objectForKey:", &HBPreferences::objectForKey>()
+            .def<"boolForKey:", &HBPreferences::boolForKey>()
+            .def<"setObject:forKey:", &HBPreferences::setObject>()
+            .def<"setBool:forKey:", &HBPreferences::setBool>()
+            .def<"removeObjectForKey:", &HBPreferences::removeObjectForKey>()
+            .add();
+    });
 
 }

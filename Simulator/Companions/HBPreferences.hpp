@@ -15,9 +15,9 @@ namespace Simulator {
 class HBPreferences : public StandIn {
 public:
     using Root = HBPreferences;
-    ~HBPreferences() override;
 
-    bool initWithIdentifier(const NS::String& identifier);
+    /// There is one object for a domain, whoever asks.
+    NS::Object initWithIdentifier(const NS::String& identifier);
     NS::String identifier() const;
     void registerBool(void* variable, bool fallback, const NS::String& key);
     void registerObject(void* variable, const NS::Object& fallback, const NS::String& key);
@@ -42,6 +42,8 @@ private:
         NS::Object fallback;
     };
     void bind(Binding binding);
+    /// Reads every key that is registered, and gives what is stored to its variable.
+    void readAll();
     void give(const Binding& binding) const;
 
     std::string m_domain;

@@ -24,8 +24,8 @@ public:
 
 }
 
-static const StandInClass sparkColourPickerUtils(
-    "SparkColourPickerUtils", "NSObject", [](Binder<SparkColourPickerUtils>& binder) {
+static const StandInClass sparkColourPickerUtils("SparkColourPickerUtils", "NSObject",
+    BroughtBy{"/usr/lib/libsparkcolourpicker.dylib"}, [](Binder<SparkColourPickerUtils>& binder) {
         binder.classMethod<"colourWithString:withFallback:", &SparkColourPickerUtils::colourWithString>().add();
     });
 

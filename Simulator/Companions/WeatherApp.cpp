@@ -81,13 +81,14 @@ private:
 
 }
 
-static const StandInClass weatherApp("WeatherApp", "NSObject", [](Binder<WeatherApp>& binder) {
-    binder.classMethod<"sharedManager", &sharedObject<Weather::WeatherApp>>()
-        .def<"refreshWeatherData", &WeatherApp::refreshWeatherData>()
-        .def<"weatherData", &WeatherApp::weatherData>()
-        .def<"lowestTemperature", &WeatherApp::lowestTemperature>()
-        .def<"highestTemperature", &WeatherApp::highestTemperature>()
-        .add();
-});
+static const StandInClass weatherApp(
+    "WeatherApp", "NSObject", BroughtBy{"/usr/lib/libweatherlyr.dylib"}, [](Binder<WeatherApp>& binder) {
+        binder.classMethod<"sharedManager", &sharedObject<Weather::WeatherApp>>()
+            .def<"refreshWeatherData", &WeatherApp::refreshWeatherData>()
+            .def<"weatherData", &WeatherApp::weatherData>()
+            .def<"lowestTemperature", &WeatherApp::lowestTemperature>()
+            .def<"highestTemperature", &WeatherApp::highestTemperature>()
+            .add();
+    });
 
 }

@@ -1,6 +1,7 @@
 // The protocol's table of methods.
 #include "Simulator/Control/Methods.hpp"
 
+#include "Simulator/Base/SystemVersions.hpp"
 #include "Simulator/Control/Types.hpp"
 
 #include <algorithm>
@@ -63,9 +64,19 @@ Schema startParameters()
             {"fonts", listOf(hostFile("a font file")), optional, "are put into the user's font folder"},
             {"installed", listOf(oneOf({"AFont", "LastLook", "Axon", "Filza"})), optional, "other extensions"},
             {"extension", boolean(), optional, "whether the extension is loaded, as without it"},
+            {"system", oneOf({systemVersions.begin(), systemVersions.end()}), optional,
+                "the phone's system: its classes and their members are there; 14.0 without it"},
+            {"firstUnlock", boolean(), optional,
+                "whether the phone was unlocked since it was switched on, as without it; before that the user's files "
+                "cannot be read"},
+            {"homeScreen", oneOf({"before", "after"}), optional,
+                "when the home screen appears behind the lock screen as the shell starts; with the first unlock "
+                "without it"},
             {"lacking", listOf(text()), optional,
-                "classes that the extension looks up in vain, `\"UIColorWell\"`, and methods that it cannot intercept, "
-                "`\"CSQuickActionsViewController hasCamera\"`; the stock shell has them all the same"},
+                "classes that the extension looks up in vain, `\"UIColorWell\"`; methods that it can neither intercept nor "
+                "send, `\"CSQuickActionsViewController hasCamera\"`; instance variables and keys that it cannot read, "
+                "`\"SBScheduledAlarmObserver _alarmManager\"`; methods with other types, "
+                "`\"CSQuickActionsViewController hasCamera=@16@0:8\"`; the stock shell has them all the same"},
         },
         deviceParameters());
 }
@@ -79,7 +90,13 @@ std::vector<Method> phoneMethods()
         {"phone.stop", {}, "", "ends the phone; a temporary root goes with it"},
         {"phone.info", {}, "`running`, `safeMode`, `starts`, `restarts`, `pid`, `time`, `screen`",
             "how the phone stands; without one it answers too"},
-        {"phone.lock", {}, "", "the side button: locks and darkens"},
+        {"phone.lock", {{"form", oneOf({"short", "long"})}, {"endsIn", oneOf({"short", "long"})}}, "",
+            "locks and darkens, by the side button's message or by the one with a completion; `endsIn` says which of "
+            "the two does the work and is sent by the other, the long one without it"},
+        {"phone.home", {}, "", "the home button: goes to the home screen"},
+        {"phone.passcode", {{"shown", boolean(), required}}, "", "lets the passcode page cover the lock screen, or go"},
+        {"phone.firstUnlock", {}, "",
+            "the first unlock since the phone was switched on: from now on the user's files can be read"},
         {"phone.wake", {}, "", "lights the screen"},
         {"phone.unlock", {}, "", "goes to the home screen"},
         {"phone.coverSheet", {}, "", "pulls the cover sheet down over what is in front"},
@@ -129,7 +146,9 @@ std::vector<Method> storeMethods()
             "stores in the colour file, and announces it unless `notify` is false"},
         {"notify.post", {{"name", nonEmptyText(), required}}, "", "posts a system-wide notification"},
         {"file.read", {path}, "`base64`, `plist`?, `json`?", "the bytes of a file, and what they hold if it is either"},
-        {"file.write", {path, {"base64", base64(), required}}, "", "makes or replaces a file"},
+        {"file.write", {path, {"base64", base64(), required}, {"owner", oneOf({"root", "mobile"})}}, "",
+            "makes or replaces a file; `owner` gives it and its folder to a user, where without it the user's home is "
+            "mobile's and everything else root's"},
         {"file.list", {path}, "`names`", "what is in a folder"},
         {"file.remove", {path}, "", "removes a file, or a folder with what is in it"},
         {"file.fault",
@@ -222,6 +241,11 @@ Schema deviceParameters()
         {"locale", locale(), optional, "a new phone's is en_US"},
         {"timeZone", timeZone(), optional, "a new phone's is UTC"},
         {"languages", listOf(locale()), optional, "a new phone's are `[\"en\"]`"},
+        {"twentyFourHour", orNull(boolean()), optional,
+            "the clock's 12/24-hour switch; `null`, as a new phone has it, is as the locale has it"},
+        {"calendarAccess", oneOf({"granted", "denied"}), optional, "whether the shell may read events, as on a new phone"},
+        {"flashlight", boolean(), optional, "whether the device has one, as a new phone has"},
+        {"camera", boolean(), optional, "likewise"},
     };
 }
 

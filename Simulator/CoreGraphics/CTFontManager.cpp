@@ -36,6 +36,7 @@ constexpr std::array errorTexts = {
     ErrorText{RegistrationError::invalid, 104, "The data is not valid font data"},
     ErrorText{RegistrationError::alreadyRegistered, 105, "The font is already registered"},
     ErrorText{RegistrationError::notRegistered, 201, "The font is not registered"},
+    ErrorText{RegistrationError::unsupportedScope, 307, "The specified scope is not supported"},
 };
 
 /// True for success; otherwise the error goes to the caller, if it wants to know.
@@ -53,6 +54,17 @@ bool concluded(const Graphics::RegistrationResult& result, const std::string& su
                     + text.reason + ": '" + subject + "')"));
     }
     return false;
+}
+
+/// No scope is none to register with, say the headers of the text system.
+bool isUsable(CTFontManagerScope scope)
+{
+    return scope != CTFontManagerScope::none;
+}
+
+Graphics::RegistrationResult unsupportedScope()
+{
+    return {RegistrationError::unsupportedScope, {}};
 }
 
 /// Every attempt counts, since each is work for the text system.
@@ -106,17 +118,19 @@ using namespace Simulator;
 
 extern "C" {
 
-[[gnu::visibility("default")]] bool CTFontManagerRegisterFontsForURL(id url, std::uint32_t, id* error)
+[[gnu::visibility("default")]] bool CTFontManagerRegisterFontsForURL(id url, CTFontManagerScope scope, id* error)
 {
     const std::string path = pathOf(url);
-    const auto result = registerFile(path);
+    const auto result = isUsable(scope) ? registerFile(path) : unsupportedScope();
     recordRegistration("path", path, result);
     return concluded(result, path, error);
 }
 
-[[gnu::visibility("default")]] bool CTFontManagerUnregisterFontsForURL(id url, std::uint32_t, id* error)
+[[gnu::visibility("default")]] bool CTFontManagerUnregisterFontsForURL(id url, CTFontManagerScope scope, id* error)
 {
     const std::string path = pathOf(url);
+    if (!isUsable(scope))
+        return concluded(unsupportedScope(), path, error);
     return concluded(fontCatalogue().unregisterFile(hostFile(path)), path, error);
 }
 

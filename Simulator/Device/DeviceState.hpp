@@ -64,6 +64,12 @@ struct DeviceState {
     /// Local time of the next alarm.
     std::optional<std::string> alarm;
     std::vector<CalendarEvent> events;
+    /// Whether the user lets the shell read the calendar.
+    bool grantsCalendar = true;
+    bool hasFlashlight = true;
+    bool hasCamera = true;
+    /// Which form of the lock message does the work; the other one ends in it.
+    bool locksByLongForm = true;
     /// Views are told of a change by `changeInterfaceStyle`.
     InterfaceStyle style = InterfaceStyle::light;
     /// Other extensions: "AFont", "LastLook", "Axon", "Filza".

@@ -111,6 +111,8 @@ int PhoneFiles::write(std::string_view phonePath, std::string_view bytes, WriteM
     const auto host = safeHostPath(phonePath);
     const int writeFault = fault(phonePath, FileOperation::write);
     int error = host.error;
+    if (!error)
+        error = refusal(phonePath, mode == WriteMode::direct && exists(phonePath));
     if (!error && mode == WriteMode::direct)
         error = writeDirectly(host.value, bytes, writeFault);
     else if (!error)
@@ -153,6 +155,14 @@ int PhoneFiles::remove(std::string_view phonePath)
         return EBUSY;
     if (const int error = fault(phonePath, FileOperation::write))
         return error;
+    const int error = refusal(phonePath, false);
+    return error ? error : erase(phonePath);
+}
+
+int PhoneFiles::erase(std::string_view phonePath)
+{
+    if (canonicalPath(phonePath) == "/")
+        return EBUSY;
     // A link itself may go wherever it leads, so only the folder it lies in has to be inside.
     const auto folder = safeHostPath(canonicalPath(phonePath) + "/..");
     if (!folder)
@@ -169,6 +179,8 @@ int PhoneFiles::rename(std::string_view from, std::string_view to)
     for (const auto path : {from, to}) {
         if (const int error = fault(path, FileOperation::rename))
             return error;
+        if (const int error = refusal(path, false))
+            return error;
     }
     const auto source = safeHostPath(from);
     const auto target = safeHostPath(to);
@@ -184,6 +196,8 @@ int PhoneFiles::createFolder(std::string_view phonePath, bool withParents)
     const auto host = safeHostPath(phonePath);
     if (!host)
         return host.error;
+    if (const int error = refusal(phonePath, false); error && !isFolder(phonePath))
+        return error;
     std::error_code error;
     if (withParents)
         fs::create_directories(host.value, error);
@@ -206,6 +220,21 @@ PhoneFiles::Presence PhoneFiles::presence(std::string_view phonePath) const
     return S_ISDIR(status.st_mode) ? Presence::folder : Presence::file;
 }
 
+void PhoneFiles::give(std::string_view phonePath, FileOwner owner)
+{
+    const std::string path = canonicalPath(phonePath);
+    m_rights.give(path, owner);
+    m_rights.give(path.substr(0, path.rfind('/')), owner);
+}
+
+int PhoneFiles::refusal(std::string_view phonePath, bool inPlace) const
+{
+    if (!m_isMobile)
+        return 0;
+    const std::string path = canonicalPath(phonePath);
+    return (inPlace ? m_rights.mayWrite(path) : m_rights.mayReplace(path)) ? 0 : EACCES;
+}
+
 void PhoneFiles::setFault(std::string_view phonePath, FileOperation operation, int error)
 {
     auto key = std::pair(canonicalPath(phonePath), operation);
@@ -217,6 +246,8 @@ void PhoneFiles::setFault(std::string_view phonePath, FileOperation operation, i
 
 int PhoneFiles::fault(std::string_view phonePath, FileOperation operation) const
 {
+    if (!m_isUnlockedOnce && operation == FileOperation::read && isUsersFile(canonicalPath(phonePath)))
+        return EPERM;
     if (m_faults.empty())
         return 0;
     for (std::string path = canonicalPath(phonePath); !path.empty(); path.erase(path.rfind('/'))) {

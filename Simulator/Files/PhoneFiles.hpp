@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Simulator/Base/HostFile.hpp"
+#include "Simulator/Files/FileRights.hpp"
 #include "Simulator/Files/RecentContents.hpp"
 
 #include <functional>
@@ -58,10 +59,20 @@ public:
     /// As a tester's hand does it: no faults, no record, parent folders are made.
     FileResult<std::string> fetch(std::string_view phonePath) const;
     int put(std::string_view phonePath, std::string_view bytes);
+    int erase(std::string_view phonePath);
+
+    /// From now on it is the shell that acts, which may not do everything; before that, whoever sets the phone up.
+    void runAsMobile() { m_isMobile = true; }
+    /// Gives the file, and the folder that it is in, to a user.
+    void give(std::string_view phonePath, FileOwner owner);
+    /// Before the first unlock nobody can read the user's files.
+    void setUnlockedOnce(bool unlocked) { m_isUnlockedOnce = unlocked; }
+    bool isUnlockedOnce() const { return m_isUnlockedOnce; }
 
     /// The operation fails with `error` at the path and below it; 0 takes the fault away.
     void setFault(std::string_view phonePath, FileOperation, int error);
     void clearFaults() { m_faults.clear(); }
+    /// Of the file system, or of the rights of the shell; 0 for none.
     int fault(std::string_view phonePath, FileOperation) const;
     void setWriteObserver(WriteObserver observer) { m_observer = std::move(observer); }
     /// Called for every file that the shell opens to read it.
@@ -81,7 +92,13 @@ private:
     std::string m_root;
     /// Opened when first needed. Should the folder go, nothing is found here, and safeHostPath asks by name.
     mutable Descriptor m_rootFolder{-1};
+    /// Why the shell may not do it; 0 if it may.
+    int refusal(std::string_view phonePath, bool inPlace) const;
+
     std::map<std::pair<std::string, FileOperation>, int> m_faults;
+    FileRights m_rights;
+    bool m_isMobile = false;
+    bool m_isUnlockedOnce = true;
     WriteObserver m_observer;
     std::function<void()> m_openObserver = [] {};
     mutable RecentContents m_recent;

@@ -7,6 +7,7 @@
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/Text/CalendarMath.hpp"
 #include "Simulator/Text/DateText.hpp"
+#include "Simulator/Text/HourCycle.hpp"
 
 namespace Simulator {
 
@@ -67,7 +68,7 @@ public:
         if (!date.is<NS::Date>())
             return nullptr;
         const double seconds = date.as<NS::Date>().timeIntervalSinceReferenceDate();
-        if (m_dateStyle == 0 && m_timeStyle == 0)
+        if (m_dateStyle == 0 && m_timeStyle == 0 && !switchRewrites())
             return stringOf(formatDate(seconds, style()));
         const std::u16string stylePattern = pattern();
         DateStyle style = this->style();
@@ -119,12 +120,21 @@ private:
             m_timeZone ? std::string_view(m_timeZoneName) : phone.timeZone};
     }
 
+    /// GNUstep has one object for the current locale and for one of the same name, so that the former, given to a
+    /// formatter, is taken for the latter. Whether the clock's switch stands against the language's habit, and there is no locale that says what holds here.
+    bool switchRewrites() const
+    {
+        const PhoneLocale& phone = PhoneLocale::shared();
+        return !m_locale && phone.twentyFourHour && *phone.twentyFourHour != countsTo24(phone.locale);
+    }
+
     std::u16string pattern() const
     {
-        if (m_dateStyle == 0 && m_timeStyle == 0)
-            return m_pattern;
-        return patternForStyles(
-            static_cast<int>(m_dateStyle), static_cast<int>(m_timeStyle), style().locale, style().calendar);
+        const std::u16string own = m_dateStyle == 0 && m_timeStyle == 0
+            ? m_pattern
+            : patternForStyles(
+                static_cast<int>(m_dateStyle), static_cast<int>(m_timeStyle), style().locale, style().calendar);
+        return switchRewrites() ? withHourCycle(own, *PhoneLocale::shared().twentyFourHour) : own;
     }
 
     std::u16string m_pattern;

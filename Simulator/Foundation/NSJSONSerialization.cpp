@@ -1,5 +1,6 @@
 // JSON as strictly as the phone reads it: a single value, no fragment unless allowed, no nesting without end.
 #include "Platform/Foundation/NSData.hpp"
+#include "Simulator/Foundation/Exceptions.hpp"
 #include "Simulator/Foundation/FileAccess.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/Texts.hpp"
@@ -61,6 +62,8 @@ std::string asUtf8(const NS::Data& data)
 ObjC::Object objectWithData(id self, SEL command, NS::Data data, unsigned long options, id* error)
 {
     constexpr long corrupt = 3840;
+    if (!data)
+        raiseException("NSInvalidArgumentException", "+[NSJSONSerialization JSONObjectWithData:options:error:]: nil data");
     const std::string text = data ? asUtf8(data) : std::string();
     const std::size_t first = text.find_first_not_of(" \t\r\n");
     const bool isFragment = first != std::string::npos && text[first] != '[' && text[first] != '{';

@@ -83,16 +83,6 @@ void NSObject_performOnMainThread(ObjC::Object self, SEL, SEL selector, ObjC::Ob
         0, [=] { ObjC::sendMessage<void>(self.raw(), selector, argument); }, WorkKind::mainQueue);
 }
 
-/// The shell's own form answers nil where valueForKey: raises.
-ObjC::Object NSObject_safeValueForKey(NS::Object self, SEL, NS::String key)
-{
-    try {
-        return key ? self.valueForKey<ObjC::Object>(key) : ObjC::Object();
-    } catch (...) {
-        return nullptr;
-    }
-}
-
 }
 
 static const Mending nsObject("NSObject", [] {
@@ -102,7 +92,6 @@ static const Mending nsObject("NSObject", [] {
     replaceClassMethod<NSObject_cancelPrevious>("NSObject", "cancelPreviousPerformRequestsWithTarget:");
     replaceClassMethod<NSObject_cancelPreviousOf>(
         "NSObject", "cancelPreviousPerformRequestsWithTarget:selector:object:");
-    replaceInFamily<NSObject_safeValueForKey>("NSObject", "safeValueForKey:");
 });
 
 }

@@ -18,7 +18,7 @@ namespace Simulator::Graphics {
 
 class Typesetter;
 
-enum class RegistrationError { none, fileNotFound, invalid, alreadyRegistered, notRegistered };
+enum class RegistrationError { none, fileNotFound, invalid, alreadyRegistered, notRegistered, unsupportedScope };
 
 struct RegistrationResult {
     RegistrationError error = RegistrationError::none;

@@ -106,6 +106,21 @@ const Product::VariableRow* ExtensionLoader::variable(std::string_view name) con
     return nullptr;
 }
 
+std::vector<ObjC::HookTable> ExtensionLoader::hookTables() const
+{
+    /// As the extension has them: how many there are, and the tables.
+    struct Exported {
+        unsigned long count;
+        ObjC::HookTable first;
+    };
+    std::vector<ObjC::HookTable> tables;
+    for (const auto& find : m_libraries) {
+        if (const auto* exported = static_cast<const Exported*>(find("_ZN3LYR10hookTablesE")))
+            tables.insert(tables.end(), &exported->first, &exported->first + exported->count);
+    }
+    return tables;
+}
+
 void ExtensionLoader::check(const std::string& hostPath)
 {
     auto bytes = bytesOf(hostPath);

@@ -1,6 +1,7 @@
 // The phone's extension loader: loads what lies in the extension folder into the shell process.
 #pragma once
 
+#include "Platform/ObjC/Hook.hpp"
 #include "Product/VariableList.hpp"
 #include "Simulator/Loader/LoadError.hpp"
 
@@ -25,6 +26,9 @@ public:
 
     /// One of the process-wide variables that the libraries list; null if none has one of that name.
     const Product::VariableRow* variable(std::string_view name) const;
+
+    /// The tables of interceptions that the libraries list, in the order of their installation.
+    std::vector<ObjC::HookTable> hookTables() const;
 
     /// Says in a LoadError why a file of the host could not be loaded, as far as that can be known without running it.
     static void check(const std::string& hostPath);

@@ -37,7 +37,7 @@
     mov     rcx, \selector
     mov     rdi, \receiver
     mov     rsi, rcx
-    call    objc_msg_lookup@PLT
+    call    lyr_message_lookup@PLT
     mov     r11, rax
     mov     rdi, [rsp]
     mov     rsi, [rsp + 8]
@@ -96,7 +96,7 @@ lyr_objc_msgSend:
     stp     q2, q3, [sp, 128]
     stp     q4, q5, [sp, 160]
     stp     q6, q7, [sp, 192]
-    bl      objc_msg_lookup
+    bl      lyr_message_lookup
     mov     x16, x0
     ldp     x0, x1, [sp, 16]
     ldp     x2, x3, [sp, 32]

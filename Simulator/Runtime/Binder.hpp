@@ -7,13 +7,14 @@
 //         .ivar<"_font">()
 //         .add();
 //
-// Arity and encoding are checked and built by the compiler. The struct derives from the struct of the superclass, and
+// Arity and encoding are checked and built by the compiler. What the phone's system does not have is left out. The struct derives from the struct of the superclass, and
 // the first one of such a line from StandIn, with `using Root = ThatStruct`.
 #pragma once
 
 #include "Platform/ObjC/Method.hpp"
 #include "Simulator/Runtime/MethodTable.hpp"
 #include "Simulator/Runtime/StandInRegistry.hpp"
+#include "Simulator/Runtime/System.hpp"
 
 namespace Simulator {
 
@@ -81,7 +82,8 @@ struct InstanceMethod {
     };
 };
 
-/// An initializer: runs the member and returns the object; a member that answers false makes it nil.
+/// An initializer: runs the member and returns the object; a member that answers false makes it nil, and one that answers
+/// an object hands that out in its place.
 template <class T, auto member>
 struct Initializer {
     template <class R, class... A>
@@ -89,7 +91,12 @@ struct Initializer {
         static id call(id object, SEL, ObjC::WireType<A>... arguments)
         {
             T& target = standIn<T>(object);
-            if constexpr (std::is_same_v<R, bool>) {
+            if constexpr (std::is_base_of_v<ObjC::Object, R>) {
+                const R other = (target.*member)(ObjC::fromWire<std::remove_cvref_t<A>>(arguments)...);
+                const id result = ObjC::retain(other.raw());
+                ObjC::release(object);
+                return result;
+            } else if constexpr (std::is_same_v<R, bool>) {
                 if (!(target.*member)(ObjC::fromWire<std::remove_cvref_t<A>>(arguments)...)) {
                     ObjC::release(object);
                     return nullptr;
@@ -150,8 +157,9 @@ template <class T>
 class Binder {
 public:
     Binder(const char* name, const char* superclass)
-        : m_class(StandInRegistry::shared().open(
-            name, superclass, std::is_same_v<T, typename T::Root>, [] { return std::unique_ptr<StandIn>(new T); }))
+        : m_name(name)
+        , m_class(StandInRegistry::shared().open(
+              name, superclass, std::is_same_v<T, typename T::Root>, [] { return std::unique_ptr<StandIn>(new T); }))
     {
     }
 
@@ -160,21 +168,20 @@ public:
     Binder& def()
     {
         static_assert(!ObjC::isInitializer(name.view()), "bind initializers with .init");
-        return add<name, Binding::InstanceMethod<T, member, ObjC::returnsOwned(name.view())>, member>(m_class);
+        return add<name, Binding::InstanceMethod<T, member, ObjC::returnsOwned(name.view())>, member>();
     }
 
     template <ObjC::FixedString name, auto member>
     Binder& init()
     {
         static_assert(ObjC::isInitializer(name.view()), "an initializer's selector begins with init");
-        return add<name, Binding::Initializer<T, member>, member>(m_class);
+        return add<name, Binding::Initializer<T, member>, member>();
     }
 
     template <ObjC::FixedString name, auto function>
     Binder& classMethod()
     {
-        return add<name, Binding::ClassMethod<function, ObjC::returnsOwned(name.view())>, function>(
-            object_getClass(reinterpret_cast<id>(m_class)));
+        return add<name, Binding::ClassMethod<function, ObjC::returnsOwned(name.view())>, function>("+");
     }
 
     /// A getter and a setter of a data member; `changed` runs after each set.
@@ -184,11 +191,8 @@ public:
         using Both = Binding::Accessors<T, member, changed>;
         using Value = typename Both::Value;
         static_assert(ObjC::argumentCount(setter.view()) == 1, "a setter takes one argument");
-        class_addMethod(m_class, ObjC::selector<getter>(), reinterpret_cast<IMP>(&Both::get),
-            ObjC::methodEncoding<Value>.text.data());
-        class_addMethod(m_class, ObjC::selector<setter>(), reinterpret_cast<IMP>(&Both::set),
-            ObjC::methodEncoding<void, Value>.text.data());
-        return *this;
+        add(getter.text, reinterpret_cast<IMP>(&Both::get), ObjC::methodEncoding<Value>.text.data());
+        return add(setter.text, reinterpret_cast<IMP>(&Both::set), ObjC::methodEncoding<void, Value>.text.data());
     }
 
     /// A getter alone.
@@ -196,15 +200,16 @@ public:
     Binder& readonly()
     {
         using Both = Binding::Accessors<T, member, nullptr>;
-        class_addMethod(m_class, ObjC::selector<getter>(), reinterpret_cast<IMP>(&Both::get),
-            ObjC::methodEncoding<typename Both::Value>.text.data());
-        return *this;
+        return add(
+            getter.text, reinterpret_cast<IMP>(&Both::get), ObjC::methodEncoding<typename Both::Value>.text.data());
     }
 
     /// A real instance variable, reachable by name as on the phone. Objects in it are released with their owner.
     template <ObjC::FixedString name, class V = id>
     Binder& ivar()
     {
+        if (!System::current().hasOwn(m_name, name.text))
+            return *this;
         constexpr unsigned char alignment = sizeof(V) == 8 ? 3 : sizeof(V) == 4 ? 2 : sizeof(V) == 2 ? 1 : 0;
         class_addIvar(m_class, name.text, sizeof(V), alignment, ObjC::encodingOf<V>().data());
         if constexpr (std::is_same_v<V, id>)
@@ -220,16 +225,24 @@ public:
 
 private:
     template <ObjC::FixedString name, class Kind, auto function>
-    Binder& add(Class target)
+    Binder& add(const char* sign = "-")
     {
         using Shape = Binding::Signature<decltype(function)>;
         static_assert(Shape::arity == ObjC::argumentCount(name.view()),
             "a selector takes one argument for each colon in its name");
         using Call = typename Shape::template With<Kind::template Call>;
-        class_addMethod(target, ObjC::selector<name>(), reinterpret_cast<IMP>(&Call::call), Call::types());
+        return add(name.text, reinterpret_cast<IMP>(&Call::call), Call::types(), sign);
+    }
+
+    Binder& add(const char* selector, IMP implementation, const char* types, const char* sign = "-")
+    {
+        Class target = *sign == '+' ? object_getClass(reinterpret_cast<id>(m_class)) : m_class;
+        if (System::current().hasOwn(m_name, std::string(sign) + selector))
+            class_addMethod(target, sel_registerName(selector), implementation, types);
         return *this;
     }
 
+    const char* m_name;
     Class m_class;
 };
 

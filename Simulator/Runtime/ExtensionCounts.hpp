@@ -10,7 +10,7 @@
 namespace Simulator {
 
 /// Each has its name in the table of names.
-enum class Count { fontRegistrations, fileOpens, calendarStores, calendarQueries, weatherRequests, alarmReads };
+enum class Count { fontRegistrations, fileOpens, calendarStores, calendarQueries, weatherRequests, alarmReads, preferenceReads };
 
 class ExtensionCounts {
 public:
@@ -24,7 +24,7 @@ public:
 
 private:
     friend class OwnWork;
-    static constexpr std::size_t countOfCounts = static_cast<std::size_t>(Count::alarmReads) + 1;
+    static constexpr std::size_t countOfCounts = static_cast<std::size_t>(Count::preferenceReads) + 1;
 
     std::array<std::uint64_t, countOfCounts> m_counts{};
     int m_ownWork = 0;

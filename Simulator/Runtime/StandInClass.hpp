@@ -11,7 +11,19 @@
 
 #include "Simulator/Runtime/Binder.hpp"
 
+#include <string_view>
+#include <vector>
+
 namespace Simulator {
+
+/// The library that brings a class into the shell's process when it is opened, "/usr/lib/libweather.dylib".
+struct BroughtBy {
+    const char* path;
+};
+/// Registers the classes that a library brings. Whether there is such a library.
+bool bringClassesOf(std::string_view path);
+/// The classes that a library brings; none for a path that brings none.
+std::vector<std::string_view> classesOf(std::string_view path);
 
 /// What is registered once in a process, when the first phone starts. The rows of the whole program find one another
 /// before main.
@@ -25,7 +37,7 @@ protected:
     using Condition = bool (*)();
 
     /// A row without a superclass mends a class that is there already, and comes before all stand-ins.
-    StandInRow(const char* name, const char* superclass, Add add, Condition condition);
+    StandInRow(const char* name, const char* superclass, Add add, Condition condition, const char* library = nullptr);
 
 private:
     friend class StandInRows;
@@ -34,6 +46,7 @@ private:
     const char* const m_superclass;
     const Add m_add;
     const Condition m_condition;
+    const char* const m_library;
     const StandInRow* const m_next;
 };
 
@@ -45,6 +58,14 @@ public:
     StandInClass(const char* name, const char* superclass, Rows, Condition condition = nullptr)
         : StandInRow(
             name, superclass, [](const char* own, const char* super) { bind(+Rows(), own, super); }, condition)
+    {
+    }
+    /// A class that is not there before its library is opened.
+    template <class Rows>
+    StandInClass(const char* name, const char* superclass, BroughtBy library, Rows)
+        : StandInRow(
+            name, superclass, [](const char* own, const char* super) { bind(+Rows(), own, super); }, nullptr,
+            library.path)
     {
     }
 

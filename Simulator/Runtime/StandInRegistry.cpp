@@ -145,6 +145,14 @@ long StandInRegistry::liveCount() const
     return total;
 }
 
+std::vector<std::string> StandInRegistry::classNames() const
+{
+    std::vector<std::string> names;
+    for (const auto& [type, entry] : m_entries)
+        names.emplace_back(class_getName(type));
+    return names;
+}
+
 StandIn* StandInRegistry::find(id object)
 {
     if (!object)

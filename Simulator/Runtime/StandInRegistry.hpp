@@ -27,6 +27,9 @@ public:
     long liveCount(const std::string& className) const;
     long liveCount() const;
 
+    /// Of all classes that were registered.
+    std::vector<std::string> classNames() const;
+
     /// The C++ side of an object of a registered class; null for any other object.
     static StandIn* find(id object);
 

@@ -82,10 +82,13 @@ struct UIApplication : UIResponder {
 struct SpringBoard : UIApplication {
     void frontDisplayDidChange(const NS::Object& application) { frontDisplay = application; }
 
-    void simulateHomeButtonPress()
+    void simulateHomeButtonPress() { simulateHomeButtonPressWithCompletion({}); }
+
+    void simulateHomeButtonPressWithCompletion(ObjC::BlockArgument completion)
     {
         ActivityLog::shared().record("homeButton");
         later(&Shell::unlock);
+        Loop::shared().schedule(0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
     }
 
     NS::Object frontDisplay;
@@ -113,10 +116,14 @@ static const StandInClass uiApplication("UIApplication", "UIResponder", [](Binde
         .add();
 });
 
-static const StandInClass springBoard("SpringBoard", "UIApplication", [](Binder<SpringBoard>& binder) {
+static const StandInClass uiSystemShellApplication(
+    "UISystemShellApplication", "UIApplication", [](Binder<UIApplication>& binder) { binder.add(); });
+
+static const StandInClass springBoard("SpringBoard", "UISystemShellApplication", [](Binder<SpringBoard>& binder) {
     binder.def<"didReceiveMemoryWarning", &SpringBoard::didReceiveMemoryWarning>()
         .def<"frontDisplayDidChange:", &SpringBoard::frontDisplayDidChange>()
         .def<"_simulateHomeButtonPress", &SpringBoard::simulateHomeButtonPress>()
+        .def<"_simulateHomeButtonPressWithCompletion:", &SpringBoard::simulateHomeButtonPressWithCompletion>()
         .readonly<"_accessibilityFrontMostApplication", &SpringBoard::frontDisplay>()
         .add();
 });

@@ -47,7 +47,7 @@ UI::Color _UIBatteryView::fillColour() const
 {
     if (saverModeActive)
         return UI::Color::colorWithRed(1, 0.8, 0, 1);
-    if (charging)
+    if (chargingState)
         return UI::Color::colorWithRed(0.2, 0.78, 0.35, 1);
     return chargePercent <= lowCharge ? UI::Color::colorWithRed(1, 0.23, 0.19, 1) : UI::Color::whiteColor();
 }
@@ -64,9 +64,9 @@ void _UIBatteryView::setChargePercent(double charge)
     setNeedsLayout();
 }
 
-void _UIBatteryView::setCharging(bool isCharging)
+void _UIBatteryView::setChargingState(long state)
 {
-    charging = isCharging;
+    chargingState = state;
     setNeedsLayout();
 }
 
@@ -74,8 +74,8 @@ void showDeviceBattery(const UI::View& batteryView)
 {
     const Battery& battery = DeviceState::shared().battery;
     batteryView.send<void, "setChargePercent:">(battery.level);
-    batteryView.send<void, "setCharging:">(
-        battery.state == BatteryState::charging || battery.state == BatteryState::full);
+    const bool charges = battery.state == BatteryState::charging || battery.state == BatteryState::full;
+    batteryView.send<void, "setChargingState:">(charges ? 1L : 0L);
 }
 
 static const StandInClass uiBatteryView("_UIBatteryView", "UIView", [](Binder<_UIBatteryView>& binder) {
@@ -85,7 +85,8 @@ static const StandInClass uiBatteryView("_UIBatteryView", "UIView", [](Binder<_U
         .def<"setSaverModeActive:", &_UIBatteryView::setSaverModeActive>()
         .readonly<"chargePercent", &_UIBatteryView::chargePercent>()
         .def<"setChargePercent:", &_UIBatteryView::setChargePercent>()
-        .def<"setCharging:", &_UIBatteryView::setCharging>()
+        .readonly<"chargingState", &_UIBatteryView::chargingState>()
+        .def<"setChargingState:", &_UIBatteryView::setChargingState>()
         .add();
 });
 

@@ -10,10 +10,11 @@ struct _UIBatteryView : UIView {
     void layoutSubviews();
     void setSaverModeActive(bool active);
     void setChargePercent(double charge);
-    void setCharging(bool charging);
+    void setChargingState(long state);
 
     double chargePercent = 1;
-    bool charging = false;
+    /// 1 while the battery is being charged.
+    long chargingState = 0;
     bool saverModeActive = false;
 
 private:

@@ -28,7 +28,7 @@ void CSBatteryChargingView::initWithFrame(CGRect frame)
     addSubview(m_label);
 }
 
-void CSBatteryChargingView::layoutSubviews()
+void CSBatteryChargingView::placeParts()
 {
     const double width = bounds().size.width;
     m_battery.setFrame(CGRectMake((width - batterySize.width) / 2, 0, batterySize.width, batterySize.height));
@@ -49,10 +49,12 @@ void CSBatteryChargingView::update()
     m_label.setText(NS::String::fromUTF8(std::to_string(percent) + "% Charged"));
 }
 
+static const StandInClass csCoverSheetViewBase(
+    "CSCoverSheetViewBase", "UIView", [](Binder<UIView>& binder) { binder.add(); });
+
 static const StandInClass csBatteryChargingView(
-    "CSBatteryChargingView", "UIView", [](Binder<CSBatteryChargingView>& binder) {
+    "CSBatteryChargingView", "CSCoverSheetViewBase", [](Binder<CSBatteryChargingView>& binder) {
         binder.init<"initWithFrame:", &CSBatteryChargingView::initWithFrame>()
-            .def<"layoutSubviews", &CSBatteryChargingView::layoutSubviews>()
             .def<"setBatteryVisible:", &CSBatteryChargingView::setBatteryVisible>()
             .add();
     });

@@ -8,7 +8,7 @@ namespace Simulator {
 
 struct CSBatteryChargingView : UIView {
     void initWithFrame(CGRect frame);
-    void layoutSubviews();
+    void placeParts() override;
     void setBatteryVisible(bool visible);
     /// Takes over the device's battery.
     void update();

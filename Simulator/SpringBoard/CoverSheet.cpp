@@ -5,6 +5,7 @@
 
 #include "Platform/SpringBoard/SBFLockScreenDateView.hpp"
 #include "Simulator/Loop/Loop.hpp"
+#include "Simulator/Runtime/Blocks.hpp"
 #include "Simulator/Runtime/SharedObject.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/ChargingView.hpp"
@@ -18,17 +19,46 @@ namespace {
 constexpr double chargingSeconds = 3;
 constexpr double chargingViewHeight = 90;
 constexpr double axonHeight = 60;
+constexpr double passcodeFontSize = 20;
+constexpr double passcodeTop = 120;
+constexpr double passcodeHeight = 30;
 
 }
 
-void CSCoverSheetViewController::init()
+NS::Object CSCoverSheetViewController::idleTimerController()
 {
-    idleTimerController = makeObject("SBDashBoardIdleTimerController");
+    if (!m_idleTimerController)
+        m_idleTimerController = makeObject<"initWithCoverSheetViewController:">("SBDashBoardIdleTimerController", self());
+    return m_idleTimerController;
+}
+
+/// Transparent, and nothing to touch.
+static UI::View makeContainer(const char* identifier)
+{
+    const UI::View container = makeView("UIView", {}, identifier);
+    container.setUserInteractionEnabled(false);
+    return container;
+}
+
+void CSCoverSheetView::addParts()
+{
+    slideable = makeContainer("stock.slideable");
+    modal = makeContainer("stock.modal");
+    modal.setHidden(true);
+    addSubview(slideable);
+    addSubview(modal);
+}
+
+void CSCoverSheetView::placeParts()
+{
+    const CGSize size = bounds().size;
+    slideable.setFrame(CGRectMake(slide, 0, size.width, size.height));
+    modal.setFrame(bounds());
 }
 
 void CSCoverSheetViewController::loadView()
 {
-    setView(makeView("UIView", ScreenLayout::current().bounds(), "stock.coverSheet"));
+    setView(makeView("CSCoverSheetView", ScreenLayout::current().bounds(), "stock.coverSheet"));
 }
 
 void CSCoverSheetViewController::viewDidLoad()
@@ -64,18 +94,62 @@ UI::View CSCoverSheetViewController::dateView()
     return SB::FLockScreenDateViewController(dateViewController.raw()).dateView();
 }
 
-void CSCoverSheetViewController::viewDidLayoutSubviews()
+void CSCoverSheetViewController::placeParts()
 {
     const ScreenLayout layout = ScreenLayout::current();
+    const auto slid = [this](CGRect frame) {
+        frame.origin.x += sheetView().slide;
+        return frame;
+    };
     m_padlock.setFrame(layout.padlock());
     // Whoever scales the clock does not change its place.
-    placeUntransformed(self().send<UI::View, "dateView">(), layout.dateView());
-    combinedListController.view().setFrame(layout.notificationList());
-    quickActionsController.view().setFrame(layout.quickActions());
-    teachableMomentsController.view().setFrame(layout.hint());
+    placeUntransformed(self().send<UI::View, "dateView">(), slid(layout.dateView()));
+    combinedListController.view().setFrame(slid(layout.notificationList()));
+    quickActionsController.view().setFrame(slid(layout.quickActions()));
+    teachableMomentsController.view().setFrame(slid(layout.hint()));
     const CGRect list = layout.notificationList();
     m_axon.setFrame(CGRectMake(list.origin.x, list.origin.y, list.size.width, axonHeight));
     m_chargingView.setFrame(centred({layout.size.width, chargingViewHeight}, layout.bounds()));
+}
+
+CSCoverSheetView& CSCoverSheetViewController::sheetView()
+{
+    return standIn<CSCoverSheetView>(self<UI::ViewController>().view().raw());
+}
+
+void CSCoverSheetViewController::activatePage(unsigned long page, bool, ObjC::BlockArgument completion)
+{
+    const double width = ScreenLayout::current().size.width;
+    sheetView().slide = (static_cast<double>(indexOfMainPage()) - static_cast<double>(page)) * width;
+    self<UI::ViewController>().view().setNeedsLayout();
+    Loop::shared().schedule(0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
+}
+
+/// The keypad covers the page, and the clock and what is below it give way.
+void CSCoverSheetViewController::setPasscodeLockVisible(bool visible, bool)
+{
+    if (visible == isPasscodeLockVisible())
+        return;
+    const UI::View modal = sheetView().modal;
+    modal.setHidden(!visible);
+    if (visible) {
+        m_passcode = makeLabel("Enter Passcode", passcodeFontSize, FontWeight::regular, UI::Color::whiteColor());
+        m_passcode.setAccessibilityIdentifier("stock.passcode"_ns);
+        m_passcode.setFrame(CGRectMake(0, passcodeTop, ScreenLayout::current().size.width, passcodeHeight));
+        modal.addSubview(m_passcode);
+        self<UI::ViewController>().view().bringSubviewToFront(modal);
+    } else {
+        m_passcode.removeFromSuperview();
+        m_passcode = {};
+    }
+    showStockContent(!visible);
+}
+
+void CSCoverSheetViewController::showStockContent(bool shown)
+{
+    dateViewController.send<void, "setContentAlpha:withSubtitleVisible:">(shown ? 1.0 : 0.0, shown);
+    for (const auto& controller : {combinedListController, quickActionsController, teachableMomentsController})
+        controller.view().setAlpha(shown);
 }
 
 void CSCoverSheetViewController::transitionChargingView(bool visible, bool showsBattery, bool)
@@ -97,6 +171,12 @@ void CSCoverSheetViewController::transitionChargingView(bool visible, bool shows
     });
 }
 
+void CSCoverSheetViewController::transitionChargingViewOrPack(
+    bool visible, bool suppressedByPack, bool showsBattery, bool animated)
+{
+    transitionChargingView(visible && !suppressedByPack, showsBattery, animated);
+}
+
 void CSCoverSheetViewController::hideChargingView()
 {
     m_chargingView.removeFromSuperview();
@@ -111,22 +191,48 @@ UI::ViewController SBCoverSheetPresentationManager::coverSheetViewController()
     return m_coverSheet;
 }
 
+static const StandInClass csCoverSheetView("CSCoverSheetView", "UIView", [](Binder<CSCoverSheetView>& binder) {
+    binder.def<"layoutSubviews", &CSCoverSheetView::layoutSubviews>()
+        .readonly<"slideableContentView", &CSCoverSheetView::slideable>()
+        .readonly<"modalPresentationView", &CSCoverSheetView::modal>()
+        .add();
+});
+
+static const StandInClass csCoverSheetViewControllerBase(
+    "CSCoverSheetViewControllerBase", "UIViewController", [](Binder<UIViewController>& binder) {
+        using Base = UIViewController;
+        binder.def<"loadView", &Base::loadView>()
+            .def<"viewDidLoad", &Base::viewDidLoad>()
+            .def<"viewWillAppear:", &Base::ignoreAnimated>()
+            .def<"viewDidAppear:", &Base::ignoreAnimated>()
+            .def<"viewWillDisappear:", &Base::ignoreAnimated>()
+            .def<"viewDidDisappear:", &Base::ignoreAnimated>()
+            .def<"viewWillLayoutSubviews", &Base::ignoreNotice>()
+            .def<"viewDidLayoutSubviews", &Base::viewDidLayoutSubviews>()
+            .def<"_canShowWhileLocked", &Base::isWelcomeWhileLocked>()
+            .add();
+    });
+
 static const StandInClass csCoverSheetViewController(
     "CSCoverSheetViewController", "UIViewController", [](Binder<CSCoverSheetViewController>& binder) {
         using Sheet = CSCoverSheetViewController;
-        binder.init<"init", &Sheet::init>()
+        binder.def<"_canShowWhileLocked", &Sheet::isWelcomeWhileLocked>()
             .def<"loadView", &Sheet::loadView>()
             .def<"viewDidLoad", &Sheet::viewDidLoad>()
             .def<"viewWillAppear:", &Sheet::viewWillAppear>()
+            .def<"viewDidAppear:", &Sheet::ignoreAnimated>()
             .def<"viewWillDisappear:", &Sheet::viewWillDisappear>()
-            .def<"viewDidLayoutSubviews", &Sheet::viewDidLayoutSubviews>()
+            .def<"activatePage:animated:withCompletion:", &Sheet::activatePage>()
+            .def<"_indexOfMainPage", &Sheet::indexOfMainPage>()
+            .def<"_indexOfCameraPage", &Sheet::indexOfCameraPage>()
+            .def<"isPasscodeLockVisible", &Sheet::isPasscodeLockVisible>()
+            .def<"setPasscodeLockVisible:animated:", &Sheet::setPasscodeLockVisible>()
             .def<"dateView", &Sheet::dateView>()
             .readonly<"dateViewController", &Sheet::dateViewController>()
-            .readonly<"combinedListViewController", &Sheet::combinedListController>()
-            .readonly<"quickActionsViewController", &Sheet::quickActionsController>()
-            .readonly<"teachableMomentsContainerViewController", &Sheet::teachableMomentsController>()
-            .readonly<"idleTimerController", &Sheet::idleTimerController>()
+            .def<"idleTimerController", &Sheet::idleTimerController>()
             .def<"_transitionChargingViewToVisible:showBattery:animated:", &Sheet::transitionChargingView>()
+            .def<"_transitionChargingViewToVisible:suppressedByPack:showBattery:animated:",
+                &Sheet::transitionChargingViewOrPack>()
             .add();
     });
 

@@ -5,6 +5,7 @@
 #include "Simulator/SpringBoard/LegibilityLabel.hpp"
 #include "Simulator/SpringBoard/StockDateText.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
+#include "Simulator/UIKit/UIViewController.hpp"
 
 #include <nlohmann/json.hpp>
 
@@ -23,9 +24,8 @@ constexpr double dialSize = 20;
 
 }
 
-void SBFLockScreenDateSubtitleView::initWithFrame(CGRect frame)
+void SBFLockScreenDateSubtitleView::addParts()
 {
-    UIView::initWithFrame(frame);
     const UI::View label = makeLegibilityLabel(subtitleFontSize, FontWeight::regular, "stock.subtitle.label");
     setIvar("_label", label);
     addSubview(label);
@@ -52,9 +52,9 @@ void SBFLockScreenDateSubtitleView::setString(const NS::String& string)
     ivar<SB::UILegibilityLabel>("_label").setString(string);
 }
 
-void SBFLockScreenDateSubtitleDateView::initWithFrame(CGRect frame)
+void SBFLockScreenDateSubtitleDateView::addParts()
 {
-    SBFLockScreenDateSubtitleView::initWithFrame(frame);
+    SBFLockScreenDateSubtitleView::addParts();
     const UI::View label = makeLegibilityLabel(alternateFontSize, FontWeight::regular, "stock.subtitle.alternate");
     setIvar("_alternateDateLabel", label);
     addSubview(label);
@@ -64,11 +64,6 @@ void SBFLockScreenDateSubtitleDateView::layoutSubviews()
 {
     SBFLockScreenDateSubtitleView::layoutSubviews();
     ivar<UI::View>("_alternateDateLabel").setFrame(CGRectMake(0, subtitleHeight, bounds().size.width, alternateHeight));
-}
-
-void SBFLockScreenDateSubtitleDateView::didMoveToWindow()
-{
-    sendSuper<void, "didMoveToWindow">(object(), objc_getClass("SBFLockScreenDateSubtitleView"));
 }
 
 void SBLockScreenTimerDialView::initWithFrame(CGRect frame)
@@ -89,12 +84,29 @@ void SBFLockScreenDateView::initWithFrame(CGRect frame)
     subtitleView = makeView("SBFLockScreenDateSubtitleDateView", {}, "stock.subtitle");
     setIvar("_dateSubtitleView", subtitleView);
     addSubview(subtitleView);
+    if (class_getInstanceVariable(object_getClass(object()), "_prominentDisplayViewController"))
+        addProminentDisplay();
+}
+
+/// The older label is left over, and shows nothing.
+void SBFLockScreenDateView::addProminentDisplay()
+{
+    const auto controller = makeController("CSProminentDisplayViewController");
+    setIvar("_prominentDisplayViewController", controller);
+    m_prominentTime = makeLabel("", timeFontSize, FontWeight::medium, UI::Color::whiteColor());
+    m_prominentTime.setTextAlignment(UI::TextAlignment::center);
+    m_prominentTime.setAccessibilityIdentifier("stock.prominentTime"_ns);
+    controller.view().addSubview(m_prominentTime);
+    addSubview(controller.view());
+    ivar<UI::View>("_timeLabel").setHidden(true);
 }
 
 void SBFLockScreenDateView::layoutSubviews()
 {
     const double width = bounds().size.width;
     ivar<UI::View>("_timeLabel").setFrame(CGRectMake(0, timeTop, width, timeHeight));
+    m_prominentTime.superview().setFrame(bounds());
+    m_prominentTime.setFrame(CGRectMake(0, timeTop, width, timeHeight));
     subtitleView.setFrame(CGRectMake(0, timeTop + timeHeight, width, subtitleHeight));
     timerDial.setFrame(CGRectMake(width / 2 - 60, (subtitleHeight - dialSize) / 2, dialSize, dialSize));
 }
@@ -108,6 +120,7 @@ void SBFLockScreenDateView::setDate(const NS::Date& moment)
 void SBFLockScreenDateView::updateLabels()
 {
     ivar<SB::UILegibilityLabel>("_timeLabel").setString(stockTimeText(date));
+    m_prominentTime.setText(stockTimeText(date));
     const NS::String subtitle = m_customSubtitle ? NS::String::fromUTF8(*m_customSubtitle) : stockDateText(date);
     if (!subtitleView.send<NS::String, "string">().isEqualToString(subtitle))
         subtitleView.send<void, "setString:">(subtitle);
@@ -118,6 +131,19 @@ void SBFLockScreenDateView::setCustomSubtitle(std::optional<std::string> text)
     m_customSubtitle = std::move(text);
     const NS::String subtitle = m_customSubtitle ? NS::String::fromUTF8(*m_customSubtitle) : stockDateText(date);
     subtitleView.send<void, "setString:">(subtitle);
+}
+
+void SBFLockScreenDateView::setContentAlpha(double alpha, bool subtitleVisible)
+{
+    setTimeAlpha(alpha, subtitleVisible ? alpha : 0);
+}
+
+void SBFLockScreenDateView::setTimeAlpha(double time, double subtitle)
+{
+    m_timeAlpha = time;
+    ivar<UI::View>("_timeLabel").setAlpha(time);
+    m_prominentTime.setAlpha(time);
+    subtitleView.setAlpha(subtitle);
 }
 
 void SBFLockScreenDateView::setTimerDialShown(bool shown)
@@ -136,9 +162,7 @@ void SBFLockScreenDateView::setTimerDialShown(bool shown)
 
 static const StandInClass sbfLockScreenDateSubtitleView(
     "SBFLockScreenDateSubtitleView", "UIView", [](Binder<SBFLockScreenDateSubtitleView>& binder) {
-        binder.init<"initWithFrame:", &SBFLockScreenDateSubtitleView::initWithFrame>()
-            .def<"layoutSubviews", &SBFLockScreenDateSubtitleView::layoutSubviews>()
-            .def<"didMoveToWindow", &SBFLockScreenDateSubtitleView::didMoveToWindow>()
+        binder.def<"layoutSubviews", &SBFLockScreenDateSubtitleView::layoutSubviews>()
             .def<"string", &SBFLockScreenDateSubtitleView::string>()
             .def<"setString:", &SBFLockScreenDateSubtitleView::setString>()
             .ivar<"_label">()
@@ -147,18 +171,19 @@ static const StandInClass sbfLockScreenDateSubtitleView(
 
 static const StandInClass sbfLockScreenDateSubtitleDateView("SBFLockScreenDateSubtitleDateView",
     "SBFLockScreenDateSubtitleView", [](Binder<SBFLockScreenDateSubtitleDateView>& binder) {
-        binder.init<"initWithFrame:", &SBFLockScreenDateSubtitleDateView::initWithFrame>()
-            .def<"layoutSubviews", &SBFLockScreenDateSubtitleDateView::layoutSubviews>()
-            .def<"didMoveToWindow", &SBFLockScreenDateSubtitleDateView::didMoveToWindow>()
+        binder.def<"layoutSubviews", &SBFLockScreenDateSubtitleDateView::layoutSubviews>()
             .ivar<"_alternateDateLabel">()
             .add();
     });
 
 static const StandInClass sbLockScreenTimerDialView(
     "SBLockScreenTimerDialView", "UIView", [](Binder<SBLockScreenTimerDialView>& binder) {
-        binder.init<"initWithFrame:", &SBLockScreenTimerDialView::initWithFrame>()
-            .def<"didMoveToWindow", &SBLockScreenTimerDialView::didMoveToWindow>()
-            .add();
+        binder.init<"initWithFrame:", &SBLockScreenTimerDialView::initWithFrame>().add();
+    });
+
+static const StandInClass csProminentDisplayViewController(
+    "CSProminentDisplayViewController", "UIViewController", [](Binder<UIViewController>& binder) {
+        binder.def<"_canShowWhileLocked", &UIViewController::isWelcomeWhileLocked>().add();
     });
 
 static const StandInClass sbfLockScreenDateView(
@@ -168,9 +193,12 @@ static const StandInClass sbfLockScreenDateView(
             .readonly<"date", &SBFLockScreenDateView::date>()
             .def<"setDate:", &SBFLockScreenDateView::setDate>()
             .def<"_updateLabels", &SBFLockScreenDateView::updateLabels>()
-            .readonly<"dateSubtitleView", &SBFLockScreenDateView::subtitleView>()
+            .def<"contentAlpha", &SBFLockScreenDateView::contentAlpha>()
+            .def<"setContentAlpha:withSubtitleVisible:", &SBFLockScreenDateView::setContentAlpha>()
+            .def<"setTimeAlpha:subtitleAlpha:", &SBFLockScreenDateView::setTimeAlpha>()
             .ivar<"_timeLabel">()
             .ivar<"_dateSubtitleView">()
+            .ivar<"_prominentDisplayViewController">()
             .add();
     });
 

@@ -16,11 +16,19 @@ struct SBFLockScreenDateViewController : UIViewController {
         setView(makeView("SBFLockScreenDateView", ScreenLayout::current().dateView(), "stock.dateView"));
     }
 
-    void viewDidLoad() { }
     void viewWillAppear(bool) { self<SB::FLockScreenDateViewController>().updateView(); }
-    void viewWillDisappear(bool) { }
     /// The view itself, an SBFLockScreenDateView.
     UI::View dateView() { return self<UI::ViewController>().view(); }
+    void setContentAlpha(double alpha, bool subtitleVisible)
+    {
+        const UI::View view = dateView();
+        if (view.respondsTo<"setContentAlpha:withSubtitleVisible:">())
+            view.send<void, "setContentAlpha:withSubtitleVisible:">(alpha, subtitleVisible);
+        else
+            view.send<void, "setTimeAlpha:subtitleAlpha:">(alpha, subtitleVisible ? alpha : 0.0);
+    }
+    /// Since system 16 a timer's text comes this way.
+    void updateTimerWithText(const NS::String&) { }
     void updateView() { self<SB::FLockScreenDateViewController>().dateView().send<void, "setDate:">(NS::Date::date()); }
 };
 
@@ -29,10 +37,11 @@ struct SBFLockScreenDateViewController : UIViewController {
 static const StandInClass sbfLockScreenDateViewController(
     "SBFLockScreenDateViewController", "UIViewController", [](Binder<SBFLockScreenDateViewController>& binder) {
         binder.def<"loadView", &SBFLockScreenDateViewController::loadView>()
-            .def<"viewDidLoad", &SBFLockScreenDateViewController::viewDidLoad>()
             .def<"viewWillAppear:", &SBFLockScreenDateViewController::viewWillAppear>()
-            .def<"viewWillDisappear:", &SBFLockScreenDateViewController::viewWillDisappear>()
+            .def<"setContentAlpha:withSubtitleVisible:", &SBFLockScreenDateViewController::setContentAlpha>()
+            .def<"updateTimerWithText:", &SBFLockScreenDateViewController::updateTimerWithText>()
             .def<"dateView", &SBFLockScreenDateViewController::dateView>()
+            .def<"_canShowWhileLocked", &SBFLockScreenDateViewController::isWelcomeWhileLocked>()
             .def<"_updateView", &SBFLockScreenDateViewController::updateView>()
             .add();
     });

@@ -49,7 +49,7 @@ UI::View makeIcon(const AppIcon& app)
 struct SBHomeScreenViewController : UIViewController {
     void loadView() { setView(makeView("UIView", ScreenLayout::current().bounds(), "stock.homeScreen")); }
 
-    void viewDidLoad()
+    void addParts() override
     {
         const UI::View view = self<UI::ViewController>().view();
         m_dock = makePane(BlurStyle::light, 28);
@@ -86,7 +86,6 @@ private:
 static const StandInClass sbHomeScreenViewController(
     "SBHomeScreenViewController", "UIViewController", [](Binder<SBHomeScreenViewController>& binder) {
         binder.def<"loadView", &SBHomeScreenViewController::loadView>()
-            .def<"viewDidLoad", &SBHomeScreenViewController::viewDidLoad>()
             .def<"viewWillAppear:", &SBHomeScreenViewController::viewWillAppear>()
             .def<"viewDidLayoutSubviews", &SBHomeScreenViewController::viewDidLayoutSubviews>()
             .add();

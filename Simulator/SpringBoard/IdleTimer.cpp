@@ -23,7 +23,7 @@ struct SBDashBoardIdleTimerProvider : StandIn {
         reasons.erase(std::string(reason.utf8()));
         record("remove", reason);
     }
-    bool isDisabled() const { return !reasons.empty(); }
+    bool isActive(const NS::String& reason) const { return reasons.contains(std::string(reason.utf8())); }
 
     std::set<std::string> reasons;
 
@@ -37,7 +37,15 @@ private:
 struct SBDashBoardIdleTimerController : StandIn {
     using Root = SBDashBoardIdleTimerController;
 
-    void init() { setIvar("_idleTimerProvider", makeObject("SBDashBoardIdleTimerProvider")); }
+    void initWithCoverSheet(const NS::Object&)
+    {
+        setIvar("_dashBoardIdleTimerProvider", makeObject("SBDashBoardIdleTimerProvider"));
+    }
+    void add(const NS::String& reason) { provider().send<void, "addDisabledIdleTimerAssertionReason:">(reason); }
+    void remove(const NS::String& reason) { provider().send<void, "removeDisabledIdleTimerAssertionReason:">(reason); }
+
+private:
+    NS::Object provider() const { return ivar<NS::Object>("_dashBoardIdleTimerProvider"); }
 };
 
 }
@@ -47,13 +55,18 @@ static const StandInClass sbDashBoardIdleTimerProvider(
         using Provider = SBDashBoardIdleTimerProvider;
         binder.def<"addDisabledIdleTimerAssertionReason:", &Provider::add>()
             .def<"removeDisabledIdleTimerAssertionReason:", &Provider::remove>()
-            .def<"isIdleTimerDisabled", &Provider::isDisabled>()
+            .def<"isDisabledAssertionActiveForReason:", &Provider::isActive>()
             .add();
     });
 
 static const StandInClass sbDashBoardIdleTimerController(
     "SBDashBoardIdleTimerController", "NSObject", [](Binder<SBDashBoardIdleTimerController>& binder) {
-        binder.init<"init", &SBDashBoardIdleTimerController::init>().ivar<"_idleTimerProvider">().add();
+        using Controller = SBDashBoardIdleTimerController;
+        binder.init<"initWithCoverSheetViewController:", &Controller::initWithCoverSheet>()
+            .def<"addIdleTimerDisabledAssertionReason:", &Controller::add>()
+            .def<"removeIdleTimerDisabledAssertionReason:", &Controller::remove>()
+            .ivar<"_dashBoardIdleTimerProvider">()
+            .add();
     });
 
 }

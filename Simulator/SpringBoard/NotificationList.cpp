@@ -21,16 +21,10 @@ const Notification notifications[] = {
 
 }
 
-void NCNotificationListView::setContentInset(UIEdgeInsets inset)
-{
-    contentInset = inset;
-    setNeedsLayout();
-}
-
 void NCNotificationListView::layoutSubviews()
 {
     const double width = std::max(0.0, bounds().size.width - contentInset.left - contentInset.right);
-    double y = contentInset.top;
+    double y = contentInset.top - contentOffset.y;
     for (const auto& [view, height] : rows) {
         view.setFrame(CGRectMake(contentInset.left, y, width, height));
         y += height + spacing;
@@ -56,7 +50,7 @@ void NCNotificationStructuredListViewController::viewDidLoad()
     setHistoryRevealed(false);
 }
 
-void NCNotificationStructuredListViewController::viewDidLayoutSubviews()
+void NCNotificationStructuredListViewController::placeParts()
 {
     m_list.setFrame(self<UI::ViewController>().view().bounds());
 }
@@ -80,7 +74,7 @@ void CSCombinedListViewController::viewWillAppear(bool)
     self<UI::ViewController>().view().setNeedsLayout();
 }
 
-void CSCombinedListViewController::viewDidLayoutSubviews()
+void CSCombinedListViewController::placeParts()
 {
     structuredList.view().setFrame(self<UI::ViewController>().view().bounds());
     const auto insets = self().send<UIEdgeInsets, "_listViewDefaultContentInsets">();
@@ -88,26 +82,22 @@ void CSCombinedListViewController::viewDidLayoutSubviews()
 }
 
 static const StandInClass ncNotificationListView(
-    "NCNotificationListView", "UIView", [](Binder<NCNotificationListView>& binder) {
-        binder.def<"layoutSubviews", &NCNotificationListView::layoutSubviews>()
-            .readonly<"contentInset", &NCNotificationListView::contentInset>()
-            .def<"setContentInset:", &NCNotificationListView::setContentInset>()
-            .add();
+    "NCNotificationListView", "UIScrollView", [](Binder<NCNotificationListView>& binder) {
+        binder.def<"layoutSubviews", &NCNotificationListView::layoutSubviews>().add();
     });
 
 static const StandInClass ncNotificationStructuredListViewController("NCNotificationStructuredListViewController",
     "UIViewController", [](Binder<NCNotificationStructuredListViewController>& binder) {
         binder.def<"viewDidLoad", &NCNotificationStructuredListViewController::viewDidLoad>()
-            .def<"viewDidLayoutSubviews", &NCNotificationStructuredListViewController::viewDidLayoutSubviews>()
             .def<"scrollView", &NCNotificationStructuredListViewController::scrollView>()
+            .def<"_canShowWhileLocked", &NCNotificationStructuredListViewController::isWelcomeWhileLocked>()
             .add();
     });
 
 static const StandInClass csCombinedListViewController(
-    "CSCombinedListViewController", "UIViewController", [](Binder<CSCombinedListViewController>& binder) {
+    "CSCombinedListViewController", "CSCoverSheetViewControllerBase", [](Binder<CSCombinedListViewController>& binder) {
         binder.def<"viewDidLoad", &CSCombinedListViewController::viewDidLoad>()
             .def<"viewWillAppear:", &CSCombinedListViewController::viewWillAppear>()
-            .def<"viewDidLayoutSubviews", &CSCombinedListViewController::viewDidLayoutSubviews>()
             .def<"_listViewDefaultContentInsets", &CSCombinedListViewController::listViewDefaultContentInsets>()
             .add();
     });

@@ -1,6 +1,7 @@
 // The list of notifications and the controller that places it.
 #pragma once
 
+#include "Simulator/UIKit/UIScrollView.hpp"
 #include "Simulator/UIKit/UIViewController.hpp"
 
 #include <vector>
@@ -8,11 +9,9 @@
 namespace Simulator {
 
 /// Scrolled, or moved by its insets; what lies beyond the edges shows as on the phone.
-struct NCNotificationListView : UIView {
+struct NCNotificationListView : UIScrollView {
     void layoutSubviews();
-    void setContentInset(UIEdgeInsets inset);
 
-    UIEdgeInsets contentInset;
     /// Rows from top to bottom, each with its height.
     struct Row {
         UI::View view;
@@ -23,7 +22,7 @@ struct NCNotificationListView : UIView {
 
 struct NCNotificationStructuredListViewController : UIViewController {
     void viewDidLoad();
-    void viewDidLayoutSubviews();
+    void placeParts() override;
     UI::View scrollView() const { return m_list; }
     /// Older notifications show when the cover sheet is pulled down over the home screen.
     void setHistoryRevealed(bool revealed);
@@ -37,7 +36,7 @@ private:
 struct CSCombinedListViewController : UIViewController {
     void viewDidLoad();
     void viewWillAppear(bool animated);
-    void viewDidLayoutSubviews();
+    void placeParts() override;
     UIEdgeInsets listViewDefaultContentInsets() const { return {}; }
 
     UI::ViewController structuredList;

@@ -3,8 +3,11 @@
 
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
+#include "Simulator/UIKit/UIGestureRecognizer.hpp"
 
 #include <algorithm>
+
+#include <nlohmann/json.hpp>
 
 namespace Simulator {
 
@@ -26,11 +29,20 @@ UI::Label faded(UI::Label label)
 
 }
 
-void NCNotificationShortLookView::initWithFrame(CGRect frame)
+void NCNotificationShortLookView::addParts()
 {
-    UIView::initWithFrame(frame);
     m_pane = makePane(BlurStyle::systemMaterial, cornerRadius);
     addSubview(m_pane);
+    const auto press = UI::LongPressGestureRecognizer::make();
+    standIn<UIGestureRecognizer>(press.raw()).stockAction
+        = [this](UI::GestureRecognizerState state) { m_isOpen |= state == UI::GestureRecognizerState::began; };
+    self<UI::View>().addGestureRecognizer(press);
+}
+
+void NCNotificationShortLookView::describe(nlohmann::json& description) const
+{
+    if (m_isOpen)
+        description["isOpen"] = true;
 }
 
 void NCNotificationShortLookView::show(const Notification& notification)
@@ -63,11 +75,12 @@ void NCNotificationShortLookView::layoutSubviews()
     m_text.setFrame(CGRectMake(margin, 51, textWidth, 19));
 }
 
+static const StandInClass plTitledPlatterView(
+    "PLTitledPlatterView", "UIView", [](Binder<UIView>& binder) { binder.add(); });
+
 static const StandInClass ncNotificationShortLookView(
-    "NCNotificationShortLookView", "UIView", [](Binder<NCNotificationShortLookView>& binder) {
-        binder.init<"initWithFrame:", &NCNotificationShortLookView::initWithFrame>()
-            .def<"layoutSubviews", &NCNotificationShortLookView::layoutSubviews>()
-            .add();
+    "NCNotificationShortLookView", "PLTitledPlatterView", [](Binder<NCNotificationShortLookView>& binder) {
+        binder.def<"layoutSubviews", &NCNotificationShortLookView::layoutSubviews>().add();
     });
 
 }

@@ -19,11 +19,14 @@ struct Notification {
 struct NCNotificationShortLookView : UIView {
     static constexpr double height = 78;
 
-    void initWithFrame(CGRect frame);
+    void addParts() override;
     void layoutSubviews();
     void show(const Notification& notification);
+    void describe(nlohmann::json& description) const override;
 
 private:
+    /// By a long press.
+    bool m_isOpen = false;
     UI::View m_pane;
     UI::View m_icon;
     UI::View m_glyph;

@@ -25,9 +25,11 @@ void NCNotificationListSectionHeaderView::layoutSubviews()
     title.setFrame(CGRectMake(8, 0, std::max(0.0, size.width - 16), size.height));
 }
 
-void NCNotificationListSectionRevealHintView::initWithFrame(CGRect frame)
+/// The label is made when it is first laid out.
+void NCNotificationListSectionRevealHintView::configureTitle()
 {
-    UIView::initWithFrame(frame);
+    if (ivar("_revealHintTitle"))
+        return;
     const auto label = makeLegibilityLabel(17, FontWeight::regular, "stock.revealHint.title");
     label.setString("No Older Notifications"_ns);
     setIvar("_revealHintTitle", label);
@@ -36,6 +38,7 @@ void NCNotificationListSectionRevealHintView::initWithFrame(CGRect frame)
 
 void NCNotificationListSectionRevealHintView::layoutSubviews()
 {
+    self().send<void, "_configureRevealHintTitleIfNecessary">();
     ivar<UI::View>("_revealHintTitle").setFrame(bounds());
 }
 
@@ -43,15 +46,13 @@ static const StandInClass ncNotificationListSectionHeaderView(
     "NCNotificationListSectionHeaderView", "UIView", [](Binder<NCNotificationListSectionHeaderView>& binder) {
         binder.init<"initWithFrame:", &NCNotificationListSectionHeaderView::initWithFrame>()
             .def<"layoutSubviews", &NCNotificationListSectionHeaderView::layoutSubviews>()
-            .def<"hidden", &NCNotificationListSectionHeaderView::isHidden>()
             .add();
     });
 
 static const StandInClass ncNotificationListSectionRevealHintView(
     "NCNotificationListSectionRevealHintView", "UIView", [](Binder<NCNotificationListSectionRevealHintView>& binder) {
-        binder.init<"initWithFrame:", &NCNotificationListSectionRevealHintView::initWithFrame>()
+        binder.def<"_configureRevealHintTitleIfNecessary", &NCNotificationListSectionRevealHintView::configureTitle>()
             .def<"layoutSubviews", &NCNotificationListSectionRevealHintView::layoutSubviews>()
-            .def<"didMoveToWindow", &NCNotificationListSectionRevealHintView::didMoveToWindow>()
             .ivar<"_revealHintTitle">()
             .add();
     });

@@ -17,9 +17,8 @@ struct NCNotificationListSectionHeaderView : UIView {
 struct NCNotificationListSectionRevealHintView : UIView {
     static constexpr double height = 40;
 
-    void initWithFrame(CGRect frame);
+    void configureTitle();
     void layoutSubviews();
-    void didMoveToWindow() { }
 };
 
 }

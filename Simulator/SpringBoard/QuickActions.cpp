@@ -1,7 +1,9 @@
 // The two round buttons at the bottom: flashlight and camera.
+#include "Simulator/Device/DeviceState.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/ScreenLayout.hpp"
 #include "Simulator/SpringBoard/StockParts.hpp"
+#include "Simulator/UIKit/UIControl.hpp"
 #include "Simulator/UIKit/UIViewController.hpp"
 
 namespace Simulator {
@@ -13,8 +15,8 @@ constexpr double glyphSize = 26;
 constexpr double sideMargin = 46;
 constexpr double bottomMargin = 50;
 
-struct CSQuickActionsButton : UIView {
-    void layoutSubviews()
+struct CSQuickActionsButton : UIControl {
+    void placeParts() override
     {
         m_pane.setFrame(bounds());
         m_glyph.setFrame(centred({glyphSize, glyphSize}, bounds()));
@@ -42,7 +44,7 @@ UI::View makeButton(const char* symbol, const char* identifier)
 }
 
 struct CSQuickActionsViewController : UIViewController {
-    void viewDidLoad()
+    void addParts() override
     {
         m_flashlight = makeButton("flashlight.off.fill", "stock.flashlight");
         m_camera = makeButton("camera.fill", "stock.camera");
@@ -54,7 +56,7 @@ struct CSQuickActionsViewController : UIViewController {
 
     void viewWillAppear(bool) { updateVisibility(); }
 
-    void viewDidLayoutSubviews()
+    void placeParts() override
     {
         const CGSize size = self<UI::ViewController>().view().bounds().size;
         const double y = size.height - bottomMargin - buttonSize;
@@ -64,9 +66,12 @@ struct CSQuickActionsViewController : UIViewController {
     }
 
     /// Phones with a home button open the camera by a swipe, and the flashlight from elsewhere.
-    bool hasFlashlight() const { return ScreenLayout::current().hasHomeIndicator; }
+    bool hasFlashlight() const
+    {
+        return ScreenLayout::current().hasHomeIndicator && DeviceState::shared().hasFlashlight;
+    }
 
-    bool hasCamera() const { return ScreenLayout::current().hasHomeIndicator; }
+    bool hasCamera() const { return ScreenLayout::current().hasHomeIndicator && DeviceState::shared().hasCamera; }
 
 private:
     void updateVisibility()
@@ -81,16 +86,15 @@ private:
 
 }
 
+static const StandInClass uiCoverSheetButton(
+    "UICoverSheetButton", "UIControl", [](Binder<UIControl>& binder) { binder.add(); });
+
 static const StandInClass csQuickActionsButton(
-    "CSQuickActionsButton", "UIView", [](Binder<CSQuickActionsButton>& binder) {
-        binder.def<"layoutSubviews", &CSQuickActionsButton::layoutSubviews>().add();
-    });
+    "CSQuickActionsButton", "UICoverSheetButton", [](Binder<CSQuickActionsButton>& binder) { binder.add(); });
 
 static const StandInClass csQuickActionsViewController(
-    "CSQuickActionsViewController", "UIViewController", [](Binder<CSQuickActionsViewController>& binder) {
-        binder.def<"viewDidLoad", &CSQuickActionsViewController::viewDidLoad>()
-            .def<"viewWillAppear:", &CSQuickActionsViewController::viewWillAppear>()
-            .def<"viewDidLayoutSubviews", &CSQuickActionsViewController::viewDidLayoutSubviews>()
+    "CSQuickActionsViewController", "CSCoverSheetViewControllerBase", [](Binder<CSQuickActionsViewController>& binder) {
+        binder.def<"viewWillAppear:", &CSQuickActionsViewController::viewWillAppear>()
             .def<"hasFlashlight", &CSQuickActionsViewController::hasFlashlight>()
             .def<"hasCamera", &CSQuickActionsViewController::hasCamera>()
             .add();

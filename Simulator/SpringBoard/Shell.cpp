@@ -61,12 +61,16 @@ Shell::~Shell()
         running.shell = nullptr;
 }
 
-void Shell::start()
+void Shell::start(HomeScreenAtStart homeScreen)
 {
     ObjC::AutoreleasePool pool;
     buildWindow();
     applyDeviceState();
+    if (homeScreen == HomeScreenAtStart::before)
+        showHomeScreen();
     present(true);
+    if (homeScreen == HomeScreenAtStart::after)
+        m_homeScreen.send<void, "beginAppearanceTransition:animated:">(true, true);
     wake();
 }
 
@@ -86,17 +90,32 @@ void Shell::present(bool presented)
     restartMinuteTimer();
 }
 
-void Shell::lock()
+void Shell::lock(bool byLongForm)
 {
     ObjC::AutoreleasePool pool;
-    sharedInstance("SBLockScreenManager").send<void, "lockUIFromSource:withOptions:">(sideButton, NS::Object());
+    const auto manager = sharedInstance("SBLockScreenManager");
+    if (byLongForm)
+        manager.send<void, "lockUIFromSource:withOptions:completion:">(
+            sideButton, NS::Object(), ObjC::BlockArgument{});
+    else
+        manager.send<void, "lockUIFromSource:withOptions:">(sideButton, NS::Object());
     setLit(false);
+    commit();
+}
+
+void Shell::showPasscode(bool shown)
+{
+    ObjC::AutoreleasePool pool;
+    if (!m_presented)
+        return;
+    m_coverSheet.send<void, "setPasscodeLockVisible:animated:">(shown, true);
     commit();
 }
 
 void Shell::setLocked(bool locked)
 {
     m_locked = locked;
+    m_coverSheet.send<void, "setPasscodeLockVisible:animated:">(false, false);
     if (locked) {
         revealHistory(false);
         present(true);
@@ -130,7 +149,7 @@ void Shell::unlock()
     ObjC::AutoreleasePool pool;
     if (!m_lit)
         wake();
-    sharedInstance("SBLockScreenManager").send<void, "unlockUIFromSource:withOptions:">(sideButton, NS::Object());
+    sharedInstance("SBLockScreenManager").send<bool, "unlockUIFromSource:withOptions:">(sideButton, NS::Object());
     present(false);
     setFrontApp({});
     showHomeScreen();
@@ -168,7 +187,7 @@ void Shell::openApp(const std::string& bundle)
     ObjC::AutoreleasePool pool;
     if (!m_lit)
         wake();
-    sharedInstance("SBLockScreenManager").send<void, "unlockUIFromSource:withOptions:">(sideButton, NS::Object());
+    sharedInstance("SBLockScreenManager").send<bool, "unlockUIFromSource:withOptions:">(sideButton, NS::Object());
     present(false);
     if (hasAppeared(m_homeScreen)) {
         m_homeScreen.send<void, "beginAppearanceTransition:animated:">(false, true);
@@ -206,8 +225,18 @@ void Shell::charge(bool charging)
     if (charging && !m_lit)
         wake();
     if (m_presented)
-        m_coverSheet.send<void, "_transitionChargingViewToVisible:showBattery:animated:">(charging, charging, true);
+        showCharging(charging);
     commit();
+}
+
+void Shell::showCharging(bool charging)
+{
+    constexpr bool suppressedByPack = false;
+    if (m_coverSheet.respondsTo<"_transitionChargingViewToVisible:suppressedByPack:showBattery:animated:">())
+        m_coverSheet.send<void, "_transitionChargingViewToVisible:suppressedByPack:showBattery:animated:">(
+            charging, suppressedByPack, charging, true);
+    else
+        m_coverSheet.send<void, "_transitionChargingViewToVisible:showBattery:animated:">(charging, charging, true);
 }
 
 void Shell::setStyle(InterfaceStyle style)

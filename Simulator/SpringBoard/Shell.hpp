@@ -9,6 +9,9 @@
 
 namespace Simulator {
 
+/// When the home screen appears behind the lock screen as the shell starts.
+enum class HomeScreenAtStart { later, before, after };
+
 /// One at a time. Needs the classes of UIKit and SpringBoard, the screen's settings, the device's state, the clock.
 class Shell {
 public:
@@ -21,10 +24,12 @@ public:
     static Shell* current();
 
     /// Brings up the lock screen: locked, lit, loaded and appeared. What is due later has not run yet.
-    void start();
+    void start(HomeScreenAtStart homeScreen = HomeScreenAtStart::later);
 
-    /// The side button: locks and darkens.
-    void lock();
+    /// The side button, or whoever else, locks and darkens; by the message with a completion if that is asked for.
+    void lock(bool byLongForm = false);
+    /// Asks for the passcode, or does no more.
+    void showPasscode(bool shown);
     /// Lights the screen.
     void wake();
     /// To the home screen.
@@ -71,11 +76,13 @@ private:
     void setFrontApp(const std::string& bundle);
     void showHomeScreen();
     void revealHistory(bool revealed);
+    void showCharging(bool charging);
     void updateVisibility();
     void updateStatusBar();
     void updateClock();
     void restartMinuteTimer();
     void tickCountdown();
+    void showCountdown(const NS::String& text);
     void setSubtitle(const std::string& text);
 
     UI::View m_window;

@@ -58,13 +58,22 @@ void Shell::timer(double seconds)
     commit();
 }
 
+void Shell::showCountdown(const NS::String& text)
+{
+    const UI::ViewController controller = sheet(m_coverSheet).dateViewController;
+    if (controller.respondsTo<"updateTimerWithText:">())
+        controller.send<void, "updateTimerWithText:">(text);
+    else
+        setSubtitle(std::string(text.utf8()));
+}
+
 void Shell::tickCountdown()
 {
     const double left = m_countdownEnd - Loop::shared().uptime();
     if (left < afterTheMinute)
         return timer(0);
     ObjC::AutoreleasePool pool;
-    setSubtitle(std::string(timerText(left - afterTheMinute).utf8()));
+    showCountdown(timerText(left - afterTheMinute));
     commit();
 }
 

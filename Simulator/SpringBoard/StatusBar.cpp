@@ -22,9 +22,8 @@ constexpr double barHeights[barCount] = {4, 6, 8.5, 11};
 
 }
 
-void UIStatusBar_Modern::initWithFrame(CGRect frame)
+void UIStatusBar_Modern::addParts()
 {
-    UIView::initWithFrame(frame);
     m_leading = makeLabel("", 15, FontWeight::semibold, UI::Color::whiteColor());
     m_leading.setAccessibilityIdentifier("stock.carrier"_ns);
     m_wifi = makeSymbol("wifi", {}, UI::Color::whiteColor());
@@ -76,10 +75,12 @@ void UIStatusBar_Modern::update()
         m_battery.send<void, "setSaverModeActive:">(saves);
 }
 
-static const StandInClass uiStatusBarModern("UIStatusBar_Modern", "UIView", [](Binder<UIStatusBar_Modern>& binder) {
-    binder.init<"initWithFrame:", &UIStatusBar_Modern::initWithFrame>()
-        .def<"layoutSubviews", &UIStatusBar_Modern::layoutSubviews>()
-        .add();
-});
+static const StandInClass uiStatusBarBase(
+    "UIStatusBar_Base", "UIView", [](Binder<UIView>& binder) { binder.add(); });
+
+static const StandInClass uiStatusBarModern(
+    "UIStatusBar_Modern", "UIStatusBar_Base", [](Binder<UIStatusBar_Modern>& binder) {
+        binder.def<"layoutSubviews", &UIStatusBar_Modern::layoutSubviews>().add();
+    });
 
 }

@@ -7,7 +7,7 @@
 namespace Simulator {
 
 struct UIStatusBar_Modern : UIView {
-    void initWithFrame(CGRect frame);
+    void addParts() override;
     void layoutSubviews();
     /// The network's name on the lock screen, the time elsewhere.
     void setLeadingText(const NS::String& text);

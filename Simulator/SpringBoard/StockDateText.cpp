@@ -3,7 +3,9 @@
 
 #include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Simulator/Base/Utf.hpp"
+#include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Text/DateText.hpp"
+#include "Simulator/Text/HourCycle.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -39,8 +41,11 @@ NS::String formatted(const std::u16string& pattern, const NS::Locale& locale, co
 
 NS::String stockTimeText(const NS::Date& date)
 {
-    const NS::Locale locale = NS::Locale::currentLocale();
-    return formatted(withoutDayPeriod(patternForSkeleton(u"jmm", locale.localeIdentifier().utf8())), locale, date);
+    const NS::String locale = NS::Locale::currentLocale().localeIdentifier();
+    std::u16string pattern = patternForSkeleton(u"jmm", locale.utf8());
+    if (const auto position = PhoneLocale::shared().twentyFourHour)
+        pattern = withHourCycle(pattern, *position);
+    return formatted(withoutDayPeriod(pattern), NS::Locale::withIdentifier(locale), date);
 }
 
 NS::String stockDateText(const NS::Date& date)

@@ -11,6 +11,15 @@ namespace Simulator {
 
 /// A new object by `init`; nil if there is no class of that name.
 NS::Object makeObject(const char* className);
+/// An object of a class of the shell, by an initialiser with arguments.
+template <ObjC::FixedString initializer, class... Arguments>
+NS::Object makeObject(const char* className, const Arguments&... arguments)
+{
+    static_assert(ObjC::isInitializer(initializer.view()), "an initializer's selector begins with init");
+    const id allocated = ObjC::sendMessage<id>(reinterpret_cast<id>(objc_getClass(className)), ObjC::selector<"alloc">());
+    return NS::Object::adopting(ObjC::sendMessage<id>(allocated, ObjC::selector<initializer>(), arguments...));
+}
+
 /// A new view by `initWithFrame:`, with an accessibility identifier if one is given.
 UI::View makeView(const char* className, CGRect frame = {}, const char* identifier = nullptr);
 UI::ViewController makeController(const char* className);

@@ -25,16 +25,31 @@ struct FBSystemService : StandIn {
     }
 };
 
+void switchLowPower(long mode)
+{
+    ActivityLog::shared().record("batterySaver", {{"mode", mode}});
+    DeviceState::shared().battery.lowPower = mode != 0;
+    if (Shell* shell = Shell::current())
+        shell->deviceChanged();
+}
+
 struct _CDBatterySaver : StandIn {
     using Root = _CDBatterySaver;
 
     long powerMode() const { return DeviceState::shared().battery.lowPower; }
-    bool setMode(int mode)
+    long setMode(long mode)
     {
-        ActivityLog::shared().record("batterySaver", {{"mode", mode}});
-        DeviceState::shared().battery.lowPower = mode != 0;
-        if (Shell* shell = Shell::current())
-            shell->deviceChanged();
+        switchLowPower(mode);
+        return mode;
+    }
+};
+
+struct _PMLowPowerMode : StandIn {
+    using Root = _PMLowPowerMode;
+
+    bool setPowerMode(long mode, const NS::Object&)
+    {
+        switchLowPower(mode);
         return true;
     }
 };
@@ -56,11 +71,20 @@ static const StandInClass fbSystemService("FBSystemService", "NSObject", [](Bind
         .add();
 });
 
-static const StandInClass cdBatterySaver("_CDBatterySaver", "NSObject", [](Binder<_CDBatterySaver>& binder) {
-    binder.classMethod<"batterySaver", &sharedObject<CD::BatterySaver>>()
-        .def<"getPowerMode", &_CDBatterySaver::powerMode>()
-        .def<"setMode:", &_CDBatterySaver::setMode>()
-        .add();
-});
+static const StandInClass cdBatterySaver("_CDBatterySaver", "NSObject",
+    BroughtBy{"/System/Library/PrivateFrameworks/CoreDuet.framework/CoreDuet"}, [](Binder<_CDBatterySaver>& binder) {
+        binder.classMethod<"batterySaver", &sharedObject<CD::BatterySaver>>()
+            .def<"getPowerMode", &_CDBatterySaver::powerMode>()
+            .def<"setMode:", &_CDBatterySaver::setMode>()
+            .add();
+    });
+
+static const StandInClass pmLowPowerMode("_PMLowPowerMode", "NSObject",
+    BroughtBy{"/System/Library/PrivateFrameworks/LowPowerMode.framework/LowPowerMode"},
+    [](Binder<_PMLowPowerMode>& binder) {
+        binder.classMethod<"sharedInstance", &sharedObject<PM::LowPowerMode>>()
+            .def<"setPowerMode:fromSource:", &_PMLowPowerMode::setPowerMode>()
+            .add();
+    });
 
 }

@@ -10,7 +10,7 @@ namespace Simulator {
 namespace {
 
 struct CSTeachableMomentsContainerViewController : UIViewController {
-    void viewDidLoad()
+    void addParts() override
     {
         m_label = makeLabel("", 15, FontWeight::medium, UI::Color::whiteColor());
         m_label.setTextAlignment(UI::TextAlignment::center);
@@ -24,7 +24,7 @@ struct CSTeachableMomentsContainerViewController : UIViewController {
         self().send<void, "_updateText:">(canSwipe ? "Swipe up to open"_ns : "Press home to open"_ns);
     }
 
-    void viewDidLayoutSubviews() { m_label.setFrame(self<UI::ViewController>().view().bounds()); }
+    void placeParts() override { m_label.setFrame(self<UI::ViewController>().view().bounds()); }
     void updateText(const NS::String& text) { m_label.setText(text); }
 
 private:
@@ -34,10 +34,8 @@ private:
 }
 
 static const StandInClass csTeachableMomentsContainerViewController("CSTeachableMomentsContainerViewController",
-    "UIViewController", [](Binder<CSTeachableMomentsContainerViewController>& binder) {
-        binder.def<"viewDidLoad", &CSTeachableMomentsContainerViewController::viewDidLoad>()
-            .def<"viewWillAppear:", &CSTeachableMomentsContainerViewController::viewWillAppear>()
-            .def<"viewDidLayoutSubviews", &CSTeachableMomentsContainerViewController::viewDidLayoutSubviews>()
+    "CSCoverSheetViewControllerBase", [](Binder<CSTeachableMomentsContainerViewController>& binder) {
+        binder.def<"viewWillAppear:", &CSTeachableMomentsContainerViewController::viewWillAppear>()
             .def<"_updateText:", &CSTeachableMomentsContainerViewController::updateText>()
             .add();
     });

@@ -12,9 +12,8 @@ constexpr long aspectFill = 2;
 
 }
 
-void SBFStaticWallpaperView::initWithFrame(CGRect frame)
+void SBFStaticWallpaperView::addParts()
 {
-    UIImageView::initWithFrame(frame);
     contentMode = aspectFill;
     setClipsToBounds(true);
     reload();
@@ -32,13 +31,13 @@ Graphics::LayerContent SBFStaticWallpaperView::layerContent() const
 void SBFStaticWallpaperView::reload()
 {
     const OwnWork own;
-    self<UI::ImageView>().setImage(
-        UI::Image::imageWithContentsOfFile("/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"_ns));
+    setImage(UI::Image::imageWithContentsOfFile("/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"_ns));
 }
 
+static const StandInClass sbfWallpaperView(
+    "SBFWallpaperView", "UIView", [](Binder<UIView>& binder) { binder.add(); });
+
 static const StandInClass sbfStaticWallpaperView(
-    "SBFStaticWallpaperView", "UIImageView", [](Binder<SBFStaticWallpaperView>& binder) {
-        binder.init<"initWithFrame:", &SBFStaticWallpaperView::initWithFrame>().add();
-    });
+    "SBFStaticWallpaperView", "SBFWallpaperView", [](Binder<SBFStaticWallpaperView>& binder) { binder.add(); });
 
 }

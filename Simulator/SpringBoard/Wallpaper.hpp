@@ -6,7 +6,7 @@
 namespace Simulator {
 
 struct SBFStaticWallpaperView : UIImageView {
-    void initWithFrame(CGRect frame);
+    void addParts() override;
     Graphics::LayerContent layerContent() const override;
     /// Reads the picture's file again.
     void reload();

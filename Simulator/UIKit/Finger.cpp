@@ -54,7 +54,7 @@ void Finger::collectRecognizers()
     m_recognizers.clear();
     for (const UIView* view = standInOrNull<UIView>(touch().view); view; view = view->parent) {
         for (const UI::GestureRecognizer& recognizer : view->recognizers) {
-            if (recognizer.isEnabled())
+            if (recognizer.isEnabled() && standIn<UIGestureRecognizer>(recognizer.raw()).mayReceive(m_touch))
                 m_recognizers.push_back(recognizer);
         }
     }

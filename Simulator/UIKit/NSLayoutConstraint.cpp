@@ -2,6 +2,7 @@
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
+#include "Simulator/Foundation/Exceptions.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIView.hpp"
 
@@ -64,6 +65,16 @@ void solve(double& origin, double& length, std::optional<double> low, std::optio
         origin = *high - length;
 }
 
+const UIView& rootOf(const UIView& view)
+{
+    return view.parent ? rootOf(*view.parent) : view;
+}
+
+bool haveCommonAncestor(const UIView& left, const UIView& right)
+{
+    return &rootOf(left) == &rootOf(right);
+}
+
 }
 
 NS::LayoutAnchor makeAnchor(const UI::View& view, LayoutEdge edge)
@@ -116,6 +127,8 @@ void NSLayoutConstraint::setActive(bool wanted)
 {
     if (active == wanted || !placed)
         return;
+    if (wanted && !haveCommonAncestor(*placed, *other))
+        raiseException("NSGenericException", "a constraint between views without a common ancestor was activated");
     active = wanted;
     const auto kept = self<NS::LayoutConstraint>();
     if (placed->parent)

@@ -3,6 +3,7 @@
 
 #include "Simulator/CoreGraphics/CFBase.hpp"
 #include "Simulator/CoreGraphics/Fonts.hpp"
+#include "Simulator/Foundation/Exceptions.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 
 #include <array>
@@ -67,8 +68,8 @@ UI::Font makeFont(const std::shared_ptr<const Graphics::Font>& font, double size
 
 UI::Font UIFont::withName(const NS::String& name, double size)
 {
-    if (!name.is<NS::String>())
-        return {};
+    if (!name)
+        raiseException("NSInvalidArgumentException", "+[UIFont fontWithName:size:]: nil argument");
     const auto font = fontCatalogue().find(name.utf8());
     return font ? makeFont(font, size) : UI::Font();
 }

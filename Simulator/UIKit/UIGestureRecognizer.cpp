@@ -47,6 +47,14 @@ void UIGestureRecognizer::setEnabled(bool wanted)
         reset();
 }
 
+bool UIGestureRecognizer::mayReceive(const NS::Object& touch) const
+{
+    const NS::Object asked = delegate();
+    if (!asked.respondsTo<"gestureRecognizer:shouldReceiveTouch:">())
+        return true;
+    return asked.send<bool, "gestureRecognizer:shouldReceiveTouch:">(self(), touch);
+}
+
 void UIGestureRecognizer::follow(const UITouch& touch)
 {
     m_location = touch.location;
@@ -93,6 +101,8 @@ void UIGestureRecognizer::changeState(State next)
     const auto kept = self();
     if (isFirst)
         Finger::shared().recognized(*this);
+    if (stockAction)
+        stockAction(next);
     for (const ActionTarget& target : std::vector(m_targets))
         sendAction(target, kept, {});
 }
@@ -115,6 +125,8 @@ static const StandInClass uiGestureRecognizer(
             .def<"locationInView:", &Recognizer::locationInView>()
             .readonly<"isEnabled", &Recognizer::enabled>()
             .def<"setEnabled:", &Recognizer::setEnabled>()
+            .def<"delegate", &Recognizer::delegate>()
+            .def<"setDelegate:", &Recognizer::setDelegate>()
             .property<"cancelsTouchesInView", "setCancelsTouchesInView:", &Recognizer::cancelsTouchesInView>()
             .def<"touchesBegan:withEvent:", &Recognizer::touchesBegan>()
             .def<"touchesMoved:withEvent:", &Recognizer::touchesMoved>()

@@ -5,6 +5,7 @@
 #include "Simulator/UIKit/ActionTarget.hpp"
 #include "Simulator/UIKit/UITouch.hpp"
 
+#include <functional>
 #include <vector>
 
 namespace Simulator {
@@ -27,6 +28,10 @@ struct UIGestureRecognizer : StandIn {
     UI::View view() const;
     CGPoint locationInView(const UI::View& view) const;
     void setEnabled(bool enabled);
+    NS::Object delegate() const { return NS::Object(m_delegate); }
+    void setDelegate(const NS::Object& delegate) { m_delegate = delegate.raw(); }
+    /// Whether its delegate lets it have the touch; without one it may.
+    bool mayReceive(const NS::Object& touch) const;
 
     void touchesBegan(const NS::Object& touches, const NS::Object& event);
     void touchesMoved(const NS::Object& touches, const NS::Object& event);
@@ -42,6 +47,8 @@ struct UIGestureRecognizer : StandIn {
     /// Whether the touch still means something to it.
     bool isInterested() const { return state == State::possible || state == State::began || state == State::changed; }
 
+    /// What the stock shell does at a change, for which it has no message of a known name.
+    std::function<void(State)> stockAction;
     State state = State::possible;
     bool enabled = true;
     bool cancelsTouchesInView = true;
@@ -54,6 +61,8 @@ private:
     std::vector<ActionTarget> m_targets;
     CGPoint m_location;
     UI::View m_window;
+    /// Not retained.
+    id m_delegate = nullptr;
 };
 
 }

@@ -146,6 +146,9 @@ Graphics::Text UILabel::graphicsText() const
         drawn.attachment = attachmentOf(run);
         drawn.string = std::move(run.string);
     }
+    // Some systems do so; which ones is not known.
+    if (!result.runs.empty() && result.runs.front().attachment && result.runs.front().attachment->isTemplate)
+        result.runs.front().color = {0, 0, 0, result.runs.front().color.a};
     if (!enabled) {
         for (Graphics::TextRun& run : result.runs)
             run.color.a *= disabledOpacity;

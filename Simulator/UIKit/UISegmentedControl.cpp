@@ -3,6 +3,7 @@
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
 #include "Simulator/Device/DeviceState.hpp"
+#include "Simulator/Foundation/Exceptions.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/AttributedRuns.hpp"
 #include "Simulator/UIKit/ControlDrawing.hpp"
@@ -105,7 +106,10 @@ void UISegmentedControl::setImageForSegment(const UI::Image& image, unsigned lon
 
 void UISegmentedControl::setSelectedSegmentIndex(long index)
 {
-    selectedSegmentIndex = index >= 0 && index < static_cast<long>(m_segments.size()) ? index : noSegment;
+    if (index < noSegment || index >= static_cast<long>(m_segments.size()))
+        raiseException("NSRangeException", "-[UISegmentedControl setSelectedSegmentIndex:]: there is no segment "
+                + std::to_string(index));
+    selectedSegmentIndex = index;
 }
 
 NS::Dictionary UISegmentedControl::titleTextAttributes(unsigned long state) const

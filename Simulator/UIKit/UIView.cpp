@@ -7,23 +7,22 @@
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
+#include "Simulator/Foundation/Exceptions.hpp"
 #include "Simulator/UIKit/UIGestureRecognizer.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/UIViewController.hpp"
 #include "Simulator/UIKit/ViewAnimation.hpp"
 
 #include <algorithm>
-#include <cstdio>
 
 namespace Simulator {
 
-/// On the phone a geometry that is no number ends the shell; here it is named and left out.
-static bool isUsable(bool isFinite, const UIView& view, const char* property)
+/// A geometry that is no number ends the shell.
+static void refuseUnless(bool isFinite, const UIView& view, const char* property)
 {
     if (!isFinite)
-        std::fprintf(stderr, "lyr: %s of a %s has a component that is no finite number; it stays as it was\n", property,
-            view.className().c_str());
-    return isFinite;
+        raiseException("CALayerInvalidGeometry",
+            std::string(property) + " of a " + view.className() + " has a component that is no finite number");
 }
 
 UIView::~UIView()
@@ -49,8 +48,9 @@ void UIView::init()
 
 void UIView::initWithFrame(CGRect frame)
 {
-    if (isUsable(isFinite(frame), *this, "the frame"))
-        properties.setFrame(frame);
+    refuseUnless(isFinite(frame), *this, "the frame");
+    properties.setFrame(frame);
+    addParts();
 }
 
 LayerProperties& UIView::changing()
@@ -61,8 +61,7 @@ LayerProperties& UIView::changing()
 
 void UIView::setFrame(CGRect frame)
 {
-    if (!isUsable(isFinite(frame), *this, "the frame"))
-        return;
+    refuseUnless(isFinite(frame), *this, "the frame");
     const CGSize previous = properties.bounds.size;
     changing().setFrame(frame);
     boundsChangedFrom(previous);
@@ -70,8 +69,7 @@ void UIView::setFrame(CGRect frame)
 
 void UIView::setBounds(CGRect bounds)
 {
-    if (!isUsable(isFinite(bounds), *this, "the bounds"))
-        return;
+    refuseUnless(isFinite(bounds), *this, "the bounds");
     const CGRect previous = properties.bounds;
     changing().bounds = bounds;
     needsLayout |= previous.origin != bounds.origin;
@@ -80,14 +78,14 @@ void UIView::setBounds(CGRect bounds)
 
 void UIView::setCenter(CGPoint center)
 {
-    if (isUsable(isFinite(center), *this, "the center"))
-        changing().position = center;
+    refuseUnless(isFinite(center), *this, "the center");
+    changing().position = center;
 }
 
 void UIView::setTransform(CGAffineTransform transform)
 {
-    if (isUsable(toGraphics(transform).isFinite(), *this, "the transform"))
-        changing().transform = transform;
+    refuseUnless(toGraphics(transform).isFinite(), *this, "the transform");
+    changing().transform = transform;
 }
 
 void UIView::setAlpha(double alpha)

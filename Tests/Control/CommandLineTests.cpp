@@ -26,7 +26,7 @@ TEST(CommandLine, SaysEverythingOnHelp)
     EXPECT_EQ(finished.errors, "");
     for (const char* word : {"render", "serve", "--stdio", "--settings", "--colours", "--wallpaper", "--screen",
              "--time", "--time-zone", "--locale", "--language", "--style", "--font", "--device", "--bare", "--strict",
-             "--verbose", "-o", "--version", "WxH@S"})
+             "--system", "--verbose", "-o", "--version", "WxH@S"})
         EXPECT_NE(finished.output.find(word), std::string::npos) << word;
     EXPECT_EQ(finished.output.find("--fd"), std::string::npos);
 }
@@ -50,6 +50,7 @@ TEST(CommandLine, RefusesBadUsageInOneLine)
     expectBadUsage({"render", "-o", "a.png", "--time", "noon"}, "noon");
     expectBadUsage({"render", "-o", "a.png", "--time-zone", "Mars/Olympus"}, "Mars/Olympus");
     expectBadUsage({"render", "-o", "a.png", "--style", "grey"}, "grey");
+    expectBadUsage({"render", "-o", "a.png", "--system", "12.0"}, "12.0");
     expectBadUsage({"render", "-o", "a.png", "--language", "e"}, "\"e\"");
     expectBadUsage({"render", "-o", "a.png", "--bare", "--device", "d.json"}, "--bare");
     expectBadUsage({"preview", "--device", "d.json", "--bare"}, "--bare");

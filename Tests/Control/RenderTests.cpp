@@ -67,9 +67,10 @@ protected:
 TEST_F(Render, StartsAPhoneWithWhatTheOptionsSay)
 {
     EXPECT_EQ(startedWith({"--bare", "--screen", "414x896@2", "--time", "2020-11-15T21:41:00", "--time-zone",
-                  "Asia/Jerusalem", "--locale", "he_IL", "--language", "he", "--language", "en", "--style", "dark"}),
+                  "Asia/Jerusalem", "--locale", "he_IL", "--language", "he", "--language", "en", "--style", "dark",
+                  "--system", "15.0"}),
         Json::parse(R"({"clock":"virtual","screen":{"width":414,"height":896,"scale":2},"time":"2020-11-15T21:41:00",
-            "timeZone":"Asia/Jerusalem","locale":"he_IL","languages":["he","en"],"style":"dark"})"));
+            "timeZone":"Asia/Jerusalem","locale":"he_IL","languages":["he","en"],"style":"dark","system":"15.0"})"));
 }
 
 TEST_F(Render, StartsAPhoneInUse)

@@ -231,7 +231,7 @@ TEST(Counts, AStockPhoneCountsNothing)
     phone.call("phone.wake");
     phone.settle();
     const Json counts = takeCounts(phone);
-    EXPECT_EQ(counts.size(), 6u);
+    EXPECT_EQ(counts.size(), 7u);
     for (const auto& [name, count] : counts.items())
         EXPECT_EQ(count, 0) << name;
 }

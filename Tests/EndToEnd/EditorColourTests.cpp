@@ -96,6 +96,7 @@ void touchThePlaceOf(Phone& phone, const std::string& view)
 Phone onColours(const EditorTab& tab, const Support::PhoneStart& start)
 {
     auto phone = editing(start);
+    givePages(phone);
     choose(phone, tab, colourSegment);
     return phone;
 }

@@ -19,6 +19,16 @@ inline Support::PhoneStart editorPhone(const Json& settings = Json::object())
     return eveningPhone(settings).colours(Json::object()).withoutWallpaper();
 }
 
+/// Gives the settings pages to the shell, as root has them on a phone.
+inline void givePages(Phone& phone)
+{
+    for (const char* page : {"subTime", "subDate", "subWidget"}) {
+        const std::string path = std::string("/Library/PreferenceBundles/LYRPrefs.bundle/") + page + ".plist";
+        const Json file = phone.call("file.read", {{"path", path}});
+        phone.call("file.write", {{"path", path}, {"base64", file.at("base64")}, {"owner", "mobile"}});
+    }
+}
+
 /// The phone with its editor open; the log tells only what follows.
 inline Phone editing(const Support::PhoneStart& start = editorPhone())
 {

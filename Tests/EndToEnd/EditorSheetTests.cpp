@@ -22,6 +22,7 @@ constexpr const char* overlayViews[] = {"_optionView", "_done", "_timeButton", "
 Phone withSheet(const Support::PhoneStart& start = editorPhone(), const EditorTab& tab = timeTab)
 {
     auto phone = editing(start);
+    givePages(phone);
     choose(phone, tab, colourSegment);
     phone.tap("_showWell");
     phone.settle(1);

@@ -11,6 +11,9 @@ using Support::Rectangle;
 
 inline constexpr const char* evening = "2020-11-15T21:41:00";
 
+/// The systems that a simulated phone may have.
+inline constexpr const char* systems[] = {"13.4", "14.0", "15.0", "16.0"};
+
 inline Support::PhoneStart eveningPhone(const Json& settings = Json::object())
 {
     return Phone::at(evening).settings(settings);

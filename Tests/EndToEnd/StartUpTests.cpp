@@ -1,6 +1,7 @@
 // What happens when the shell loads the library, and in which order.
 #include "Tests/EndToEnd/Scenario.hpp"
 
+#include <algorithm>
 #include <csignal>
 
 namespace {
@@ -83,6 +84,19 @@ std::vector<Row> axonTable(const std::string& className)
     return {{className, "initWithFrame:", "hook"}, {className, "axonCheck:", "added"}};
 }
 
+/// What some systems have, and others not.
+std::vector<Row> furtherTable()
+{
+    const std::string sheet = "CSCoverSheetViewController";
+    const std::string date = "SBFLockScreenDateView";
+    return joined({withKind(sheet, "hook", {"viewDidAppear:"}), withKind("CSCoverSheetView", "hook", {"layoutSubviews"}),
+        withKind(date, "hook", {"setContentAlpha:withSubtitleVisible:", "setTimeAlpha:subtitleAlpha:"}),
+        withKind("SBFLockScreenDateViewController", "hook", {"updateTimerWithText:"}),
+        withKind("NCNotificationListSectionRevealHintView", "hook", {"_configureRevealHintTitleIfNecessary"}),
+        withKind(sheet, "hook", {"_transitionChargingViewToVisible:suppressedByPack:showBattery:animated:"}),
+        withKind("SBLockScreenManager", "hook", {"lockUIFromSource:withOptions:completion:"})});
+}
+
 std::vector<Row> hooksOf(Phone& phone)
 {
     std::vector<Row> rows;
@@ -117,13 +131,13 @@ std::string propertyList(const std::string& content)
 TEST(StartUp, InstallsEveryInterceptionInItsOrder)
 {
     auto phone = eveningPhone().start();
-    EXPECT_EQ(hooksOf(phone), joined({mainTable(), axonTable("")}));
+    EXPECT_EQ(hooksOf(phone), joined({mainTable(), axonTable(""), furtherTable()}));
 }
 
 TEST(StartUp, WithTheHeaderSwitchItsTableFollowsTheMainOne)
 {
     auto phone = eveningPhone({{"hideNotifHeader", true}}).start();
-    EXPECT_EQ(hooksOf(phone), joined({mainTable(), headerTable(), axonTable("")}));
+    EXPECT_EQ(hooksOf(phone), joined({mainTable(), headerTable(), axonTable(""), furtherTable()}));
 }
 
 TEST(StartUp, SwitchedOffItInstallsTheAxonTableAlone)
@@ -143,10 +157,12 @@ TEST(StartUp, SwitchedOffItStillHidesTheHeaderIfThatIsAskedFor)
 TEST(StartUp, TheAxonTableFindsItsClassWhereThatExtensionIsInstalled)
 {
     auto phone = eveningPhone().installed({"Axon"}).start();
-    EXPECT_EQ(hooksOf(phone), joined({mainTable(), axonTable("AXNView")}));
-    auto last = phone.call("objc.hooks").at("hooks").back();
-    EXPECT_EQ(last.at("types"), "v@:@");
-    EXPECT_EQ(last.at("resolved"), true);
+    EXPECT_EQ(hooksOf(phone), joined({mainTable(), axonTable("AXNView"), furtherTable()}));
+    const Json hooks = phone.call("objc.hooks").at("hooks");
+    const auto added = std::ranges::find_if(hooks, [](const Json& hook) { return hook.at("selector") == "axonCheck:"; });
+    ASSERT_NE(added, hooks.end());
+    EXPECT_EQ(added->at("types"), "v@:@");
+    EXPECT_EQ(added->at("resolved"), true);
 }
 
 TEST(StartUp, AddedMethodsCarryTypeStringsMadeOfTheirArguments)
@@ -182,7 +198,9 @@ TEST(StartUp, OpensTheCompanionLibrariesFirst)
         opened.push_back(record.at("path"));
     EXPECT_EQ(opened,
         (std::vector<std::string>{"/Library/MobileSubstrate/DynamicLibraries/AFont.dylib",
-            "/System/Library/PrivateFrameworks/Weather.framework/Weather"}));
+            "/System/Library/PrivateFrameworks/Weather.framework/Weather",
+            "/Library/Frameworks/Cephei.framework/Cephei", "/usr/lib/libsparkcolourpicker.dylib",
+            "/usr/lib/libweatherlyr.dylib"}));
 }
 
 TEST(StartUp, ARestartRequestReallyRestartsTheShellProcess)

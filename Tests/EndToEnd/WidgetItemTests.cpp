@@ -176,7 +176,8 @@ TEST(WeatherIcon, TakesTheTextsColourUnlessItKeepsItsOwn)
         auto phone = settled(stripPhone({{"colourIconWeather", coloured}, {"dateOption", "1"}}).weather(weather));
         for (const char* id : {"_conditionLabel", "_dateLabel"}) {
             const Json icon = phone.label(id).runs.back();
-            EXPECT_EQ(icon.at("template"), coloured) << id;
+            // A template at the beginning of a text is black on some systems, so the colour is in the picture there.
+            EXPECT_EQ(icon.at("template"), coloured && id != std::string("_conditionLabel")) << id;
         }
     }
 }

@@ -96,3 +96,44 @@ TEST_F(PhoneFilesTest, RecordsWhatTheShellWritesButNotWhatTheTesterPuts)
     files.write("/none/b", "1", WriteMode::atomic);
     EXPECT_EQ(record, (std::vector<std::pair<std::string, int>>{{"/Library/b", 0}, {"/none/b", ENOENT}}));
 }
+
+TEST_F(PhoneFilesTest, TheShellChangesWhatIsTheUsersAlone)
+{
+    files.createFolder("/Library/Fonts", true);
+    files.createFolder("/var/mobile/Library", true);
+    ASSERT_EQ(files.put("/Library/Fonts/a", "1"), 0);
+    files.runAsMobile();
+    for (const WriteMode mode : {WriteMode::direct, WriteMode::atomic}) {
+        EXPECT_EQ(files.write("/Library/Fonts/a", "2", mode), EACCES);
+        EXPECT_EQ(files.write("/Library/Fonts/b", "2", mode), EACCES);
+        EXPECT_EQ(files.write("/var/mobile/Library/a", "2", mode), 0);
+    }
+    EXPECT_EQ(files.remove("/Library/Fonts/a"), EACCES);
+    EXPECT_EQ(files.rename("/var/mobile/Library/a", "/Library/Fonts/b"), EACCES);
+    EXPECT_EQ(files.createFolder("/Library/New", false), EACCES);
+    EXPECT_EQ(files.read("/Library/Fonts/a").value, "1");
+    EXPECT_EQ(files.put("/Library/Fonts/a", "3"), 0) << "a tester's hand is root's";
+}
+
+TEST_F(PhoneFilesTest, WhatIsGivenToTheUserTheShellChanges)
+{
+    ASSERT_EQ(files.put("/Library/Fonts/a", "1"), 0);
+    files.runAsMobile();
+    files.give("/Library/Fonts/a", FileOwner::mobile);
+    for (const WriteMode mode : {WriteMode::direct, WriteMode::atomic})
+        EXPECT_EQ(files.write("/Library/Fonts/a", "2", mode), 0);
+    files.give("/Library/Fonts/a", FileOwner::root);
+    EXPECT_EQ(files.write("/Library/Fonts/a", "3", WriteMode::direct), EACCES);
+}
+
+TEST_F(PhoneFilesTest, BeforeTheFirstUnlockTheUsersFilesAreThereAndCannotBeRead)
+{
+    ASSERT_EQ(files.put("/var/mobile/Library/a", "1"), 0);
+    ASSERT_EQ(files.put("/Library/b", "2"), 0);
+    files.setUnlockedOnce(false);
+    EXPECT_EQ(files.read("/var/mobile/Library/a").error, EPERM);
+    EXPECT_TRUE(files.exists("/var/mobile/Library/a"));
+    EXPECT_EQ(files.read("/Library/b").value, "2");
+    files.setUnlockedOnce(true);
+    EXPECT_EQ(files.read("/var/mobile/Library/a").value, "1");
+}

@@ -48,10 +48,10 @@ ObjC::Object json(const std::string& text, unsigned long options = 0)
 
 }
 
-TEST_F(NSObject, AnswersNilForAnUnknownKeyOnlyIfAskedSafely)
+// The form that answers nil instead belongs to the framework for accessibility, which the shell has not loaded.
+TEST_F(NSObject, RaisesForAnUnknownKeyAndHasNoSafeForm)
 {
-    EXPECT_FALSE(target.safeValueForKey<ObjC::Object>("nope"_ns));
-    EXPECT_FALSE(target.safeValueForKey<ObjC::Object>(NS::String()));
+    EXPECT_FALSE(target.respondsTo<"safeValueForKey:">());
     EXPECT_ANY_THROW(target.valueForKey<ObjC::Object>("nope"_ns));
 }
 
@@ -59,7 +59,6 @@ TEST_F(NSObject, ReachesInstanceVariablesByKey)
 {
     standIn<MessageTarget>(target.raw()).setIvar("_kept", "value"_ns);
     EXPECT_EQ(textOf(target.valueForKey<NS::String>("kept"_ns)), "value");
-    EXPECT_EQ(textOf(target.safeValueForKey<NS::String>("_kept"_ns)), "value");
 }
 
 TEST_F(NSObject, GetsDelayedMessagesOnThePhonesLoop)
@@ -116,9 +115,6 @@ TEST_F(NSObject, JsonIsReadAsStrictlyAsOnThePhone)
         {"", " ", "{", "[1,", "nul", "{\"a\":}", "[1]]", "[1] x", "{'a':1}", "[1}", "\"open", "[\"\\", "\"x\"", "12"})
         EXPECT_FALSE(json(text)) << text;
     EXPECT_FALSE(json(std::string(300000, '[')));
-    EXPECT_FALSE(
-        (classNamed("NSJSONSerialization")
-                .send<ObjC::Object, "JSONObjectWithData:options:error:">(NS::Data(), 0UL, static_cast<id*>(nullptr))));
     EXPECT_EQ(textOf(NS::Object(json("\"x\"", 4)).as<NS::String>()), "x");
     EXPECT_TRUE(json(std::string(500, '[') + std::string(500, ']')));
 }

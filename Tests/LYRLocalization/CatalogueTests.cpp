@@ -101,10 +101,11 @@ TEST_F(Catalogue, TakesAnotherLanguageAndOtherTexts)
     EXPECT_EQ(textOf(catalogue.getLanguage()), "tlh");
     EXPECT_EQ(textOf(catalogue.send<NS::String, "language">()), "tlh");
     auto texts = NS::MutableDictionary::dictionary();
-    catalogue.setTranslations(texts);
-    EXPECT_EQ(catalogue.translations(), texts);
     texts.setObject("HIja'"_ns, "yes"_ns);
+    catalogue.setTranslations(texts);
     EXPECT_EQ(textFor(catalogue, "yes"), "HIja'");
+    texts.setObject("ghobe'"_ns, "yes"_ns);
+    EXPECT_EQ(textFor(catalogue, "yes"), "HIja'") << "it has a copy: what looks as if it could be changed may not be";
 }
 
 TEST_F(Catalogue, CanAddToTextsThatWereGivenUnchangeable)
@@ -138,6 +139,7 @@ TEST_F(Catalogue, ReleasesWhatItHeldWhenItGoes)
     auto name = stringOf("a language of no file");
     auto retains
         = [&] { return texts.send<unsigned long, "retainCount">() + name.send<unsigned long, "retainCount">(); };
+    texts.setObject(name, "yes"_ns);
     auto before = retains();
     {
         ObjC::AutoreleasePool inner;
@@ -145,7 +147,7 @@ TEST_F(Catalogue, ReleasesWhatItHeldWhenItGoes)
         catalogue.setTranslations(texts);
         catalogue.setTranslations(texts);
         catalogue.setLanguage(name);
-        EXPECT_EQ(retains(), before + 2);
+        EXPECT_GT(retains(), before);
     }
     EXPECT_EQ(retains(), before);
 }

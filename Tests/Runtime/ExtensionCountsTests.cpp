@@ -23,7 +23,7 @@ TEST_F(Counts, AreTakenByNameAndStartAgainFromZero)
     counts.add(Count::alarmReads, 3);
     EXPECT_EQ(counts.take(),
         (ExtensionCounts::Json{{"fontRegistrations", 0}, {"fileOpens", 1}, {"calendarStores", 0},
-            {"calendarQueries", 0}, {"weatherRequests", 0}, {"alarmReads", 3}}));
+            {"calendarQueries", 0}, {"weatherRequests", 0}, {"alarmReads", 3}, {"preferenceReads", 0}}));
     EXPECT_EQ(counts.take().at("alarmReads"), 0);
 }
 

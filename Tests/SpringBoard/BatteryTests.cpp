@@ -1,6 +1,7 @@
 // The battery in the status bar and the device's own reading of it.
 #include "Platform/UIKit/UIDevice.hpp"
 #include "ShellTest.hpp"
+#include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/SpringBoard/BatteryView.hpp"
 #include "Spy.hpp"
 
@@ -16,7 +17,7 @@ TEST_F(StockBattery, ShowsTheDevicesBattery)
     DeviceState::shared().battery = {0.5, BatteryState::charging, true};
     start();
     EXPECT_EQ(shown().chargePercent, 0.5);
-    EXPECT_TRUE(shown().charging);
+    EXPECT_TRUE(shown().chargingState == 1);
     EXPECT_TRUE(shown().saverModeActive);
 }
 
@@ -47,16 +48,17 @@ TEST_F(StockBattery, IsWhatTheDeviceTells)
 TEST_F(StockBattery, SwitchesItsSaverByTheSystemsService)
 {
     start();
+    bringClassesOf("/System/Library/PrivateFrameworks/CoreDuet.framework/CoreDuet");
     const auto saver = ObjC::sendMessage<NS::Object>(
         reinterpret_cast<id>(objc_getClass("_CDBatterySaver")), ObjC::selector<"batterySaver">());
-    saver.send<bool, "setMode:">(1);
+    saver.send<long, "setMode:">(1L);
     EXPECT_TRUE(DeviceState::shared().battery.lowPower);
     EXPECT_TRUE(shown().saverModeActive);
     const auto records = ActivityLog::shared().take();
     ASSERT_EQ(records.size(), 1u);
     EXPECT_EQ(records[0]["kind"], "batterySaver");
     EXPECT_EQ(records[0]["mode"], 1);
-    saver.send<bool, "setMode:">(0);
+    saver.send<long, "setMode:">(0L);
     EXPECT_FALSE(shown().saverModeActive);
 }
 

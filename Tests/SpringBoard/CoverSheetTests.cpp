@@ -85,13 +85,13 @@ TEST_F(CoverSheet, GivesThePlaceOfTheIdleTimer)
     const ObjC::Object manager = shell().instance("SBCoverSheetPresentationManager");
     const auto controller = manager.send<NS::Object, "coverSheetViewController">();
     const auto idleTimer = controller.send<NS::Object, "idleTimerController">();
-    const auto provider = idleTimer.safeValueForKey<NS::Object>("_idleTimerProvider"_ns);
+    const auto provider = idleTimer.ivar<NS::Object>("_dashBoardIdleTimerProvider");
     ASSERT_TRUE(provider);
     provider.send<void, "addDisabledIdleTimerAssertionReason:">("reading"_ns);
     provider.send<void, "addDisabledIdleTimerAssertionReason:">("reading"_ns);
-    EXPECT_TRUE((provider.send<bool, "isIdleTimerDisabled">()));
+    EXPECT_TRUE((provider.send<bool, "isDisabledAssertionActiveForReason:">("reading"_ns)));
     provider.send<void, "removeDisabledIdleTimerAssertionReason:">("reading"_ns);
-    EXPECT_FALSE((provider.send<bool, "isIdleTimerDisabled">()));
+    EXPECT_FALSE((provider.send<bool, "isDisabledAssertionActiveForReason:">("reading"_ns)));
     const auto records = ActivityLog::shared().take();
     ASSERT_EQ(records.size(), 3u);
     EXPECT_EQ(records[0]["kind"], "idleTimer");

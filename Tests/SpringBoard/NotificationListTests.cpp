@@ -78,7 +78,8 @@ TEST_F(NotificationList, AnswersWhetherItsHeaderIsHidden)
 {
     start();
     const UI::View header = view("stock.notificationHeader");
-    EXPECT_FALSE((header.send<bool, "hidden">()));
+    EXPECT_FALSE(header.isHidden());
     header.setHidden(true);
-    EXPECT_TRUE((header.send<bool, "hidden">()));
+    EXPECT_TRUE(header.isHidden());
+    EXPECT_FALSE(header.respondsTo<"hidden">()) << "no system has it";
 }

@@ -18,7 +18,7 @@ TEST_F(StockClock, ShowsTimeAndDateInTheLocale)
 
 TEST_F(StockClock, FollowsLocaleAndTimeZone)
 {
-    PhoneLocale::shared() = {"de_DE", "Asia/Jerusalem", {"de"}};
+    PhoneLocale::shared() = {"de_DE", "Asia/Jerusalem", {"de"}, {}};
     start();
     EXPECT_EQ(text("stock.time"), "23:41");
     EXPECT_EQ(text("stock.subtitle"), "Sonntag, 15. November");

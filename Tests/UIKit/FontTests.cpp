@@ -67,8 +67,8 @@ TEST_F(Fonts, AFontOfNoSizeGetsTheFallback)
 TEST_F(Fonts, AnUnknownNameIsNoFont)
 {
     EXPECT_FALSE(UI::Font::fontWithName("NoSuchFont-Regular"_ns, 20));
-    EXPECT_FALSE(UI::Font::fontWithName({}, 20));
-    EXPECT_FALSE(UI::Font::fontWithName(NS::String(UI::Color::whiteColor().raw()), 20));
+    EXPECT_ANY_THROW(UI::Font::fontWithName({}, 20));
+    EXPECT_ANY_THROW(UI::Font::fontWithName(NS::String(UI::Color::whiteColor().raw()), 20));
     EXPECT_EQ(UI::Font::fontNamesForFamilyName({}).count(), 0u);
     EXPECT_EQ(UI::Font::fontNamesForFamilyName("NoSuchFamily"_ns).count(), 0u);
 }
@@ -138,16 +138,16 @@ TEST_F(Fonts, ASecondRegistrationFailsAndSaysWhy)
 TEST_F(Fonts, AFileIsRegisteredUnregisteredAndRegisteredAgain)
 {
     const auto url = urlOf(phoneFile);
-    EXPECT_TRUE(CTFontManagerRegisterFontsForURL(url.raw(), 0, nullptr));
+    EXPECT_TRUE(CTFontManagerRegisterFontsForURL(url.raw(), CTFontManagerScope::process, nullptr));
     EXPECT_TRUE(isKnown());
     id error = nullptr;
-    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(url.raw(), 0, &error));
+    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(url.raw(), CTFontManagerScope::process, &error));
     EXPECT_NE(described(error).find("error 105"), std::string::npos);
-    EXPECT_TRUE(CTFontManagerUnregisterFontsForURL(url.raw(), 0, nullptr));
+    EXPECT_TRUE(CTFontManagerUnregisterFontsForURL(url.raw(), CTFontManagerScope::process, nullptr));
     EXPECT_FALSE(isKnown());
-    EXPECT_FALSE(CTFontManagerUnregisterFontsForURL(url.raw(), 0, &error));
+    EXPECT_FALSE(CTFontManagerUnregisterFontsForURL(url.raw(), CTFontManagerScope::process, &error));
     EXPECT_NE(described(error).find("error 201"), std::string::npos);
-    EXPECT_TRUE(CTFontManagerRegisterFontsForURL(url.raw(), 0, nullptr));
+    EXPECT_TRUE(CTFontManagerRegisterFontsForURL(url.raw(), CTFontManagerScope::process, nullptr));
     const auto records = ActivityLog::shared().take();
     ASSERT_EQ(records.size(), 3u);
     EXPECT_EQ(records[0]["path"], phoneFile);
@@ -157,15 +157,15 @@ TEST_F(Fonts, AFileIsRegisteredUnregisteredAndRegisteredAgain)
 TEST_F(Fonts, AFileThatCannotBeReadIsNotRegistered)
 {
     id error = nullptr;
-    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf("/Library/None.ttf").raw(), 0, &error));
+    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf("/Library/None.ttf").raw(), CTFontManagerScope::process, &error));
     EXPECT_NE(described(error).find("error 101"), std::string::npos);
     put("/Library/Picture.ttf", png(1, 1));
-    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf("/Library/Picture.ttf").raw(), 0, &error));
+    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf("/Library/Picture.ttf").raw(), CTFontManagerScope::process, &error));
     EXPECT_NE(described(error).find("error 104"), std::string::npos);
     PhoneFiles::shared().setFault(phoneFile, FileOperation::read, EACCES);
-    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf(phoneFile).raw(), 0, nullptr));
-    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(nullptr, 0, nullptr));
-    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(UI::Color::whiteColor().raw(), 0, nullptr));
+    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf(phoneFile).raw(), CTFontManagerScope::process, nullptr));
+    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(nullptr, CTFontManagerScope::process, nullptr));
+    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(UI::Color::whiteColor().raw(), CTFontManagerScope::process, nullptr));
 }
 
 TEST_F(Fonts, NothingOfThemLeaks)

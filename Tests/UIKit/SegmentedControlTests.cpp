@@ -48,7 +48,8 @@ TEST_F(Segments, AreSelectedByTheirIndexWithoutAWord)
 {
     control.setSelectedSegmentIndex(2);
     EXPECT_EQ(control.selectedSegmentIndex(), 2);
-    control.setSelectedSegmentIndex(3);
+    EXPECT_ANY_THROW(control.setSelectedSegmentIndex(3));
+    control.setSelectedSegmentIndex(-1);
     EXPECT_EQ(control.selectedSegmentIndex(), -1);
     EXPECT_EQ(takeCalls(), Calls{});
 }

@@ -44,12 +44,13 @@ TEST_F(ViewGeometry, ATransformOfNoSizeKeepsTheBounds)
     EXPECT_EQ((view.send<CGPoint, "center">()), (CGPoint{50, 50}));
 }
 
-TEST_F(ViewGeometry, AGeometryThatIsNoNumberIsLeftOut)
+TEST_F(ViewGeometry, AGeometryThatIsNoNumberRaises)
 {
     const auto view = makeView({{10, 20}, {30, 40}});
-    view.setFrame({{std::nan(""), 0}, {1, 1}});
-    view.setBounds({{0, 0}, {INFINITY, 1}});
-    view.setTransform(CGAffineTransformMakeScale(std::nan(""), 1));
+    EXPECT_ANY_THROW(view.setFrame({{std::nan(""), 0}, {1, 1}}));
+    EXPECT_ANY_THROW(view.setBounds({{0, 0}, {INFINITY, 1}}));
+    EXPECT_ANY_THROW(view.setCenter({0, std::nan("")}));
+    EXPECT_ANY_THROW(view.setTransform(CGAffineTransformMakeScale(std::nan(""), 1)));
     EXPECT_EQ(view.frame(), CGRectMake(10, 20, 30, 40));
     EXPECT_EQ(view.transform(), CGAffineTransformIdentity);
 }

@@ -66,11 +66,12 @@ void SBFLockScreenDateView_updateLabels(SB::FLockScreenDateView self, SEL cmd)
     settleTimerAndDate();
 }
 
-/// The stock clock stays in the tree but never shows.
+/// The lock screen's stock clock stays in the tree but never shows. Other screens have date views of their own.
 void SBFLockScreenDateView_layoutSubviews(SB::FLockScreenDateView self, SEL cmd)
 {
     stock<SBFLockScreenDateView_layoutSubviews>(self, cmd);
-    self.ivar<SB::UILegibilityLabel>("_timeLabel").setHidden(true);
+    if (holdsClock(self))
+        setStockTimeHidden(self, true);
 }
 
 SB::FLockScreenDateView SBFLockScreenDateViewController_dateView(SB::FLockScreenDateViewController self, SEL cmd)

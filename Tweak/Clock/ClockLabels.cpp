@@ -67,6 +67,33 @@ void createClockLabels(const SB::FLockScreenDateViewController& controller)
     _timeBorderView->layer().setCornerRadius(15);
 }
 
+bool holdsClock(const SB::FLockScreenDateView& view)
+{
+    return _timeLabel && _timeLabel->superview() == view;
+}
+
+/// Since system 16 a controller of its own draws it, and the label is a leftover.
+void setStockTimeHidden(const SB::FLockScreenDateView& view, bool hidden)
+{
+    view.ivar<SB::UILegibilityLabel, "_timeLabel">().setHidden(hidden);
+    view.prominentDisplayViewController().view().setHidden(hidden);
+}
+
+void giveBackStockClock()
+{
+    for (const UI::View& view : {UI::View(_timeLabel), UI::View(_dateLabel), UI::View(_timerLabel),
+             _timeBorderView.get(), _dateBorderView.get()})
+        view.setHidden(true);
+    auto view = dateView->dateView();
+    setStockTimeHidden(view, false);
+    auto subtitle = view.subtitleView();
+    for (const auto& label : {subtitle.label(), subtitle.alternateDateLabel()}) {
+        if (label)
+            subtitle.addSubview(label);
+    }
+    view.setNeedsLayout();
+}
+
 void placeClockLabels(const SB::FLockScreenDateViewController& controller)
 {
     auto layout = screenLayout();

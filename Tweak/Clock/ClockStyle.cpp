@@ -8,6 +8,7 @@
 #include "Tweak/Fonts.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/State.hpp"
+#include "Tweak/StockMotion.hpp"
 #include "WKSPalette/WKSColorUtils.hpp"
 
 namespace LYR {
@@ -17,13 +18,14 @@ LYR_VARIABLE(ObjC::Variable<UI::Color>, _bgWallColor);
 LYR_VARIABLE(ObjC::Variable<UI::Color>, _primaryWallColor);
 LYR_VARIABLE(ObjC::Variable<UI::Color>, _secondaryWallColor);
 
-namespace {
-
-void applyAlpha()
+void fadeClockLabels()
 {
-    _timeLabel->setAlpha(_alphaTime.doubleValue());
-    _dateLabel->setAlpha(_alphaDate.doubleValue());
+    _timeLabel->setAlpha(_alphaTime.doubleValue() * stockMotion.timeAlpha);
+    _dateLabel->setAlpha(_alphaDate.doubleValue() * stockMotion.dateAlpha);
+    _timerLabel->setAlpha(stockMotion.dateAlpha);
 }
+
+namespace {
 
 /// The outlines are a little wider than the labels. The one of the date gets no vertical margin, unlike the other.
 void placeBorderViews()
@@ -99,19 +101,17 @@ void takeWallpaperColours()
     _secondaryWallColor = WKSColorUtils::colorWithMinimumSaturation(palette.detail(), 0.35);
 }
 
-/// Colours the label from the source that the code names; a code that names none leaves it as it is.
+/// Colours the label from the source that the code names; a code that names none leaves it as it is. A wallpaper without
+/// a picture has no colours to give.
 void applyColour(const UI::Label& label, const ObjectSetting& source, const UI::Color& stored)
 {
-    switch (source.intValue()) {
-    case 1:
-        return label.setTextColor(_bgWallColor);
-    case 2:
-        return label.setTextColor(_primaryWallColor);
-    case 3:
-        return label.setTextColor(_secondaryWallColor);
-    case 4:
-        return label.setTextColor(stored);
-    }
+    const UI::Color* const ofWallpaper[]
+        = {&_bgWallColor.reference(), &_primaryWallColor.reference(), &_secondaryWallColor.reference()};
+    const int choice = source.intValue();
+    if (choice >= 1 && choice <= 3)
+        label.setTextColor(*ofWallpaper[choice - 1] ? *ofWallpaper[choice - 1] : stored);
+    else if (choice == 4)
+        label.setTextColor(stored);
 }
 
 void applyColours()
@@ -130,7 +130,7 @@ void applyColours()
 void styleClockLabels(const SB::FLockScreenDateViewController& controller)
 {
     loadBuiltInFonts();
-    applyAlpha();
+    fadeClockLabels();
     placeBorderViews();
     placeClockLabels(controller);
     applyTimeFont();

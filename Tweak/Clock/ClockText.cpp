@@ -1,9 +1,9 @@
 // Everything is computed afresh from the settings and one moment; nothing is kept between runs.
 #include "Tweak/Clock/ClockText.hpp"
 
-#include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Product/Choices.hpp"
 #include "Tweak/Clock/DateOptions.hpp"
+#include "Tweak/FixedFormatter.hpp"
 #include "Tweak/Settings.hpp"
 
 namespace LYR {
@@ -12,8 +12,7 @@ namespace {
 
 NS::String formatted(const NS::Date& moment, const NS::String& pattern, const NS::Calendar& calendar)
 {
-    auto formatter = NS::DateFormatter::formatter();
-    formatter.setDateFormat(pattern);
+    auto formatter = fixedFormatter(pattern);
     formatter.setCalendar(calendar);
     return formatter.stringFromDate(moment);
 }

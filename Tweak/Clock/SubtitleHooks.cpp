@@ -14,16 +14,19 @@ namespace LYR {
 
 namespace {
 
-void removeLabel(const SB::FLockScreenDateSubtitleView& view, const char* name)
+/// By its name as long as systems take a path for one.
+UI::Image timerPicture()
 {
-    view.ivar<UI::View>(name).removeFromSuperview();
+    auto path = LYR_PREFIX LYR_RESOURCES "SS16/timer.png"_ns;
+    auto named = UI::Image::imageNamed(path);
+    return named ? named : UI::Image::imageWithContentsOfFile(path);
 }
 
 NS::MutableAttributedString timerIcon()
 {
     auto line = NS::MutableAttributedString::withString(""_ns);
-    line.appendAttributedString(dateLineIcon(templateThroughPNG(
-        UI::Image::imageNamed(LYR_PREFIX LYR_RESOURCES "SS16/timer.png"_ns))));
+    line.appendAttributedString(
+        dateLineIcon(inkedImage(templateThroughPNG(timerPicture()), _timerLabel->textColor())));
     return line;
 }
 
@@ -41,27 +44,39 @@ void detectTimer(const NS::String& text, const NS::String& sign, const NS::Mutab
     placeDateLabel();
 }
 
+/// Both signs are tried on the same line, so a text that has both stands in it twice, and the colon decides.
+void readSubtitle(const NS::String& text)
+{
+    auto line = timerIcon();
+    detectTimer(text, "."_ns, line);
+    detectTimer(text, ":"_ns, line);
+}
+
 }
 
 void SBFLockScreenDateSubtitleView_didMoveToWindow(SB::FLockScreenDateSubtitleView self, SEL cmd)
 {
-    removeLabel(self, "_label");
+    self.label().removeFromSuperview();
     stock<SBFLockScreenDateSubtitleView_didMoveToWindow>(self, cmd);
 }
 
-void SBFLockScreenDateSubtitleDateView_didMoveToWindow(SB::FLockScreenDateSubtitleView self, SEL cmd)
+void SBFLockScreenDateSubtitleDateView_didMoveToWindow(SB::FLockScreenDateSubtitleDateView self, SEL cmd)
 {
-    removeLabel(self, "_alternateDateLabel");
+    self.alternateDateLabel().removeFromSuperview();
     stock<SBFLockScreenDateSubtitleDateView_didMoveToWindow>(self, cmd);
 }
 
-/// Both signs are tried on the same line, so a text that has both stands in it twice, and the colon decides.
 void SBFLockScreenDateSubtitleView_setString(SB::FLockScreenDateSubtitleView self, SEL cmd, NS::String text)
 {
     stock<SBFLockScreenDateSubtitleView_setString>(self, cmd, text);
-    auto line = timerIcon();
-    detectTimer(text, "."_ns, line);
-    detectTimer(text, ":"_ns, line);
+    readSubtitle(text);
+}
+
+/// Since system 16 the subtitle is drawn elsewhere, and the timer's text comes this way.
+void SBFLockScreenDateViewController_updateTimerWithText(SB::FLockScreenDateViewController self, SEL cmd, NS::String text)
+{
+    stock<SBFLockScreenDateViewController_updateTimerWithText>(self, cmd, text);
+    readSubtitle(text);
 }
 
 }

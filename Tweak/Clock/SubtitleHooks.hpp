@@ -7,6 +7,8 @@ namespace LYR {
 
 void SBFLockScreenDateSubtitleView_didMoveToWindow(SB::FLockScreenDateSubtitleView self, SEL cmd);
 void SBFLockScreenDateSubtitleView_setString(SB::FLockScreenDateSubtitleView self, SEL cmd, NS::String text);
-void SBFLockScreenDateSubtitleDateView_didMoveToWindow(SB::FLockScreenDateSubtitleView self, SEL cmd);
+void SBFLockScreenDateViewController_updateTimerWithText(
+    SB::FLockScreenDateViewController self, SEL cmd, NS::String text);
+void SBFLockScreenDateSubtitleDateView_didMoveToWindow(SB::FLockScreenDateSubtitleDateView self, SEL cmd);
 
 }

@@ -44,26 +44,48 @@ void CSCoverSheetViewController_transitionChargingView(
         self, cmd, visible && allowed, showBattery && allowed, animated && allowed);
 }
 
-bool CSQuickActionsViewController_hasFlashlight(UI::ViewController, SEL)
+/// A phone without one does not get one.
+void CSCoverSheetViewController_transitionChargingViewOrPack(
+    CS::CoverSheetViewController self, SEL cmd, bool visible, bool suppressedByPack, bool showBattery, bool animated)
 {
-    return !_hiddenFlashlight;
+    const bool allowed = !_chargeAnim;
+    stock<CSCoverSheetViewController_transitionChargingViewOrPack>(
+        self, cmd, visible && allowed, suppressedByPack, showBattery && allowed, animated && allowed);
 }
 
-bool CSQuickActionsViewController_hasCamera(UI::ViewController, SEL)
+/// A phone without one does not get one.
+bool CSQuickActionsViewController_hasFlashlight(UI::ViewController self, SEL cmd)
 {
-    return !_hiddenCamera;
+    return stock<CSQuickActionsViewController_hasFlashlight>(self, cmd) && !_hiddenFlashlight;
 }
 
-void NCNotificationListSectionRevealHintView_didMoveToWindow(UI::View self, SEL cmd)
+bool CSQuickActionsViewController_hasCamera(UI::ViewController self, SEL cmd)
 {
-    stock<NCNotificationListSectionRevealHintView_didMoveToWindow>(self, cmd);
+    return stock<CSQuickActionsViewController_hasCamera>(self, cmd) && !_hiddenCamera;
+}
+
+static void writeHint(const NC::RevealHintView& hint)
+{
     if (!_enabledCT2)
         return;
-    auto title = self.ivar<SB::UILegibilityLabel>("_revealHintTitle");
+    auto title = hint.ivar<SB::UILegibilityLabel, "_revealHintTitle">();
     auto text = _ctNoOlder.stringValue();
     title.setTextAlignment(UI::TextAlignment::center);
     if (text.length() > 0)
         title.setString(text);
+}
+
+void NCNotificationListSectionRevealHintView_didMoveToWindow(NC::RevealHintView self, SEL cmd)
+{
+    stock<NCNotificationListSectionRevealHintView_didMoveToWindow>(self, cmd);
+    writeHint(self);
+}
+
+/// The label may be made after the view came to its window.
+void NCNotificationListSectionRevealHintView_configureTitle(NC::RevealHintView self, SEL cmd)
+{
+    stock<NCNotificationListSectionRevealHintView_configureTitle>(self, cmd);
+    writeHint(self);
 }
 
 void UIBatteryView_setSaverModeActive(UI::View self, SEL cmd, bool active)

@@ -12,9 +12,12 @@ UIEdgeInsets CSCombinedListViewController_listViewDefaultContentInsets(UI::ViewC
 UI::View CSCoverSheetViewController_dateView(CS::CoverSheetViewController self, SEL cmd);
 void CSCoverSheetViewController_transitionChargingView(
     CS::CoverSheetViewController self, SEL cmd, bool visible, bool showBattery, bool animated);
+void CSCoverSheetViewController_transitionChargingViewOrPack(
+    CS::CoverSheetViewController self, SEL cmd, bool visible, bool suppressedByPack, bool showBattery, bool animated);
 bool CSQuickActionsViewController_hasFlashlight(UI::ViewController self, SEL cmd);
 bool CSQuickActionsViewController_hasCamera(UI::ViewController self, SEL cmd);
-void NCNotificationListSectionRevealHintView_didMoveToWindow(UI::View self, SEL cmd);
+void NCNotificationListSectionRevealHintView_didMoveToWindow(NC::RevealHintView self, SEL cmd);
+void NCNotificationListSectionRevealHintView_configureTitle(NC::RevealHintView self, SEL cmd);
 void UIBatteryView_setSaverModeActive(UI::View self, SEL cmd, bool active);
 void CSTeachableMomentsContainerViewController_updateText(UI::ViewController self, SEL cmd, NS::String text);
 

@@ -25,10 +25,17 @@ void CSCoverSheetViewController_viewWillAppear(CS::CoverSheetViewController self
     stock<CSCoverSheetViewController_viewWillAppear>(self, cmd, animated);
     installLongPress();
     stopTimer(_timerLastLook);
-    _widgetView->setAlpha(1);
+    showStrip(true);
     refreshWeather();
     if (_showWidget)
         updateDateViewAfterMilliseconds(500);
+}
+
+/// Other screens that appear take the long press away, and at a start one may do so after the lock screen's coming.
+void CSCoverSheetViewController_viewDidAppear(CS::CoverSheetViewController self, SEL cmd, bool animated)
+{
+    stock<CSCoverSheetViewController_viewDidAppear>(self, cmd, animated);
+    installLongPress();
 }
 
 void CSCoverSheetViewController_viewWillDisappear(CS::CoverSheetViewController self, SEL cmd, bool animated)

@@ -5,6 +5,9 @@
 #include "Tweak/Editor/Editor.hpp"
 #include "Tweak/ScreenWidth.hpp"
 #include "Tweak/State.hpp"
+#include "Tweak/StockMotion.hpp"
+
+#include <dlfcn.h>
 
 namespace LYR {
 
@@ -27,10 +30,31 @@ UI::View makeSaverButton(const UI::Color& colour)
     return button;
 }
 
-/// The one button gives way to the other without a motion.
-void swapAfter(int mode, void (*swap)())
+/// The frameworks of the switch, which nothing else need have brought into the process.
+void openPowerFrameworks()
 {
-    CD::BatterySaver::batterySaver().setMode(mode);
+    for (const char* framework : {"/System/Library/PrivateFrameworks/CoreDuet.framework/CoreDuet",
+             "/System/Library/PrivateFrameworks/LowPowerMode.framework/LowPowerMode"})
+        dlopen(framework, RTLD_LAZY);
+}
+
+/// Whether this system has a switch that we know.
+bool setLowPowerMode(bool on)
+{
+    openPowerFrameworks();
+    if (auto saver = CD::BatterySaver::batterySaver()) {
+        saver.setMode(on);
+        return true;
+    }
+    auto mode = PM::LowPowerMode::sharedInstance();
+    return mode && mode.setPowerMode(on, "LYR"_ns);
+}
+
+/// The one button gives way to the other without a motion, and stays where nothing was switched.
+void swapAfter(bool on, void (*swap)())
+{
+    if (!setLowPowerMode(on))
+        return;
     UI::View::animateWithDuration(0, 0, UI::AnimationOptions::transitionCrossDissolve, swap);
 }
 
@@ -68,8 +92,25 @@ constinit const Area batterySaverArea{controls};
 
 void placeBatterySaverButtons()
 {
-    if (screenLayout())
-        place(controls, {0, UI::Screen::mainScreen().bounds().size.width});
+    if (!screenLayout())
+        return;
+    for (const Control& button : controls)
+        button.slot.view().setTransform(CGAffineTransformIdentity);
+    place(controls, {0, UI::Screen::mainScreen().bounds().size.width});
+    moveBatterySaverButtons();
+}
+
+void moveBatterySaverButtons()
+{
+    for (const Control& button : controls) {
+        button.slot.view().setAlpha(stockMotion.timeAlpha);
+        button.slot.view().setTransform(stockMotion.transform());
+    }
+}
+
+void hideBatterySaverButtons()
+{
+    setHidden(controls, true);
 }
 
 void showBatterySaverState()

@@ -123,9 +123,15 @@ void closeColourSheet()
     _colorWellSheet->closeView();
 }
 
+/// Asked of every controller in the windows of a locked phone.
+bool canShowWhileLocked(UI::ViewController, SEL)
+{
+    return true;
+}
+
 void registerColourSheet()
 {
-    ObjC::ClassBuilder builder("MyCSCoverSheetViewController", UI::ViewController::type());
+    auto builder = ObjC::ClassBuilder::of<ColourSheet>(UI::ViewController::type());
     addColourSheetProperties(builder);
     builder.method<"init", &init>()
         .method<"viewDidLoad", &viewDidLoad>()
@@ -138,6 +144,7 @@ void registerColourSheet()
         .method<"colorTouch3:", &colourChanged<Tab::widget>>()
         .method<"closeMyCSCoverSheetViewController", &closeWithEditorBack>()
         .method<"closeView", &closeView>()
+        .method<"_canShowWhileLocked", &canShowWhileLocked>()
         .method<"handleProtectedDataWillBecomeUnavailable", &handleProtectedDataWillBecomeUnavailable>()
         .build();
 }

@@ -1,6 +1,7 @@
 // Into the editor by a long press on the lock screen, and out of it by Done.
 #include "Tweak/Editor/Areas.hpp"
 #include "Tweak/Editor/Editor.hpp"
+#include "Tweak/Editor/PressDelegate.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/State.hpp"
 
@@ -25,24 +26,48 @@ const NS::String& reason()
     return "LYR"_ns;
 }
 
+/// The value of the key, where the object can be asked for it without raising; nil otherwise.
+SB::DashBoardIdleTimerProvider providerUnder(const NS::String& key, const NS::Object& owner)
+{
+    if (!owner.respondsTo<"safeValueForKey:">())
+        return {};
+    return owner.safeValueForKey<SB::DashBoardIdleTimerProvider>(key);
+}
+
 /// What keeps the screen lit while the user edits: the lock screen's own provider, wherever this system keeps it; nil
 /// if nowhere.
 SB::DashBoardIdleTimerProvider GetDashBoardIdleTimerProvider()
 {
-    using Provider = SB::DashBoardIdleTimerProvider;
     auto manager = SB::CoverSheetPresentationManager::sharedInstance();
-    if (manager.respondsTo<"dashBoardViewController">())
-        return manager.dashBoardViewController().safeValueForKey<Provider>("_dashBoardIdleTimerProvider"_ns);
-    if (manager.respondsTo<"coverSheetViewController">())
-        return manager.coverSheetViewController().idleTimerController().safeValueForKey<Provider>(
-            "_idleTimerProvider"_ns);
-    return {};
+    if (auto provider = providerUnder("_dashBoardIdleTimerProvider"_ns, manager.dashBoardViewController()))
+        return provider;
+    auto controller = manager.coverSheetViewController().idleTimerController();
+    if (auto provider = providerUnder("_idleTimerProvider"_ns, controller))
+        return provider;
+    return controller.provider();
+}
+
+SB::DashBoardIdleTimerController idleTimerController()
+{
+    return SB::CoverSheetPresentationManager::sharedInstance().coverSheetViewController().idleTimerController();
+}
+
+/// Keeps the screen lit, by the provider, or by the controller where the provider is not to be found.
+void holdScreen()
+{
+    if (auto provider = GetDashBoardIdleTimerProvider())
+        provider.addDisabledIdleTimerAssertionReason(reason());
+    else
+        idleTimerController().addIdleTimerDisabledAssertionReason(reason());
 }
 
 /// Lets the screen go dark by itself again.
 void releaseScreen()
 {
-    GetDashBoardIdleTimerProvider().removeDisabledIdleTimerAssertionReason(reason());
+    if (auto provider = GetDashBoardIdleTimerProvider())
+        provider.removeDisabledIdleTimerAssertionReason(reason());
+    else
+        idleTimerController().removeIdleTimerDisabledAssertionReason(reason());
 }
 
 /// What the user picks in the editor comes from the stored colours and the picked font.
@@ -89,7 +114,7 @@ void showLongPress(UI::LongPressGestureRecognizer recognizer)
 {
     if (!_enabledCustom)
         return;
-    GetDashBoardIdleTimerProvider().addDisabledIdleTimerAssertionReason(reason());
+    holdScreen();
     if (recognizer.state() != UI::GestureRecognizerState::began)
         return;
     dateView->updateView();
@@ -122,6 +147,11 @@ std::optional<Tab> activeTab()
     return std::nullopt;
 }
 
+bool isEditing()
+{
+    return activeTab().has_value();
+}
+
 void setActiveTab(std::optional<Tab> active)
 {
     for (Tab tab : allTabs)
@@ -134,6 +164,7 @@ void installLongPress()
         return;
     _longPress = UI::LongPressGestureRecognizer::withTarget(_pressLong, ObjC::selector<"showLongPress:">());
     _longPress->setAllowableMovement(_allowableMovement);
+    _longPress->setDelegate(PressDelegate::shared());
     _pressLong->view().addGestureRecognizer(_longPress);
 }
 

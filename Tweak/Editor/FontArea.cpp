@@ -36,7 +36,7 @@ UI::Font fontNamed(const NS::String& name)
     return name ? UI::Font::fontWithName(name, rowSize) : UI::Font();
 }
 
-/// The list is gathered anew at every request, so that fonts registered since the last one appear at once.
+/// Fonts that were registered since the last request appear at once.
 long fontCount()
 {
     return static_cast<long>(rebuildAvailableFonts());

@@ -181,12 +181,6 @@ constexpr Action actions[] = {
     action<"pickerView:didSelectRow:inComponent:", didSelectRow>(ActionGroup::wheels),
 };
 
-void installIfOf(ActionGroup group, const Action& action)
-{
-    if (action && action.group == group)
-        ObjC::install({{action.row()}});
-}
-
 void buildEditor(const CS::CoverSheetViewController& controller)
 {
     keepView(_optionView, roundedPanel());
@@ -234,16 +228,24 @@ void updateButtonAppearance()
         fillControls(*tab);
 }
 
-void installEditorActions()
+std::span<const ObjC::HookRow> editorActionRows()
 {
+    constexpr std::size_t most = 64;
+    static ObjC::HookRow rows[most];
+    std::size_t count = 0;
+    const auto enterIfOf = [&count](ActionGroup group, const Action& action) {
+        if (action && action.group == group && count < most)
+            rows[count++] = action.row();
+    };
     for (ActionGroup group : allActionGroups) {
         for (const Area* area : areas) {
             for (const Control& row : area->controls)
-                installIfOf(group, row.action);
+                enterIfOf(group, row.action);
             for (const Action& action : area->actions)
-                installIfOf(group, action);
+                enterIfOf(group, action);
         }
     }
+    return {rows, count};
 }
 
 void bringEditor(const CS::CoverSheetViewController& controller)

@@ -6,6 +6,7 @@
 #include "Tweak/RefreshTimers.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/State.hpp"
+#include "Tweak/Widgets/Strip.hpp"
 
 namespace LYR {
 
@@ -24,7 +25,7 @@ bool staysCurrent()
 /// Keeps the lock screen current for as long as LastLook shows it.
 void keepUpUnderLastLook(const SB::LockScreenManager& manager)
 {
-    _widgetView->setAlpha(_showWidgetLastLook ? 1 : 0);
+    showStrip(_showWidgetLastLook);
     if (!_timerLastLook->isValid()) {
         _timerLastLook = NS::Timer::scheduled(minute, manager, ObjC::selector<"requestUpdateWidget">(), true);
         _startLastLook = now();
@@ -43,7 +44,7 @@ void refreshAfterLight(const SB::BacklightController& controller)
 
 void showWidgets()
 {
-    _widgetView->setAlpha(1);
+    showStrip(true);
     stopTimer(_timerLastLook);
 }
 
@@ -55,7 +56,9 @@ void SBHomeScreenViewController_viewWillAppear(UI::ViewController self, SEL cmd,
     stopAllTimers();
     removeOverlay();
     removeWidgetButton();
-    removeLongPress();
+    // As the shell starts, the home screen may come behind the lock screen, which keeps its long press.
+    if (!SB::LockScreenManager::sharedInstance().isLockScreenVisible())
+        removeLongPress();
 }
 
 void SpringBoard_didReceiveMemoryWarning(UI::Responder self, SEL cmd)
@@ -82,9 +85,13 @@ void SBLockScreenTimerDialView_didMoveToWindow(UI::View self, SEL cmd)
     stock<SBLockScreenTimerDialView_didMoveToWindow>(self, cmd);
 }
 
-void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, int source, NS::Object options)
+namespace {
+
+/// How many of the lock messages are under way: on some systems the one ends in the other.
+constinit int locking = 0;
+
+void settleAfterLock(const SB::LockScreenManager& manager)
 {
-    stock<SBLockScreenManager_lockUIFromSource>(self, cmd, source, options);
     closeColourSheet();
     coverView->send<void, "doneButton:">(ObjC::Object());
     stopTimer(_timer);
@@ -92,9 +99,9 @@ void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, i
     _screenOn = false;
     hideOverlay();
     if (staysCurrent())
-        keepUpUnderLastLook(self);
+        keepUpUnderLastLook(manager);
     else {
-        _widgetView->setAlpha(0);
+        showStrip(false);
         stopTimer(_timerLock);
         stopTimer(_timerLight);
         stopTimer(_timerLastLook);
@@ -103,6 +110,31 @@ void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, i
     _buttonCL->setHidden(true);
     _dateBorderView->setHidden(true);
     _timeBorderView->setHidden(true);
+}
+
+/// Runs the stock message, and what follows it once where it ends in the other.
+template <class Message>
+void lock(const SB::LockScreenManager& manager, Message stockMessage)
+{
+    ++locking;
+    stockMessage();
+    if (--locking == 0)
+        settleAfterLock(manager);
+}
+
+}
+
+void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, int source, NS::Object options)
+{
+    lock(self, [&] { stock<SBLockScreenManager_lockUIFromSource>(self, cmd, source, options); });
+}
+
+void SBLockScreenManager_lockUIFromSourceWithCompletion(
+    SB::LockScreenManager self, SEL cmd, int source, NS::Object options, ObjC::BlockArgument completion)
+{
+    lock(self, [&] {
+        stock<SBLockScreenManager_lockUIFromSourceWithCompletion>(self, cmd, source, options, completion);
+    });
 }
 
 void SBLockScreenManager_requestUpdateWidget(SB::LockScreenManager, SEL)

@@ -1,6 +1,7 @@
 // Interceptions of the shell's comings and goings: lock, light, home screen, low memory, front application.
 #pragma once
 
+#include "Platform/ObjC/Block.hpp"
 #include "Platform/SpringBoard/SBLockScreenManager.hpp"
 #include "Platform/UIKit/UIViewController.hpp"
 
@@ -12,6 +13,8 @@ void SpringBoard_frontDisplayDidChange(UI::Responder self, SEL cmd, NS::Object a
 void SBLockScreenTimerDialView_didMoveToWindow(UI::View self, SEL cmd);
 
 void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, int source, NS::Object options);
+void SBLockScreenManager_lockUIFromSourceWithCompletion(
+    SB::LockScreenManager self, SEL cmd, int source, NS::Object options, ObjC::BlockArgument completion);
 /// Added: the minute's refresh under LastLook, which ends by itself after five hours.
 void SBLockScreenManager_requestUpdateWidget(SB::LockScreenManager self, SEL cmd);
 

@@ -3,9 +3,9 @@
 
 #include "Platform/EventKit/EKEventStore.hpp"
 #include "Platform/Foundation/InstallPrefix.hpp"
-#include "Platform/Foundation/NSDateFormatter.hpp"
 #include "Platform/SpringBoard/SBScheduledAlarmObserver.hpp"
 #include "Product/Names.hpp"
+#include "Tweak/FixedFormatter.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/TemplateImage.hpp"
 
@@ -15,9 +15,7 @@ namespace {
 
 NS::String clockTime(const NS::Date& moment)
 {
-    auto formatter = NS::DateFormatter::formatter();
-    formatter.setDateFormat(_twentyFour ? "HH:mm"_ns : "h:mm"_ns);
-    return formatter.stringFromDate(moment);
+    return fixedFormatter(_twentyFour ? "HH:mm"_ns : "h:mm"_ns).stringFromDate(moment);
 }
 
 /// The half of the day in which the hour lies: midnight is AM, noon is PM.
@@ -33,20 +31,55 @@ NS::String joined(const NS::String& first, const NS::String& second)
     return first.stringByAppendingString(" "_ns).stringByAppendingString(second);
 }
 
+/// Where an event stands among others: by its start; one that lasts all day behind those of the day that have a time.
+double rankOf(const EK::Event& event, const NS::Calendar& calendar)
+{
+    auto start = event.startDate();
+    if (event.isAllDay()) {
+        if (auto nextDay = calendar.dateByAddingUnit(NS::CalendarUnit::day, 1, start))
+            return nextDay.timeIntervalSinceReferenceDate() - 1;
+    }
+    return start.timeIntervalSinceReferenceDate();
+}
+
+/// The calendar answers in no order.
+EK::Event earliest(const NS::Array& events)
+{
+    auto calendar = NS::Calendar::currentCalendar();
+    EK::Event first;
+    double firstRank = 0;
+    for (unsigned long i = 0; i < events.count(); ++i) {
+        auto event = events.at<EK::Event>(i);
+        double rank = rankOf(event, calendar);
+        if (!first || rank < firstRank) {
+            first = event;
+            firstRank = rank;
+        }
+    }
+    return first;
+}
+
+/// The user is never asked. Where nobody has asked yet, the system may answer all the same.
+bool mayReadEvents()
+{
+    auto status = EK::EventStore::authorizationStatusForEvents();
+    return status != EK::AuthorizationStatus::restricted && status != EK::AuthorizationStatus::denied;
+}
+
 /// The way to the calendar, opened when it is first needed. It is dear, so there is one for the process.
 constinit ObjC::Variable<EK::EventStore> eventStore;
 
 EK::Event firstEvent(const NS::Date& now)
 {
     const int days = _rangeEvent.intValue();
-    if (days <= 0)
+    if (days <= 0 || !mayReadEvents())
         return {};
     auto end = NS::Calendar::currentCalendar().dateByAddingUnit(NS::CalendarUnit::day, days, now);
     if (!end)
         return {};
     if (!eventStore)
         eventStore = EK::EventStore::make();
-    return eventStore->eventsMatchingPredicate(eventStore->predicateForEvents(now, end)).firstObject<EK::Event>();
+    return earliest(eventStore->eventsMatchingPredicate(eventStore->predicateForEvents(now, end)));
 }
 
 }

@@ -3,6 +3,7 @@
 
 #include "Platform/UIKit/UIScreen.hpp"
 #include "Tweak/ScreenWidth.hpp"
+#include "Tweak/StockMotion.hpp"
 #include "Tweak/TextShadow.hpp"
 #include "Tweak/Widgets/StripColours.hpp"
 #include "Tweak/Widgets/StripGeometry.hpp"
@@ -11,6 +12,11 @@
 namespace LYR {
 
 namespace {
+
+/// The lock screen is lit, or LastLook shows the strip in the dark.
+constinit bool isStripLit = true;
+/// As the last refresh had it.
+constinit CGFloat scale = 1;
 
 constexpr const Widget* widgets[] = {&weatherWidget, &agendaWidget, &batteryWidget};
 
@@ -79,13 +85,13 @@ void colourViews()
     });
 }
 
-/// The scale is about the middle, so the frame is the one that the strip has at its natural size.
+/// The scale is about the middle and the slide from there, so the frame is the one without either.
 void setFrameAtNaturalSize(const UI::View& view, CGRect frame)
 {
-    auto scale = view.transform();
+    auto transform = view.transform();
     view.setTransform(CGAffineTransformMakeScale(1, 1));
     view.setFrame(frame);
-    view.setTransform(scale);
+    view.setTransform(transform);
 }
 
 /// A widget whose option names no presentation stays where it is.
@@ -157,6 +163,18 @@ void createStrip(const CS::CoverSheetViewController& controller)
     placeWidgets();
 }
 
+void showStrip(bool shown)
+{
+    isStripLit = shown;
+    moveStrip();
+}
+
+void moveStrip()
+{
+    _widgetView->setAlpha(isStripLit ? stockMotion.timeAlpha : 0);
+    _widgetView->setTransform(stockMotion.transform(scale));
+}
+
 void placeStrip(Items& items)
 {
     const bool wasAgendaShown = isAgendaShown();
@@ -169,7 +187,8 @@ void placeStrip(Items& items)
 void refreshStrip(Items& items)
 {
     _widgetView->setHidden(!_showWidget);
-    _widgetView->setTransform(CGAffineTransformMakeScale(_sizeWidget.doubleValue(), _sizeWidget.doubleValue()));
+    scale = _sizeWidget.doubleValue();
+    moveStrip();
     colourViews();
     showChosenViews();
     fillShownWidgets(items);

@@ -10,6 +10,10 @@ namespace LYR {
 void createStrip(const CS::CoverSheetViewController& controller);
 /// Shows the views of the chosen presentations, and places the strip and what lies in it. Fills a slot that comes back.
 void placeStrip(Items& items);
+/// Lets the strip be seen or not, without a change to what is on it.
+void showStrip(bool shown);
+/// Fades and slides the strip as the stock clock is.
+void moveStrip();
 /// Visibility, scale, colours, contents and places. What is hidden is not filled, but for the battery.
 void refreshStrip(Items& items);
 

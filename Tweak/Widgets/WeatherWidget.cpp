@@ -73,7 +73,7 @@ void fillWeather(const WeatherItems& weather)
         return _conditionLabel->setText({});
     auto attachment = NS::TextAttachment::make();
     attachment.setBounds(CGRectMake(0, 0, iconSide, iconSide));
-    attachment.setImage(weather.icon);
+    attachment.setImage(inkedImage(weather.icon, _conditionLabel->textColor()));
     _conditionLabel->setAttributedText(NS::AttributedString::attributedStringWithAttachment(attachment));
 }
 

@@ -125,6 +125,13 @@ void applyDevice(const Json& parameters)
         {"locale", [](const Json& json) { PhoneLocale::shared().locale = localeName(json.get<std::string>()); }},
         {"timeZone", [](const Json& json) { PhoneLocale::shared().timeZone = json; }},
         {"languages", applyLanguages},
+        {"twentyFourHour",
+            [](const Json& json) {
+                PhoneLocale::shared().twentyFourHour = json.is_null() ? std::nullopt : std::optional(json.get<bool>());
+            }},
+        {"flashlight", [](const Json& json) { DeviceState::shared().hasFlashlight = json; }},
+        {"camera", [](const Json& json) { DeviceState::shared().hasCamera = json; }},
+        {"calendarAccess", [](const Json& json) { DeviceState::shared().grantsCalendar = json == "granted"; }},
     };
     for (const auto& [name, apply] : members)
         if (parameters.contains(name))
@@ -138,7 +145,10 @@ Json describeDevice()
     return {{"battery", describeBattery()}, {"weather", describeWeather()}, {"events", describeEvents()},
         {"alarm", device.alarm ? Json(*device.alarm) : Json()},
         {"style", device.style == InterfaceStyle::dark ? "dark" : "light"}, {"locale", locale.locale},
-        {"timeZone", locale.timeZone}, {"languages", locale.languages}};
+        {"timeZone", locale.timeZone}, {"languages", locale.languages},
+        {"twentyFourHour", locale.twentyFourHour ? Json(*locale.twentyFourHour) : Json()},
+        {"flashlight", device.hasFlashlight}, {"camera", device.hasCamera},
+        {"calendarAccess", device.grantsCalendar ? "granted" : "denied"}};
 }
 
 void addDeviceMethods(PhoneContext& context)

@@ -65,6 +65,8 @@ void addFileMethods(PhoneContext& context)
         const std::string path = parameters.at("path");
         if (int error = PhoneFiles::shared().put(path, *fromBase64(parameters.at("base64").get<std::string>())))
             fail(path, error);
+        if (parameters.contains("owner"))
+            PhoneFiles::shared().give(path, parameters.at("owner") == "mobile" ? FileOwner::mobile : FileOwner::root);
         return Json::object();
     });
     context.add("file.list", [](const Json& parameters) {
@@ -76,7 +78,7 @@ void addFileMethods(PhoneContext& context)
     });
     context.add("file.remove", [](const Json& parameters) {
         const std::string path = parameters.at("path");
-        if (int error = PhoneFiles::shared().remove(path))
+        if (int error = PhoneFiles::shared().erase(path))
             fail(path, error);
         return Json::object();
     });

@@ -124,6 +124,11 @@ Slot nextSlot(const char*& encoding)
         slot.type = &ffi_type_uint8;
     else if (slot.code != 'v')
         slot.type = &ffi_type_pointer;
+    // A block, of which nothing but none can be written down.
+    if (slot.code == '@' && *encoding == '?') {
+        slot.code = '?';
+        encoding += 1 + std::strspn(encoding + 1, "0123456789");
+    }
     return slot;
 }
 

@@ -1,6 +1,7 @@
 // phone.*: what happens to a phone.
 #include "Simulator/Control/Domains/PhoneContext.hpp"
 #include "Simulator/Device/DeviceState.hpp"
+#include "Simulator/Files/PhoneFiles.hpp"
 
 #include "Platform/Foundation/NSString.hpp"
 
@@ -18,15 +19,36 @@ void postProtectedData(bool available)
         NS::Object());
 }
 
+/// From now on the user's files can be read, also after the next lock.
+void unlockFirst()
+{
+    PhoneFiles::shared().setUnlockedOnce(true);
+    postProtectedData(true);
+}
+
+void unlock(Simulator::Shell& shell, const Json&)
+{
+    if (!PhoneFiles::shared().isUnlockedOnce())
+        unlockFirst();
+    shell.unlock();
+}
+
 }
 
 void addPhoneMethods(PhoneContext& context)
 {
     using Action = void (*)(Simulator::Shell&, const Json&);
     const std::pair<const char*, Action> actions[] = {
-        {"phone.lock", [](Simulator::Shell& shell, const Json&) { shell.lock(); }},
+        {"phone.lock",
+            [](Simulator::Shell& shell, const Json& with) {
+                DeviceState::shared().locksByLongForm = with.value("endsIn", "long") == "long";
+                shell.lock(with.value("form", "short") == "long");
+            }},
+        {"phone.home", unlock},
+        {"phone.passcode", [](Simulator::Shell& shell, const Json& with) { shell.showPasscode(with.at("shown")); }},
+        {"phone.firstUnlock", [](Simulator::Shell&, const Json&) { unlockFirst(); }},
         {"phone.wake", [](Simulator::Shell& shell, const Json&) { shell.wake(); }},
-        {"phone.unlock", [](Simulator::Shell& shell, const Json&) { shell.unlock(); }},
+        {"phone.unlock", unlock},
         {"phone.coverSheet", [](Simulator::Shell& shell, const Json&) { shell.coverSheet(); }},
         {"phone.openApp", [](Simulator::Shell& shell, const Json& with) { shell.openApp(with.at("bundle")); }},
         {"phone.memoryWarning", [](Simulator::Shell& shell, const Json&) { shell.memoryWarning(); }},

@@ -69,13 +69,33 @@ void keepNewObject(PhoneContext& context, const Json& parameters)
     context.named[parameters.at("name")] = ObjC::Object::adopting(object);
 }
 
+/// What became of a row; null where it was left out.
+const HookRecord* recordOf(const ObjC::HookRow& row)
+{
+    const auto isOf = [&row](const HookRecord& record) {
+        return record.selectorName == row.selectorName && record.className == row.className
+            && (record.kind == HookRecord::Kind::hook) == (row.stock != nullptr);
+    };
+    const auto found = std::ranges::find_if(hookRecords(), isOf);
+    return found == hookRecords().end() ? nullptr : &*found;
+}
+
+Json describeHook(const ObjC::HookRow& row, const char* table)
+{
+    const HookRecord* record = recordOf(row);
+    return {{"class", objc_getClass(row.className) ? Json(row.className) : Json()}, {"selector", row.selectorName},
+        {"kind", row.stock ? "hook" : "added"}, {"types", record ? record->types : ""},
+        {"resolved", record && (!row.stock || !record->types.empty())}, {"table", table}};
+}
+
+/// Every row of the tables that were installed.
 Json describeHooks()
 {
     Json hooks = Json::array();
-    for (const HookRecord& record : hookRecords())
-        hooks.push_back({{"class", record.resolved() ? Json(record.className) : Json()},
-            {"selector", record.selectorName}, {"kind", record.kind == HookRecord::Kind::hook ? "hook" : "added"},
-            {"types", record.types}, {"resolved", record.resolved()}});
+    for (const ObjC::HookTable& table : ExtensionLoader::shared().hookTables()) {
+        for (const ObjC::HookRow& row : table.all())
+            hooks.push_back(describeHook(row, table.name));
+    }
     return hooks;
 }
 
