@@ -1,6 +1,7 @@
 // Bindings of HBPreferences: the domain's file is the truth, each object keeps what it last read of it.
 #include "Simulator/Companions/HBPreferences.hpp"
 
+#include "Platform/Foundation/CFNotificationCenter.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
 #include "Simulator/Base/Phone.hpp"
 #include "Simulator/Companions/PropertyListValues.hpp"
@@ -62,6 +63,13 @@ void assign(id* variable, const NS::Object& value)
     ObjC::release(previous);
 }
 
+/// The library has no other way to hear of a store by a process that does not use it.
+void takeOverStored(CFNotificationCenterRef, void* domain, id, const void*, id)
+{
+    const NS::Object preferences = service().objects[*static_cast<const std::string*>(domain)];
+    standIn<HBPreferences>(preferences.raw()).mirror(storedValues(*static_cast<const std::string*>(domain)));
+}
+
 const char* kindOf(const nlohmann::ordered_json& value)
 {
     return value.is_string() ? "string" : value.is_boolean() ? "bool" : value.is_number() ? "number" : "other";
@@ -93,6 +101,9 @@ NS::Object HBPreferences::initWithIdentifier(const NS::String& identifier)
         m_domain = text(identifier);
         m_stored = storedValues(m_domain);
         known = self<NS::Object>();
+        CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), &m_domain, takeOverStored,
+            NS::String::fromUTF8(m_domain + "/ReloadPrefs").raw(), nullptr,
+            CFNotificationSuspensionBehavior::coalesce);
     }
     return known;
 }

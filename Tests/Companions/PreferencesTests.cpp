@@ -3,6 +3,7 @@
 
 #include "CompanionsTest.hpp"
 #include "Platform/Foundation/NSNumber.hpp"
+#include "Simulator/Companions/DarwinNotifications.hpp"
 #include "Simulator/Companions/HBPreferences.hpp"
 #include "Simulator/Companions/PropertyListValues.hpp"
 
@@ -125,11 +126,27 @@ TEST_F(Preferences, MirrorWhatTheSettingsPaneStores)
     one.registerObject(&first.object, "90"_ns, "size"_ns);
     other.registerObject(&second.object, "80"_ns, "width"_ns);
     other.registerBool(&enabled, true, "enabled"_ns);
-    EXPECT_TRUE(storeValues(
-        domain, valueOfJson({{"size", "100"}, {"width", "110"}, {"enabled", false}}).as<NS::Dictionary>()));
+    EXPECT_TRUE(
+        storeValues(domain, valueOfJson({{"size", "100"}, {"width", "110"}, {"enabled", false}}).as<NS::Dictionary>()));
     EXPECT_EQ(first.text(), "100");
     EXPECT_EQ(second.text(), "110");
     EXPECT_FALSE(enabled);
+}
+
+TEST_F(Preferences, TakeOverAChangedFileWhenTheReloadIsPosted)
+{
+    fill({{"size", "120"}, {"width", "110"}});
+    Bound size, width;
+    const auto preferences = open();
+    preferences.registerObject(&size.object, "90"_ns, "size"_ns);
+    preferences.registerObject(&width.object, "100"_ns, "width"_ns);
+    fill({{"size", "77"}});
+    EXPECT_EQ(size.text(), "120");
+    postDarwinNotification("com.example.other/ReloadPrefs");
+    EXPECT_EQ(size.text(), "120");
+    postDarwinNotification("com.example.prefs/ReloadPrefs");
+    EXPECT_EQ(size.text(), "77");
+    EXPECT_EQ(width.text(), "100");
 }
 
 TEST_F(Preferences, GoBackToTheDefaultWhenAValueIsTakenAway)
