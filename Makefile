@@ -42,7 +42,7 @@ test-phone: build
 	LYR_PROGRAM=$(ARM64)/lyr \
 		LYR_EXTENSION=$(CURDIR)/build-arm64/package/Library/MobileSubstrate/DynamicLibraries/LYR_Pro.dylib \
 		build/bin/EndToEndTests --gtest_brief=1
-	LYR_PHONE_PROGRAM=$(ARM64)/lyr build/bin/MachOTests --gtest_brief=1 --gtest_filter='*SameBehaviour.*:Package.*'
+	LYR_PHONE_PROGRAM=$(ARM64)/lyr build/bin/MachOTests --gtest_brief=1 --gtest_filter='*SameBehaviour.*:*Package.*'
 
 bench: phone
 	@$(GENERATE) --preset bench

@@ -1,6 +1,7 @@
 // Finds the share folder beside the program, and fills a phone's root from it.
 #include "Simulator/App/FactoryContent.hpp"
 
+#include "Simulator/App/InstalledPackage.hpp"
 #include "Simulator/Control/RootFolder.hpp"
 #include "Simulator/Loader/ExtensionLoader.hpp"
 
@@ -45,28 +46,48 @@ void placeExtension(const fs::path& root, const std::string& extension)
 void placeOtherExtension(const fs::path& root, const std::string& name, bool isInstalled)
 {
     fs::path library = under(root, std::string(ExtensionLoader::folder) + name + ".dylib");
+    fs::create_directories(library.parent_path());
     if (!isInstalled)
         fs::remove(library);
     else if (!fs::exists(library))
         std::ofstream(library) << name << '\n';
 }
 
+/// What the user has, and no package brings.
+void placeHome(const Control::ShellStart& start)
+{
+    const fs::path root = start.root;
+    const bool hasWallpaper = fs::exists(under(root, Control::wallpaperPath));
+    copyMissing(shareFolder() / "System/var", root / "var");
+    const auto wallpaper = start.parameters.find("wallpaper");
+    if (!hasWallpaper && wallpaper != start.parameters.end() && wallpaper->is_null())
+        fs::remove(under(root, Control::wallpaperPath));
+}
+
+/// The extension and its files, as they come along. Each start takes the library that the program was built with.
+void placeProduct(const Control::ShellStart& start)
+{
+    const fs::path system = shareFolder() / "System";
+    if (start.isFirst)
+        copyMissing(system / "Library", fs::path(start.root) / "Library");
+    fs::copy(under(system, ExtensionLoader::folder), under(start.root, ExtensionLoader::folder),
+        fs::copy_options::overwrite_existing);
+}
+
 }
 
 void installFactoryContent(const Control::ShellStart& start, const std::string& extension)
 {
-    const fs::path system = shareFolder() / "System";
     const fs::path root = start.root;
-    if (start.isFirst) {
-        const bool hasWallpaper = fs::exists(under(root, Control::wallpaperPath));
-        copyMissing(system, root);
-        const auto wallpaper = start.parameters.find("wallpaper");
-        if (!hasWallpaper && wallpaper != start.parameters.end() && wallpaper->is_null())
-            fs::remove(under(root, Control::wallpaperPath));
-    }
-    fs::copy(under(system, ExtensionLoader::folder), under(root, ExtensionLoader::folder),
-        fs::copy_options::overwrite_existing);
-    placeExtension(root, extension);
+    const auto package = start.parameters.find("package");
+    if (start.isFirst)
+        placeHome(start);
+    if (package == start.parameters.end())
+        placeProduct(start);
+    else if (start.isFirst)
+        installPackage(package->get<std::string>());
+    if (package == start.parameters.end() || !extension.empty())
+        placeExtension(root, extension);
     const auto installed = start.parameters.value("installed", std::vector<std::string>());
     for (const std::string name : {"AFont", "LastLook"})
         placeOtherExtension(root, name, std::count(installed.begin(), installed.end(), name) > 0);

@@ -56,6 +56,7 @@ public:
         ObjC::AutoreleasePool pool;
         PhoneFiles::shared().setRoot(start.root);
         installFactoryContent(start, m_extension);
+        restoreOwners(start);
         setUpDevice(start);
         setUpClock(start);
         setUpSymbols(symbolFolder());
@@ -77,6 +78,8 @@ public:
     {
         Json state{{"now", Loop::shared().now()}, {"uptime", uptime()}, {"device", Control::describeDevice()},
             {"isLit", m_shell.isLit()}, {"isLocked", m_shell.isLocked()}};
+        for (const auto& [path, owner] : PhoneFiles::shared().rights().given())
+            state["owners"][path] = owner == FileOwner::mobile ? "mobile" : "root";
         if (m_wantsRelaunch)
             state["log"] = ActivityLog::shared().handOver();
         return state;
@@ -100,6 +103,15 @@ public:
 
 private:
     double uptime() const { return m_earlierUptime + Loop::shared().uptime(); }
+
+    /// A restart of the shell leaves the files with whoever has them.
+    static void restoreOwners(const Control::ShellStart& start)
+    {
+        if (!start.state.is_object() || !start.state.contains("owners"))
+            return;
+        for (const auto& [path, owner] : start.state.at("owners").items())
+            PhoneFiles::shared().give(path, ownerNamed(owner.get<std::string>()));
+    }
 
     void setUpDevice(const Control::ShellStart& start)
     {

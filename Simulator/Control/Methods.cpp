@@ -58,6 +58,9 @@ Schema startParameters()
             {"clock", oneOf({"virtual", "real"}), optional, "moves when told, as without it, or by itself"},
             {"root", hostFolder(), optional, "is the phone's `/`, kept afterwards; a temporary folder without it"},
             {"files", mapOf(phonePath(), hostPath()), optional, "phone path → host path, copied in before the start"},
+            {"package", hostFile("a package (.deb)"), optional,
+                "is installed, with its owners and modes, in place of the extension's files that come along; its "
+                "`postinst` runs with `DPKG_ROOT`, and whom its `chown` names owns the file"},
             {"settings", mapOf(storedText(), scalar()), optional, "stored settings; none without it"},
             {"colours", mapOf(storedText(), propertyList()), optional, "the colour file; no file without it"},
             {"wallpaper", orNull(hostFile("a JPEG")), optional, "the one that comes along without it, none for `null`"},
@@ -73,9 +76,9 @@ Schema startParameters()
                 "when the home screen appears behind the lock screen as the shell starts; with the first unlock "
                 "without it"},
             {"lacking", listOf(text()), optional,
-                "classes that the extension looks up in vain, `\"UIColorWell\"`; methods that it can neither intercept nor "
-                "send, `\"CSQuickActionsViewController hasCamera\"`; instance variables and keys that it cannot read, "
-                "`\"SBScheduledAlarmObserver _alarmManager\"`; methods with other types, "
+                "classes that the extension looks up in vain, `\"UIColorWell\"`; methods that it can neither intercept "
+                "nor send, `\"CSQuickActionsViewController hasCamera\"`; instance variables and keys that it cannot "
+                "read, `\"SBScheduledAlarmObserver _alarmManager\"`; methods with other types, "
                 "`\"CSQuickActionsViewController hasCamera=@16@0:8\"`; the stock shell has them all the same"},
         },
         deviceParameters());
@@ -243,7 +246,8 @@ Schema deviceParameters()
         {"languages", listOf(locale()), optional, "a new phone's are `[\"en\"]`"},
         {"twentyFourHour", orNull(boolean()), optional,
             "the clock's 12/24-hour switch; `null`, as a new phone has it, is as the locale has it"},
-        {"calendarAccess", oneOf({"granted", "denied"}), optional, "whether the shell may read events, as on a new phone"},
+        {"calendarAccess", oneOf({"granted", "denied"}), optional,
+            "whether the shell may read events, as on a new phone"},
         {"flashlight", boolean(), optional, "whether the device has one, as a new phone has"},
         {"camera", boolean(), optional, "likewise"},
     };

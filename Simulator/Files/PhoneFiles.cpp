@@ -220,13 +220,6 @@ PhoneFiles::Presence PhoneFiles::presence(std::string_view phonePath) const
     return S_ISDIR(status.st_mode) ? Presence::folder : Presence::file;
 }
 
-void PhoneFiles::give(std::string_view phonePath, FileOwner owner)
-{
-    const std::string path = canonicalPath(phonePath);
-    m_rights.give(path, owner);
-    m_rights.give(path.substr(0, path.rfind('/')), owner);
-}
-
 int PhoneFiles::refusal(std::string_view phonePath, bool inPlace) const
 {
     if (!m_isMobile)

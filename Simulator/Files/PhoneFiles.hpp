@@ -63,8 +63,9 @@ public:
 
     /// From now on it is the shell that acts, which may not do everything; before that, whoever sets the phone up.
     void runAsMobile() { m_isMobile = true; }
-    /// Gives the file, and the folder that it is in, to a user.
-    void give(std::string_view phonePath, FileOwner owner);
+    /// Gives the file or folder to a user.
+    void give(std::string_view phonePath, FileOwner owner) { m_rights.give(canonicalPath(phonePath), owner); }
+    const FileRights& rights() const { return m_rights; }
     /// Before the first unlock nobody can read the user's files.
     void setUnlockedOnce(bool unlocked) { m_isUnlockedOnce = unlocked; }
     bool isUnlockedOnce() const { return m_isUnlockedOnce; }

@@ -77,8 +77,17 @@ void ExtensionLoader::reportOnStandardError(const std::string& libraryPath, cons
 
 int ExtensionLoader::loadAll(const Report& report)
 {
-    int loaded = 0;
     ObjC::AutoreleasePool pool;
+    // On some phones the prefix is a link to the system's own place.
+    const auto& files = PhoneFiles::shared();
+    std::error_code error;
+    const bool isOnePlace = std::filesystem::equivalent(files.hostPath(folder), files.hostPath(sealedFolder), error);
+    return loadFolder(folder, report) + (isOnePlace ? 0 : loadFolder(sealedFolder, report));
+}
+
+int ExtensionLoader::loadFolder(const std::string& folder, const Report& report)
+{
+    int loaded = 0;
     auto& files = PhoneFiles::shared();
     for (const std::string& name : files.list(folder).value) {
         if (!name.ends_with(filterSuffix) || !isForShell(folder + name))

@@ -15,11 +15,13 @@ namespace Simulator {
 class ExtensionLoader {
 public:
     static constexpr const char* folder = "/Library/MobileSubstrate/DynamicLibraries/";
+    /// Where a phone with a sealed system has it.
+    static constexpr const char* sealedFolder = "/var/jb/Library/MobileSubstrate/DynamicLibraries/";
 
     static ExtensionLoader& shared();
 
-    /// Loads every library in the folder whose filter names the shell: one of the phone's kind (.dylib), or else one of
-    /// this machine's (.so). A library that cannot be loaded is reported and left out. Answers how many were loaded.
+    /// Loads every library in the folders whose filter names the shell: one of the phone's kind (.dylib), or else one
+    /// of this machine's (.so). A library that cannot be loaded is reported and left out. Answers how many were loaded.
     using Report = std::function<void(const std::string& libraryPath, const LoadError&)>;
     int loadAll(const Report& = reportOnStandardError);
     static void reportOnStandardError(const std::string& libraryPath, const LoadError&);
@@ -36,6 +38,8 @@ public:
 private:
     /// Finds a library's symbol.
     using Symbols = std::function<void*(const std::string& name)>;
+
+    int loadFolder(const std::string& folder, const Report&);
 
     std::vector<Symbols> m_libraries;
 };

@@ -119,6 +119,8 @@ TEST_F(PhoneFilesTest, WhatIsGivenToTheUserTheShellChanges)
 {
     ASSERT_EQ(files.put("/Library/Fonts/a", "1"), 0);
     files.runAsMobile();
+    files.give("/Library/Fonts", FileOwner::mobile);
+    EXPECT_EQ(files.write("/Library/Fonts/a", "2", WriteMode::direct), EACCES);
     files.give("/Library/Fonts/a", FileOwner::mobile);
     for (const WriteMode mode : {WriteMode::direct, WriteMode::atomic})
         EXPECT_EQ(files.write("/Library/Fonts/a", "2", mode), 0);

@@ -65,8 +65,10 @@ void addFileMethods(PhoneContext& context)
         const std::string path = parameters.at("path");
         if (int error = PhoneFiles::shared().put(path, *fromBase64(parameters.at("base64").get<std::string>())))
             fail(path, error);
-        if (parameters.contains("owner"))
-            PhoneFiles::shared().give(path, parameters.at("owner") == "mobile" ? FileOwner::mobile : FileOwner::root);
+        if (parameters.contains("owner")) {
+            for (const std::string& each : {path, path.substr(0, path.rfind('/'))})
+                PhoneFiles::shared().give(each, ownerNamed(parameters.at("owner").get<std::string>()));
+        }
         return Json::object();
     });
     context.add("file.list", [](const Json& parameters) {
