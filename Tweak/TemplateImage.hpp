@@ -18,8 +18,8 @@ inline UI::Image templateThroughPNG(const UI::Image& picture)
                    : UI::Image();
 }
 
-/// A template in a colour of its own, for the beginning of a text, where some systems draw templates black. What has its
-/// own colours keeps them.
+/// A template in a colour of its own, for the beginning of a text, where some systems draw templates black. What has
+/// its own colours keeps them.
 inline UI::Image inkedImage(const UI::Image& picture, const UI::Color& colour)
 {
     if (picture.renderingMode() != UI::ImageRenderingMode::alwaysTemplate)

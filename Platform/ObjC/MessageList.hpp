@@ -1,5 +1,5 @@
-// The lists of all messages that are sent, of the variables that are read of the methods that are intercepted and of the
-// classes that are built, as the compiler knows them.
+// The lists of all messages that are sent, of the variables that are read, of the methods that are intercepted and of
+// the classes that are built, as the compiler knows them.
 #pragma once
 
 #include "Platform/ObjC/Encoding.hpp"
@@ -56,8 +56,8 @@ consteval auto classText()
 template <char kind, FixedString className, class Result, FixedString name, class... Arguments>
 inline void listMessage()
 {
-    static_assert(argumentCount(name.view()) == sizeof...(Arguments),
-        "a selector takes one argument for each colon in its name");
+    static_assert(
+        argumentCount(name.view()) == sizeof...(Arguments), "a selector takes one argument for each colon in its name");
 #if defined(__APPLE__) && !defined(__OPTIMIZE__)
     [[gnu::used]] static constexpr auto line = messageText<kind, className, Result, name, Arguments...>();
 #endif

@@ -206,8 +206,8 @@ public:
     }
 };
 
-/// Base of the facades of classes that no documentation promises. A message that the object or the class does not answer
-/// does nothing and gives zero: on a system that differs, what needs it is missing, and the shell goes on.
+/// Base of the facades of classes that no documentation promises. A message that the object or the class does not
+/// answer does nothing and gives zero: on a system that differs, what needs it is missing, and the shell goes on.
 template <class Self, class Super, FixedString className>
 class PrivateClass_ : public Class_<Self, Super, className> {
     using Public = Class_<Self, Super, className>;

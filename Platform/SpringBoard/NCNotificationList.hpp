@@ -6,8 +6,7 @@
 namespace NC {
 
 /// Says that there are no older notifications.
-class RevealHintView
-    : public ObjC::PrivateClass_<RevealHintView, UI::View, "NCNotificationListSectionRevealHintView"> {
+class RevealHintView : public ObjC::PrivateClass_<RevealHintView, UI::View, "NCNotificationListSectionRevealHintView"> {
 public:
     using PrivateClass_::PrivateClass_;
 };

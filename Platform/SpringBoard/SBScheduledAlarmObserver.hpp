@@ -25,7 +25,8 @@ public:
     AlarmCache cache() const { return send<AlarmCache, "cache">(); }
 };
 
-class ScheduledAlarmObserver : public ObjC::PrivateClass_<ScheduledAlarmObserver, NS::Object, "SBScheduledAlarmObserver"> {
+class ScheduledAlarmObserver
+    : public ObjC::PrivateClass_<ScheduledAlarmObserver, NS::Object, "SBScheduledAlarmObserver"> {
 public:
     using PrivateClass_::PrivateClass_;
     static ScheduledAlarmObserver sharedInstance() { return sendClass<ScheduledAlarmObserver, "sharedInstance">(); }

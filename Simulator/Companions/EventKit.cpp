@@ -110,8 +110,7 @@ public:
 
 }
 
-static const StandInClass ekCalendarItem(
-    "EKCalendarItem", "NSObject", [](Binder<EKEvent>& binder) { binder.add(); });
+static const StandInClass ekCalendarItem("EKCalendarItem", "NSObject", [](Binder<EKEvent>& binder) { binder.add(); });
 
 static const StandInClass ekEvent("EKEvent", "EKCalendarItem", [](Binder<EKEvent>& binder) {
     binder.def<"title", &EKEvent::title>()

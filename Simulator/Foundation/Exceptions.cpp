@@ -10,8 +10,8 @@ namespace Simulator {
 void raiseException(const char* name, const std::string& reason)
 {
     const ObjC::Object exception(ObjC::sendMessage<id>(reinterpret_cast<id>(objc_getClass("NSException")),
-        ObjC::selector<"exceptionWithName:reason:userInfo:">(), NS::String::fromUTF8(name), NS::String::fromUTF8(reason),
-        NS::Dictionary()));
+        ObjC::selector<"exceptionWithName:reason:userInfo:">(), NS::String::fromUTF8(name),
+        NS::String::fromUTF8(reason), NS::Dictionary()));
     exception.send<void, "raise">();
     std::abort();
 }

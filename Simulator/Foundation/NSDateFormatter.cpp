@@ -1,6 +1,6 @@
 // NSDateFormatter on ICU directly: the pattern is taken as it stands, in any of the phone's calendars.
-#include "Platform/Foundation/NSArray.hpp"
 #include "Platform/Foundation/NSDateFormatter.hpp"
+#include "Platform/Foundation/NSArray.hpp"
 #include "Simulator/Device/PhoneLocale.hpp"
 #include "Simulator/Foundation/Mending.hpp"
 #include "Simulator/Foundation/Texts.hpp"
@@ -121,7 +121,8 @@ private:
     }
 
     /// GNUstep has one object for the current locale and for one of the same name, so that the former, given to a
-    /// formatter, is taken for the latter. Whether the clock's switch stands against the language's habit, and there is no locale that says what holds here.
+    /// formatter, is taken for the latter. Whether the clock's switch stands against the language's habit, and there is
+    /// no locale that says what holds here.
     bool switchRewrites() const
     {
         const PhoneLocale& phone = PhoneLocale::shared();

@@ -63,7 +63,8 @@ ObjC::Object objectWithData(id self, SEL command, NS::Data data, unsigned long o
 {
     constexpr long corrupt = 3840;
     if (!data)
-        raiseException("NSInvalidArgumentException", "+[NSJSONSerialization JSONObjectWithData:options:error:]: nil data");
+        raiseException(
+            "NSInvalidArgumentException", "+[NSJSONSerialization JSONObjectWithData:options:error:]: nil data");
     const std::string text = data ? asUtf8(data) : std::string();
     const std::size_t first = text.find_first_not_of(" \t\r\n");
     const bool isFragment = first != std::string::npos && text[first] != '[' && text[first] != '{';

@@ -65,8 +65,7 @@ void standBefore(Class type, const char* selectorName)
 
 static const Mending nilArguments("NSString", [] {
     replaceInFamily<stringByAppendingString>("NSString", "stringByAppendingString:");
-    standBefore<removeObjectForKey>(
-        object_getClass(NS::MutableDictionary::dictionary().raw()), "removeObjectForKey:");
+    standBefore<removeObjectForKey>(object_getClass(NS::MutableDictionary::dictionary().raw()), "removeObjectForKey:");
     standBefore<appendAttributedString>(NS::MutableAttributedString::type(), "appendAttributedString:");
     standBefore<urlWithString>(object_getClass(classNamed("NSURL").raw()), "URLWithString:");
     standBefore<isKindOfClass>(object_getClass(NS::MutableDictionary::dictionary().copy().raw()), "isKindOfClass:");

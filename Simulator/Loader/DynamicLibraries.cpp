@@ -1,5 +1,5 @@
-// dlopen as the phone's processes know it: phone paths lie under the phone's root, a companion library brings its classes,
-// and each request is recorded.
+// dlopen as the phone's processes know it: phone paths lie under the phone's root, a companion library brings its
+// classes, and each request is recorded.
 #include "Simulator/Files/PhoneFiles.hpp"
 #include "Simulator/Loader/LackingParts.hpp"
 #include "Simulator/Runtime/ActivityLog.hpp"

@@ -1,5 +1,5 @@
-// The runtime's lookups stand here before its own, so that the extension can be told that there is no such class, method or
-// variable, or that a method has other types. Everybody else gets what there is.
+// The runtime's lookups stand here before its own, so that the extension can be told that there is no such class,
+// method or variable, or that a method has other types. Everybody else gets what there is.
 #include "Simulator/Loader/LackingParts.hpp"
 
 #include "Simulator/Base/Phone.hpp"

@@ -10,8 +10,9 @@
 namespace Simulator {
 
 /// Names of classes ("UIColorWell"), of methods and instance variables after their class ("CSQuickActionsViewController
-/// hasCamera", "SBScheduledAlarmObserver _alarmManager"), and of methods with other types ("CSQuickActionsViewController
-/// hasCamera=@16@0:8"). The stock shell goes on with all of them. To be set before the extension is loaded.
+/// hasCamera", "SBScheduledAlarmObserver _alarmManager"), and of methods with other types
+/// ("CSQuickActionsViewController hasCamera=@16@0:8"). The stock shell goes on with all of them. To be set before the
+/// extension is loaded.
 void setLackingParts(const std::set<std::string>& parts);
 
 /// A class.

@@ -7,8 +7,9 @@
 //         .ivar<"_font">()
 //         .add();
 //
-// Arity and encoding are checked and built by the compiler. What the phone's system does not have is left out. The struct derives from the struct of the superclass, and
-// the first one of such a line from StandIn, with `using Root = ThatStruct`.
+// Arity and encoding are checked and built by the compiler. What the phone's system does not have is left out. The
+// struct derives from the struct of the superclass, and the first one of such a line from StandIn, with `using Root =
+// ThatStruct`.
 #pragma once
 
 #include "Platform/ObjC/Method.hpp"
@@ -82,8 +83,8 @@ struct InstanceMethod {
     };
 };
 
-/// An initializer: runs the member and returns the object; a member that answers false makes it nil, and one that answers
-/// an object hands that out in its place.
+/// An initializer: runs the member and returns the object; a member that answers false makes it nil, and one that
+/// answers an object hands that out in its place.
 template <class T, auto member>
 struct Initializer {
     template <class R, class... A>

@@ -8,9 +8,8 @@
 namespace Simulator {
 
 /// In the order of the enumeration.
-static constexpr const char* names[]
-    = {"fontRegistrations", "fileOpens", "calendarStores", "calendarQueries", "weatherRequests", "alarmReads",
-        "preferenceReads"};
+static constexpr const char* names[] = {"fontRegistrations", "fileOpens", "calendarStores", "calendarQueries",
+    "weatherRequests", "alarmReads", "preferenceReads"};
 
 ExtensionCounts& ExtensionCounts::shared()
 {

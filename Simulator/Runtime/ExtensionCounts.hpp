@@ -10,7 +10,15 @@
 namespace Simulator {
 
 /// Each has its name in the table of names.
-enum class Count { fontRegistrations, fileOpens, calendarStores, calendarQueries, weatherRequests, alarmReads, preferenceReads };
+enum class Count {
+    fontRegistrations,
+    fileOpens,
+    calendarStores,
+    calendarQueries,
+    weatherRequests,
+    alarmReads,
+    preferenceReads
+};
 
 class ExtensionCounts {
 public:

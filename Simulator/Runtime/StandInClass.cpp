@@ -14,8 +14,7 @@ namespace Simulator {
 /// Set before any constructor runs, so that it does not matter which source's rows are made first.
 static constinit const StandInRow* lastRow = nullptr;
 
-StandInRow::StandInRow(
-    const char* name, const char* superclass, Add add, Condition condition, const char* library)
+StandInRow::StandInRow(const char* name, const char* superclass, Add add, Condition condition, const char* library)
     : m_name(name)
     , m_superclass(superclass)
     , m_add(add)

@@ -88,7 +88,8 @@ struct SpringBoard : UIApplication {
     {
         ActivityLog::shared().record("homeButton");
         later(&Shell::unlock);
-        Loop::shared().schedule(0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
+        Loop::shared().schedule(
+            0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
     }
 
     NS::Object frontDisplay;

@@ -28,7 +28,8 @@ constexpr double passcodeHeight = 30;
 NS::Object CSCoverSheetViewController::idleTimerController()
 {
     if (!m_idleTimerController)
-        m_idleTimerController = makeObject<"initWithCoverSheetViewController:">("SBDashBoardIdleTimerController", self());
+        m_idleTimerController
+            = makeObject<"initWithCoverSheetViewController:">("SBDashBoardIdleTimerController", self());
     return m_idleTimerController;
 }
 
@@ -122,7 +123,8 @@ void CSCoverSheetViewController::activatePage(unsigned long page, bool, ObjC::Bl
     const double width = ScreenLayout::current().size.width;
     sheetView().slide = (static_cast<double>(indexOfMainPage()) - static_cast<double>(page)) * width;
     self<UI::ViewController>().view().setNeedsLayout();
-    Loop::shared().schedule(0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
+    Loop::shared().schedule(
+        0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
 }
 
 /// The keypad covers the page, and the clock and what is below it give way.

@@ -31,7 +31,8 @@ struct SBLockScreenManager : StandIn {
             lock();
         else
             self().send<void, "lockUIFromSource:withOptions:">(source, options);
-        Loop::shared().schedule(0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
+        Loop::shared().schedule(
+            0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
     }
     static void lock()
     {

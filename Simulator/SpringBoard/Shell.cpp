@@ -95,8 +95,7 @@ void Shell::lock(bool byLongForm)
     ObjC::AutoreleasePool pool;
     const auto manager = sharedInstance("SBLockScreenManager");
     if (byLongForm)
-        manager.send<void, "lockUIFromSource:withOptions:completion:">(
-            sideButton, NS::Object(), ObjC::BlockArgument{});
+        manager.send<void, "lockUIFromSource:withOptions:completion:">(sideButton, NS::Object(), ObjC::BlockArgument{});
     else
         manager.send<void, "lockUIFromSource:withOptions:">(sideButton, NS::Object());
     setLit(false);

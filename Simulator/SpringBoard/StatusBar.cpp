@@ -75,8 +75,7 @@ void UIStatusBar_Modern::update()
         m_battery.send<void, "setSaverModeActive:">(saves);
 }
 
-static const StandInClass uiStatusBarBase(
-    "UIStatusBar_Base", "UIView", [](Binder<UIView>& binder) { binder.add(); });
+static const StandInClass uiStatusBarBase("UIStatusBar_Base", "UIView", [](Binder<UIView>& binder) { binder.add(); });
 
 static const StandInClass uiStatusBarModern(
     "UIStatusBar_Modern", "UIStatusBar_Base", [](Binder<UIStatusBar_Modern>& binder) {

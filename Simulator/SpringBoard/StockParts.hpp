@@ -16,7 +16,8 @@ template <ObjC::FixedString initializer, class... Arguments>
 NS::Object makeObject(const char* className, const Arguments&... arguments)
 {
     static_assert(ObjC::isInitializer(initializer.view()), "an initializer's selector begins with init");
-    const id allocated = ObjC::sendMessage<id>(reinterpret_cast<id>(objc_getClass(className)), ObjC::selector<"alloc">());
+    const id allocated
+        = ObjC::sendMessage<id>(reinterpret_cast<id>(objc_getClass(className)), ObjC::selector<"alloc">());
     return NS::Object::adopting(ObjC::sendMessage<id>(allocated, ObjC::selector<initializer>(), arguments...));
 }
 

@@ -34,8 +34,7 @@ void SBFStaticWallpaperView::reload()
     setImage(UI::Image::imageWithContentsOfFile("/var/mobile/Library/SpringBoard/LockBackgroundThumbnail.jpg"_ns));
 }
 
-static const StandInClass sbfWallpaperView(
-    "SBFWallpaperView", "UIView", [](Binder<UIView>& binder) { binder.add(); });
+static const StandInClass sbfWallpaperView("SBFWallpaperView", "UIView", [](Binder<UIView>& binder) { binder.add(); });
 
 static const StandInClass sbfStaticWallpaperView(
     "SBFStaticWallpaperView", "SBFWallpaperView", [](Binder<SBFStaticWallpaperView>& binder) { binder.add(); });

@@ -36,7 +36,7 @@ private:
 
 }
 
-static const StandInClass uiPanGestureRecognizer("UIPanGestureRecognizer", "UIGestureRecognizer",
-    [](Binder<UIPanGestureRecognizer>& binder) { binder.add(); });
+static const StandInClass uiPanGestureRecognizer(
+    "UIPanGestureRecognizer", "UIGestureRecognizer", [](Binder<UIPanGestureRecognizer>& binder) { binder.add(); });
 
 }

@@ -107,8 +107,8 @@ void UISegmentedControl::setImageForSegment(const UI::Image& image, unsigned lon
 void UISegmentedControl::setSelectedSegmentIndex(long index)
 {
     if (index < noSegment || index >= static_cast<long>(m_segments.size()))
-        raiseException("NSRangeException", "-[UISegmentedControl setSelectedSegmentIndex:]: there is no segment "
-                + std::to_string(index));
+        raiseException("NSRangeException",
+            "-[UISegmentedControl setSelectedSegmentIndex:]: there is no segment " + std::to_string(index));
     selectedSegmentIndex = index;
 }
 

@@ -2,12 +2,12 @@
 #include "Simulator/UIKit/UIView.hpp"
 
 #include "Simulator/CoreGraphics/Geometry.hpp"
+#include "Simulator/Foundation/Exceptions.hpp"
 #include "Simulator/QuartzCore/LayerTransaction.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/UIKit/NSLayoutConstraint.hpp"
 #include "Simulator/UIKit/NamedColors.hpp"
 #include "Simulator/UIKit/UIColor.hpp"
-#include "Simulator/Foundation/Exceptions.hpp"
 #include "Simulator/UIKit/UIGestureRecognizer.hpp"
 #include "Simulator/UIKit/UIScreen.hpp"
 #include "Simulator/UIKit/UIViewController.hpp"

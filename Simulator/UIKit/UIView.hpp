@@ -35,8 +35,8 @@ struct UIView : UIResponder {
     virtual Graphics::LayerContent layerContent() const { return {}; }
     /// Adds to what the layer's own properties make of it: its looks, or layers between its content and its subviews.
     virtual void decorate(Graphics::Layer&) const { }
-    /// A kind of view whose class has no initialiser of its own adds its parts here, and places them in `placeParts` where
-    /// it has no layoutSubviews: what a class inherits on the phone, it inherits here.
+    /// A kind of view whose class has no initialiser of its own adds its parts here, and places them in `placeParts`
+    /// where it has no layoutSubviews: what a class inherits on the phone, it inherits here.
     virtual void addParts() { }
     virtual void placeParts() { }
     /// Adds what the control protocol tells of this kind of view.

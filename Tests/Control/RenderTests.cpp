@@ -143,8 +143,7 @@ TEST_F(Render, PassesOnWallpaperFontsAndDevice)
 {
     using namespace Simulator::Graphics::Samples;
     const auto picture = jpeg(8, 8, quarters(8, 8));
-    const std::string wallpaper
-        = folder.put("w.jpg", {reinterpret_cast<const char*>(picture.data()), picture.size()});
+    const std::string wallpaper = folder.put("w.jpg", {reinterpret_cast<const char*>(picture.data()), picture.size()});
     const std::string font = "/usr/share/fonts/truetype/lato/Lato-Bold.ttf";
     const std::string other = "/usr/share/fonts/truetype/lato/Lato-Black.ttf";
     const std::string device = folder.put("d.json", R"({"battery":{"level":0.5},"alarm":null,"style":"light"})");

@@ -26,33 +26,33 @@ const char* const optionalClasses[] = {"UIColorWell", "UISegmentedControl", "UIS
     "UIDevice", "NSTimer", "UIScreen"};
 
 /// What the extension sends to classes that no documentation promises.
-const char* const privateMessages[] = {"AXNView list", "CSCoverSheetView slideableContentView",
-    "CSCoverSheetViewController idleTimerController",
-    "FBSystemService sharedInstance", "FBSystemService exitAndRelaunch:", "HBPreferences initWithIdentifier:",
-    "HBPreferences objectForKey:", "HBPreferences registerBool:default:forKey:",
-    "HBPreferences registerObject:default:forKey:", "HBPreferences setObject:forKey:", "MTAlarm nextFireDate",
-    "MTAlarmCache nextAlarm", "MTAlarmManager cache", "NCNotificationStructuredListViewController scrollView",
-    "SBCoverSheetPresentationManager sharedInstance", "SBCoverSheetPresentationManager coverSheetViewController",
-    "SBCoverSheetPresentationManager dashBoardViewController",
-    "SBDashBoardIdleTimerController addIdleTimerDisabledAssertionReason:",
-    "SBDashBoardIdleTimerController removeIdleTimerDisabledAssertionReason:",
-    "SBDashBoardIdleTimerProvider addDisabledIdleTimerAssertionReason:",
-    "SBDashBoardIdleTimerProvider removeDisabledIdleTimerAssertionReason:",
-    "SBFLockScreenDateViewController _updateView", "SBFLockScreenDateViewController dateView",
-    "SBFLockScreenDateViewController updateTime", "SBLockScreenManager sharedInstance",
-    "SBLockScreenManager isLockScreenVisible", "SBScheduledAlarmObserver sharedInstance",
-    "SBUILegibilityLabel setString:", "SBUILegibilityLabel setTextAlignment:", "SBUILegibilityLabel string",
-    "SparkColourPickerUtils colourWithString:withFallback:", "SpringBoard sharedApplication",
-    "SpringBoard _simulateHomeButtonPress",
-    "SpringBoard _simulateHomeButtonPressWithCompletion:", "WeatherApp sharedManager", "WeatherApp highestTemperature",
-    "WeatherApp lowestTemperature", "WeatherApp refreshWeatherData", "WeatherApp weatherData",
-    "_CDBatterySaver batterySaver", "_CDBatterySaver setMode:", "_PMLowPowerMode sharedInstance",
-    "_PMLowPowerMode setPowerMode:fromSource:"};
+const char* const privateMessages[]
+    = {"AXNView list", "CSCoverSheetView slideableContentView", "CSCoverSheetViewController idleTimerController",
+        "FBSystemService sharedInstance", "FBSystemService exitAndRelaunch:", "HBPreferences initWithIdentifier:",
+        "HBPreferences objectForKey:", "HBPreferences registerBool:default:forKey:",
+        "HBPreferences registerObject:default:forKey:", "HBPreferences setObject:forKey:", "MTAlarm nextFireDate",
+        "MTAlarmCache nextAlarm", "MTAlarmManager cache", "NCNotificationStructuredListViewController scrollView",
+        "SBCoverSheetPresentationManager sharedInstance", "SBCoverSheetPresentationManager coverSheetViewController",
+        "SBCoverSheetPresentationManager dashBoardViewController",
+        "SBDashBoardIdleTimerController addIdleTimerDisabledAssertionReason:",
+        "SBDashBoardIdleTimerController removeIdleTimerDisabledAssertionReason:",
+        "SBDashBoardIdleTimerProvider addDisabledIdleTimerAssertionReason:",
+        "SBDashBoardIdleTimerProvider removeDisabledIdleTimerAssertionReason:",
+        "SBFLockScreenDateViewController _updateView", "SBFLockScreenDateViewController dateView",
+        "SBFLockScreenDateViewController updateTime", "SBLockScreenManager sharedInstance",
+        "SBLockScreenManager isLockScreenVisible", "SBScheduledAlarmObserver sharedInstance",
+        "SBUILegibilityLabel setString:", "SBUILegibilityLabel setTextAlignment:", "SBUILegibilityLabel string",
+        "SparkColourPickerUtils colourWithString:withFallback:", "SpringBoard sharedApplication",
+        "SpringBoard _simulateHomeButtonPress",
+        "SpringBoard _simulateHomeButtonPressWithCompletion:", "WeatherApp sharedManager",
+        "WeatherApp highestTemperature", "WeatherApp lowestTemperature", "WeatherApp refreshWeatherData",
+        "WeatherApp weatherData", "_CDBatterySaver batterySaver",
+        "_CDBatterySaver setMode:", "_PMLowPowerMode sharedInstance", "_PMLowPowerMode setPowerMode:fromSource:"};
 
 /// What it reads of objects that are not its own.
 const char* const variables[] = {"SBFLockScreenDateView _timeLabel", "SBFLockScreenDateSubtitleView _label",
-    "SBFLockScreenDateSubtitleDateView _alternateDateLabel",
-    "SBFLockScreenDateView _dateSubtitleView", "SBFLockScreenDateView _prominentDisplayViewController", "NCNotificationListSectionRevealHintView _revealHintTitle",
+    "SBFLockScreenDateSubtitleDateView _alternateDateLabel", "SBFLockScreenDateView _dateSubtitleView",
+    "SBFLockScreenDateView _prominentDisplayViewController", "NCNotificationListSectionRevealHintView _revealHintTitle",
     "SBScheduledAlarmObserver _alarmManager", "SBDashBoardIdleTimerController _dashBoardIdleTimerProvider"};
 
 /// What a user does on an evening; the phone is to come through it without a crash.

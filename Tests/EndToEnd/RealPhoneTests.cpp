@@ -82,8 +82,8 @@ TEST(Calendar, AnEventThatLastsAllDayComesAfterThoseOfTheDayThatHaveATime)
 
 TEST(Calendar, WithoutAccessThereAreNoEventsAndNobodyIsAsked)
 {
-    auto phone = settled(
-        eventPhone(Json::array({event("Secret", "2020-11-15T22:00:00")})).with("calendarAccess", "denied"));
+    auto phone
+        = settled(eventPhone(Json::array({event("Secret", "2020-11-15T22:00:00")})).with("calendarAccess", "denied"));
     EXPECT_TRUE(endsWith(dateLine(phone), "No events today")) << dateLine(phone);
     const Json counts = phone.call("counts.take").at("counts");
     EXPECT_EQ(counts.at("calendarStores"), 0);
@@ -200,7 +200,8 @@ TEST(IdleTimer, IsHeldWhileTheEditorIsOpen)
 
 TEST(IdleTimer, IsHeldByTheControllerWhereItsProviderIsNotFound)
 {
-    auto phone = settled(eveningPhone().with("lacking", {"SBDashBoardIdleTimerController _dashBoardIdleTimerProvider"}));
+    auto phone
+        = settled(eveningPhone().with("lacking", {"SBDashBoardIdleTimerController _dashBoardIdleTimerProvider"}));
     openEditor(phone);
     const Json opened = phone.takeLog("idleTimer");
     ASSERT_EQ(opened.size(), 1u);

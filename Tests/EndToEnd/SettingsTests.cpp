@@ -1,7 +1,6 @@
 // Where every setting is kept, and how a change of one arrives.
 #include "Tests/EndToEnd/Scenario.hpp"
 
-
 static constexpr const char* settingsFile = "/var/mobile/Library/Preferences/com.ostrel.lyrprefs.plist";
 
 TEST(Settings, AnEmptyDomainGivesEveryVariableItsDefault)

@@ -89,12 +89,13 @@ std::vector<Row> furtherTable()
 {
     const std::string sheet = "CSCoverSheetViewController";
     const std::string date = "SBFLockScreenDateView";
-    return joined({withKind(sheet, "hook", {"viewDidAppear:"}), withKind("CSCoverSheetView", "hook", {"layoutSubviews"}),
-        withKind(date, "hook", {"setContentAlpha:withSubtitleVisible:", "setTimeAlpha:subtitleAlpha:"}),
-        withKind("SBFLockScreenDateViewController", "hook", {"updateTimerWithText:"}),
-        withKind("NCNotificationListSectionRevealHintView", "hook", {"_configureRevealHintTitleIfNecessary"}),
-        withKind(sheet, "hook", {"_transitionChargingViewToVisible:suppressedByPack:showBattery:animated:"}),
-        withKind("SBLockScreenManager", "hook", {"lockUIFromSource:withOptions:completion:"})});
+    return joined(
+        {withKind(sheet, "hook", {"viewDidAppear:"}), withKind("CSCoverSheetView", "hook", {"layoutSubviews"}),
+            withKind(date, "hook", {"setContentAlpha:withSubtitleVisible:", "setTimeAlpha:subtitleAlpha:"}),
+            withKind("SBFLockScreenDateViewController", "hook", {"updateTimerWithText:"}),
+            withKind("NCNotificationListSectionRevealHintView", "hook", {"_configureRevealHintTitleIfNecessary"}),
+            withKind(sheet, "hook", {"_transitionChargingViewToVisible:suppressedByPack:showBattery:animated:"}),
+            withKind("SBLockScreenManager", "hook", {"lockUIFromSource:withOptions:completion:"})});
 }
 
 std::vector<Row> hooksOf(Phone& phone)
@@ -159,7 +160,8 @@ TEST(StartUp, TheAxonTableFindsItsClassWhereThatExtensionIsInstalled)
     auto phone = eveningPhone().installed({"Axon"}).start();
     EXPECT_EQ(hooksOf(phone), joined({mainTable(), axonTable("AXNView"), furtherTable()}));
     const Json hooks = phone.call("objc.hooks").at("hooks");
-    const auto added = std::ranges::find_if(hooks, [](const Json& hook) { return hook.at("selector") == "axonCheck:"; });
+    const auto added
+        = std::ranges::find_if(hooks, [](const Json& hook) { return hook.at("selector") == "axonCheck:"; });
     ASSERT_NE(added, hooks.end());
     EXPECT_EQ(added->at("types"), "v@:@");
     EXPECT_EQ(added->at("resolved"), true);

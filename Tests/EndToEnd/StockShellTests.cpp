@@ -1,5 +1,5 @@
-// The shell around the extension does what a real one does: it fades, slides, covers, locks by two messages, has devices
-// without a torch, and starts before it was ever unlocked.
+// The shell around the extension does what a real one does: it fades, slides, covers, locks by two messages, has
+// devices without a torch, and starts before it was ever unlocked.
 #include "Tests/EndToEnd/EditorScenario.hpp"
 
 #include <cstdlib>
@@ -242,7 +242,8 @@ TEST(FirstUnlock, BringsTheSettings)
 {
     for (const char* system : systems) {
         SCOPED_TRACE(system);
-        auto phone = settled(eveningPhone({{"twentyFourTime", true}}).with("firstUnlock", false).with("system", system));
+        auto phone
+            = settled(eveningPhone({{"twentyFourTime", true}}).with("firstUnlock", false).with("system", system));
         EXPECT_EQ(phone.label("_timeLabel").text, "09.41");
         phone.call("phone.firstUnlock");
         phone.settle(1);
@@ -252,8 +253,8 @@ TEST(FirstUnlock, BringsTheSettings)
 
 TEST(FirstUnlock, BringsTheColours)
 {
-    auto phone = settled(
-        eveningPhone({{"colorTime", "4"}}).colours({{"colourTime", "#123456"}}).with("firstUnlock", false));
+    auto phone
+        = settled(eveningPhone({{"colorTime", "4"}}).colours({{"colourTime", "#123456"}}).with("firstUnlock", false));
     EXPECT_EQ(phone.label("_timeLabel").textColour, "#FFFFFFFF");
     phone.call("phone.firstUnlock");
     phone.settle(1);

@@ -36,8 +36,8 @@ TEST_F(NotificationList, IsPlacedByItsContentInsets)
     const CGRect after = place("stock.notification");
     EXPECT_EQ(after.origin.y, before.origin.y + 185);
     EXPECT_EQ(after.size, before.size);
-    setMethod(objc_getClass("CSCombinedListViewController"),
-        sel_registerName("_listViewDefaultContentInsets"), stock, "{UIEdgeInsets=dddd}@:");
+    setMethod(objc_getClass("CSCombinedListViewController"), sel_registerName("_listViewDefaultContentInsets"), stock,
+        "{UIEdgeInsets=dddd}@:");
 }
 
 TEST_F(NotificationList, CanBeHiddenByItsScrollView)

@@ -22,7 +22,8 @@ std::vector<T> listed(T* (*copy)(Class, unsigned*), Class type)
     return all ? std::vector<T>(all.get(), all.get() + count) : std::vector<T>();
 }
 
-/// The first type of an encoding, a structure by its name alone: "{CGRect}" of "{CGRect={CGPoint=dd}{CGSize=dd}}16@0:8".
+/// The first type of an encoding, a structure by its name alone: "{CGRect}" of
+/// "{CGRect={CGPoint=dd}{CGSize=dd}}16@0:8".
 std::string firstType(std::string_view& encoding)
 {
     std::string type;
@@ -65,8 +66,8 @@ std::vector<std::pair<std::string, std::string>> ownMembers(Class type)
     std::vector<std::pair<std::string, std::string>> members;
     const auto addMethods = [&members](Class methods, const char* sign) {
         for (Method method : listed<Method>(class_copyMethodList, methods))
-            members.emplace_back(
-                std::string(sign) + sel_getName(method_getName(method)), describeMethod(method_getTypeEncoding(method)));
+            members.emplace_back(std::string(sign) + sel_getName(method_getName(method)),
+                describeMethod(method_getTypeEncoding(method)));
     };
     addMethods(type, "-");
     addMethods(object_getClass(reinterpret_cast<id>(type)), "+");
@@ -138,7 +139,8 @@ TEST_F(PlatformFacts, EveryPrivateStandInHasThePhonesSuperclass)
     }
 }
 
-// Names of the documented frameworks begin so, and those of other extensions and of the stand-ins' own helpers are known.
+// Names of the documented frameworks begin so, and those of other extensions and of the stand-ins' own helpers are
+// known.
 TEST_F(PlatformFacts, EveryOtherStandInIsDocumentedOrKnown)
 {
     const char* const known[] = {"HBPreferences", "SparkColourPickerUtils", "WeatherApp", "AXNView"};

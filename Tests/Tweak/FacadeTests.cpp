@@ -1,7 +1,7 @@
 // The classes that the extension's facades are named after.
+#include "ExtensionTest.hpp"
 #include "Simulator/Runtime/StandInClass.hpp"
 #include "Simulator/Runtime/System.hpp"
-#include "ExtensionTest.hpp"
 
 #include <filesystem>
 #include <fstream>

@@ -157,10 +157,12 @@ TEST_F(Fonts, AFileIsRegisteredUnregisteredAndRegisteredAgain)
 TEST_F(Fonts, AFileThatCannotBeReadIsNotRegistered)
 {
     id error = nullptr;
-    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf("/Library/None.ttf").raw(), CTFontManagerScope::process, &error));
+    EXPECT_FALSE(
+        CTFontManagerRegisterFontsForURL(urlOf("/Library/None.ttf").raw(), CTFontManagerScope::process, &error));
     EXPECT_NE(described(error).find("error 101"), std::string::npos);
     put("/Library/Picture.ttf", png(1, 1));
-    EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf("/Library/Picture.ttf").raw(), CTFontManagerScope::process, &error));
+    EXPECT_FALSE(
+        CTFontManagerRegisterFontsForURL(urlOf("/Library/Picture.ttf").raw(), CTFontManagerScope::process, &error));
     EXPECT_NE(described(error).find("error 104"), std::string::npos);
     PhoneFiles::shared().setFault(phoneFile, FileOperation::read, EACCES);
     EXPECT_FALSE(CTFontManagerRegisterFontsForURL(urlOf(phoneFile).raw(), CTFontManagerScope::process, nullptr));

@@ -4,11 +4,11 @@
 #include "Platform/UIKit/UIImage.hpp"
 #include "Product/Choices.hpp"
 #include "Product/Names.hpp"
-#include "Tweak/TextShadow.hpp"
 #include "Tweak/Fonts.hpp"
 #include "Tweak/Settings.hpp"
 #include "Tweak/State.hpp"
 #include "Tweak/StockMotion.hpp"
+#include "Tweak/TextShadow.hpp"
 #include "WKSPalette/WKSColorUtils.hpp"
 
 namespace LYR {
@@ -101,8 +101,8 @@ void takeWallpaperColours()
     _secondaryWallColor = WKSColorUtils::colorWithMinimumSaturation(palette.detail(), 0.35);
 }
 
-/// Colours the label from the source that the code names; a code that names none leaves it as it is. A wallpaper without
-/// a picture has no colours to give.
+/// Colours the label from the source that the code names; a code that names none leaves it as it is. A wallpaper
+/// without a picture has no colours to give.
 void applyColour(const UI::Label& label, const ObjectSetting& source, const UI::Color& stored)
 {
     const UI::Color* const ofWallpaper[]

@@ -7,8 +7,8 @@
 #include "Tweak/Clock/ClockLabels.hpp"
 #include "Tweak/Clock/DateLineIcon.hpp"
 #include "Tweak/Settings.hpp"
-#include "Tweak/TemplateImage.hpp"
 #include "Tweak/State.hpp"
+#include "Tweak/TemplateImage.hpp"
 
 namespace LYR {
 
@@ -25,8 +25,7 @@ UI::Image timerPicture()
 NS::MutableAttributedString timerIcon()
 {
     auto line = NS::MutableAttributedString::withString(""_ns);
-    line.appendAttributedString(
-        dateLineIcon(inkedImage(templateThroughPNG(timerPicture()), _timerLabel->textColor())));
+    line.appendAttributedString(dateLineIcon(inkedImage(templateThroughPNG(timerPicture()), _timerLabel->textColor())));
     return line;
 }
 
@@ -73,7 +72,8 @@ void SBFLockScreenDateSubtitleView_setString(SB::FLockScreenDateSubtitleView sel
 }
 
 /// Since system 16 the subtitle is drawn elsewhere, and the timer's text comes this way.
-void SBFLockScreenDateViewController_updateTimerWithText(SB::FLockScreenDateViewController self, SEL cmd, NS::String text)
+void SBFLockScreenDateViewController_updateTimerWithText(
+    SB::FLockScreenDateViewController self, SEL cmd, NS::String text)
 {
     stock<SBFLockScreenDateViewController_updateTimerWithText>(self, cmd, text);
     readSubtitle(text);

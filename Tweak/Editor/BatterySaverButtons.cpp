@@ -79,9 +79,12 @@ void switchMode()
 }
 
 constexpr Control controls[] = {
-    {.slot = _buttonCL, .make = [] { return makeSaverButton(UI::Color::whiteColor()); }, .placing = belowBattery,
+    {.slot = _buttonCL,
+        .make = [] { return makeSaverButton(UI::Color::whiteColor()); },
+        .placing = belowBattery,
         .action = action<"didPressButtonCL:", switchMode<true>>(ActionGroup::batterySaver)},
-    {.slot = _buttonCL2, .make = [] { return makeSaverButton(UI::Color::systemYellowColor()); },
+    {.slot = _buttonCL2,
+        .make = [] { return makeSaverButton(UI::Color::systemYellowColor()); },
         .placing = belowBattery,
         .action = action<"didPressButtonCL2:", switchMode<false>>(ActionGroup::batterySaver)},
 };

@@ -170,7 +170,9 @@ UI::View roundedPanel()
 }
 
 constexpr Control controls[] = {
-    {.slot = _segmentedControl, .make = mainSegments, .placing = throughout(12, 12, 10, 32),
+    {.slot = _segmentedControl,
+        .make = mainSegments,
+        .placing = throughout(12, 12, 10, 32),
         .action = action<"SegmentChangeViewValueChanged:", changeSegment>(ActionGroup::segments)},
 };
 

@@ -132,9 +132,8 @@ void SBLockScreenManager_lockUIFromSource(SB::LockScreenManager self, SEL cmd, i
 void SBLockScreenManager_lockUIFromSourceWithCompletion(
     SB::LockScreenManager self, SEL cmd, int source, NS::Object options, ObjC::BlockArgument completion)
 {
-    lock(self, [&] {
-        stock<SBLockScreenManager_lockUIFromSourceWithCompletion>(self, cmd, source, options, completion);
-    });
+    lock(self,
+        [&] { stock<SBLockScreenManager_lockUIFromSourceWithCompletion>(self, cmd, source, options, completion); });
 }
 
 void SBLockScreenManager_requestUpdateWidget(SB::LockScreenManager, SEL)
