@@ -5,6 +5,7 @@
 #include "Simulator/Base/Phone.hpp"
 
 #include <dlfcn.h>
+#include <link.h>
 
 #include <map>
 #include <string_view>
@@ -41,11 +42,12 @@ bool isLacking(const Lacking& lacking, Class type, const char* member)
     return false;
 }
 
-/// A library of the phone's kind is mapped by us, so that the system knows no name for its code.
-bool isExtension(const void* code)
+/// A library of the phone's kind is mapped by us, so that the system knows nothing of its code. Asked for every
+/// message, so it is not `dladdr`, which looks for the symbol as well.
+bool isExtension(void* code)
 {
-    Dl_info info;
-    return !dladdr(code, &info) || std::string_view(info.dli_fname).ends_with("/LYR_Pro.so");
+    dl_find_object found;
+    return _dl_find_object(code, &found) != 0 || std::string_view(found.dlfo_link_map->l_name).ends_with("/LYR_Pro.so");
 }
 
 template <class Function>
