@@ -98,8 +98,9 @@ UI::View CSCoverSheetViewController::dateView()
 void CSCoverSheetViewController::placeParts()
 {
     const ScreenLayout layout = ScreenLayout::current();
-    const auto slid = [this](CGRect frame) {
-        frame.origin.x += sheetView().slide;
+    const CSCoverSheetView* sheet = sheetView();
+    const auto slid = [sheet](CGRect frame) {
+        frame.origin.x += sheet ? sheet->slide : 0;
         return frame;
     };
     m_padlock.setFrame(layout.padlock());
@@ -113,15 +114,16 @@ void CSCoverSheetViewController::placeParts()
     m_chargingView.setFrame(centred({layout.size.width, chargingViewHeight}, layout.bounds()));
 }
 
-CSCoverSheetView& CSCoverSheetViewController::sheetView()
+CSCoverSheetView* CSCoverSheetViewController::sheetView()
 {
-    return standIn<CSCoverSheetView>(self<UI::ViewController>().view().raw());
+    return standInOrNull<CSCoverSheetView>(self<UI::ViewController>().view());
 }
 
 void CSCoverSheetViewController::activatePage(unsigned long page, bool, ObjC::BlockArgument completion)
 {
     const double width = ScreenLayout::current().size.width;
-    sheetView().slide = (static_cast<double>(indexOfMainPage()) - static_cast<double>(page)) * width;
+    if (CSCoverSheetView* sheet = sheetView())
+        sheet->slide = (static_cast<double>(indexOfMainPage()) - static_cast<double>(page)) * width;
     self<UI::ViewController>().view().setNeedsLayout();
     Loop::shared().schedule(
         0, [block = KeptBlock<void()>(completion.block)] { block(); }, WorkKind::mainQueue);
@@ -132,7 +134,8 @@ void CSCoverSheetViewController::setPasscodeLockVisible(bool visible, bool)
 {
     if (visible == isPasscodeLockVisible())
         return;
-    const UI::View modal = sheetView().modal;
+    const CSCoverSheetView* sheet = sheetView();
+    const UI::View modal = sheet ? sheet->modal : UI::View();
     modal.setHidden(!visible);
     if (visible) {
         m_passcode = makeLabel("Enter Passcode", passcodeFontSize, FontWeight::regular, UI::Color::whiteColor());

@@ -50,7 +50,8 @@ struct CSCoverSheetViewController : UIViewController {
 private:
     void addChild(const UI::ViewController& child);
     void hideChargingView();
-    CSCoverSheetView& sheetView();
+    /// Null where somebody gave the controller another kind of view.
+    CSCoverSheetView* sheetView();
     void showStockContent(bool shown);
 
     UI::View m_passcode;
