@@ -44,7 +44,7 @@ void CSCoverSheetViewController_transitionChargingView(
         self, cmd, visible && allowed, showBattery && allowed, animated && allowed);
 }
 
-/// A phone without one does not get one.
+/// As later systems call it, which know of battery packs.
 void CSCoverSheetViewController_transitionChargingViewOrPack(
     CS::CoverSheetViewController self, SEL cmd, bool visible, bool suppressedByPack, bool showBattery, bool animated)
 {
